@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "KnField.h"
+
+#include "KnFieldSensor.h"
+#include "KnMField.h"
+#include "KnSensorQueue.h"
+
+KnType KnField::getClassTypeId()
+{
+    static const KnType type = KnType::create("Field", KnType());
+    return type;
+}
+
+KnType KnSField::getClassTypeId()
+{
+    static const KnType type = KnType::create("SField", KnField::getClassTypeId());
+    return type;
+}
+
+KnType KnMField::getClassTypeId()
+{
+    static const KnType type = KnType::create("MField", KnField::getClassTypeId());
+    return type;
+}
+
+KnField::KnField() = default;
+
+KnField::~KnField()
+{
+    while (!m_sensors.empty())
+        m_sensors.back()->detach();
+}
+
+void KnField::setIgnored(int ignored)
+{
+    m_ignored = ignored != 0;
+    touch();
+}
+
+void KnField::touch()
+{
+    for (KnFieldSensor* sensor : m_sensors)
+        KnSensorQueue::getInstance().schedule(sensor);
+}
+
+void KnMField::valueChanged(int, int, int) { touch(); }

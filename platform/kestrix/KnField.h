@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnTypedObject.h"
+
+#include <vector>
+
+class KnFieldContainer;
+class KnFieldSensor;
+
+/// One value, or one array of values, of a node. A field belongs to its container, which has it as
+/// a plain member; it may also stand alone. Destroying a field detaches its sensors.
+class KnField : public KnTypedObject {
+public:
+    ~KnField() override;
+
+    static KnType getClassTypeId();
+
+    /// The whole value as text. What `get` gives, `set` accepts, also on another field of the type.
+    virtual void get(KbString& text) const = 0;
+    /// Takes the whole value as text. A refused text changes nothing, posts a KnReadError that
+    /// names field, position and what was expected, and gives false.
+    virtual bool set(const KbString& text) = 0;
+    bool set(const char* text) { return set(KbString(text)); }
+
+    /// An ignored field keeps its value, which takes no part in what the scene does.
+    int isIgnored() const { return m_ignored ? 1 : 0; }
+    void setIgnored(int ignored);
+
+    /// Null for a field that stands alone.
+    KnFieldContainer* getContainer() const { return m_container; }
+
+    /// Tells the sensors that something changed; they run later, from the kernel's queue.
+    void touch();
+
+protected:
+    KnField();
+
+private:
+    friend class KnFieldContainer;
+    friend class KnFieldSensor;
+
+    KnFieldContainer* m_container = nullptr; // the owner of this field
+    std::vector<KnFieldSensor*> m_sensors; // not owned
+    bool m_ignored = false;
+};
+
+/// Base of all fields that hold one value.
+class KnSField : public KnField {
+public:
+    static KnType getClassTypeId();
+};

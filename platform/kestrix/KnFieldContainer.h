@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnFieldData.h"
+#include "KnTypedObject.h"
+
+/// Base of all nodes: a reference-counted holder of fields. It starts with a count of 0; the last
+/// `unref` destroys it.
+class KnFieldContainer : public KnTypedObject {
+public:
+    static KnType getClassTypeId();
+
+    void ref() { ++m_referenceCount; }
+    void unref();
+    int getReferenceCount() const { return m_referenceCount; }
+
+    /// The fields of this node's class.
+    virtual const KnFieldData* getContainerFieldData() const = 0;
+    KnField* getField(const KbName& name);
+
+    const KbName& getName() const { return m_name; }
+    void setName(const KbName& name) { m_name = name; }
+
+protected:
+    KnFieldContainer() = default;
+    ~KnFieldContainer() override;
+
+    /// Makes `field`, a member of this node, one of its fields. `data` is the class's own table;
+    /// the first instance of a class fills it, later ones only adopt the field.
+    void addField(KnFieldData& data, const char* name, KnField& field);
+
+private:
+    KbName m_name;
+    int m_referenceCount = 0;
+};

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KbName.h"
+
+#include <cstddef>
+#include <vector>
+
+class KnField;
+class KnFieldContainer;
+
+/// The fields of one node class by index and name, those of its base classes first. One object
+/// serves all instances of the class.
+class KnFieldData {
+public:
+    int getNum() const { return static_cast<int>(m_entries.size()); }
+    const KbName& getName(int index) const
+    {
+        return m_entries[static_cast<std::size_t>(index)].name;
+    }
+    /// -1 for a field that isn't one of the container's.
+    int getIndex(const KnFieldContainer* container, const KnField* field) const;
+    /// -1 for a name that the class doesn't have.
+    int getIndex(const KbName& name) const;
+    /// Null for an index outside 0 to `getNum() - 1`.
+    KnField* getField(KnFieldContainer* container, int index) const;
+    const KnField* getField(const KnFieldContainer* container, int index) const;
+
+private:
+    friend class KnFieldContainer;
+
+    struct Entry {
+        KbName name;
+        std::ptrdiff_t offset; // of the field from its container, in bytes
+    };
+
+    static std::ptrdiff_t offsetOf(const KnFieldContainer* container, const KnField* field);
+    /// -1 if no field lies there.
+    int findOffset(std::ptrdiff_t offset) const;
+
+    std::vector<Entry> m_entries;
+};

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+class KnField;
+
+/// Base of what the kernel's queue runs.
+class KnSensor {
+public:
+    using Callback = void (*)(void* data, KnSensor* sensor);
+
+    KnSensor(Callback callback, void* data)
+        : m_callback(callback)
+        , m_data(data)
+    {
+    }
+    KnSensor(const KnSensor&) = delete;
+    KnSensor& operator=(const KnSensor&) = delete;
+    /// Leaves the queue.
+    virtual ~KnSensor();
+
+private:
+    friend class KnSensorQueue;
+
+    Callback m_callback;
+    void* m_data; // given to the callback unchanged, not owned
+    bool m_queued = false;
+};
+
+/// Watches one field. The callback runs from the kernel's queue, on the user interface thread, once
+/// for any number of changes since it last ran; never inside the write that caused it. It may
+/// attach, detach and destroy this sensor and others, and write fields.
+class KnFieldSensor : public KnSensor {
+public:
+    using KnSensor::KnSensor;
+    ~KnFieldSensor() override;
+
+    /// Detaches from the field watched so far. Null only detaches.
+    void attach(KnField* field);
+    /// Also drops a notification that waits in the queue.
+    void detach();
+    KnField* getAttachedField() const { return m_field; }
+
+private:
+    friend class KnField;
+
+    KnField* m_field = nullptr; // not owned; a field that goes away detaches its sensors
+};

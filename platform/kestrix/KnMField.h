@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnField.h"
+
+/// Base of all fields that hold an array of values. Rows count from 0.
+class KnMField : public KnField {
+public:
+    static KnType getClassTypeId();
+
+    virtual int getNum() const = 0;
+    /// Cuts the array, or fills it up with default values.
+    virtual void setNum(int num) = 0;
+
+    /// One value as text. A row outside the array gives an empty text and false.
+    virtual bool get1(int row, KbString& text) const = 0;
+    /// Takes one value as text; refusals are those of KnField::set, a row outside the array among
+    /// them.
+    virtual bool set1(int row, const KbString& text) = 0;
+    bool set1(int row, const char* text) { return set1(row, KbString(text)); }
+
+    /// Inserts `num` default values before row `start`; a start outside 0 to `getNum()` is moved
+    /// to the nearer end.
+    virtual void insertValues(int start, int num) = 0;
+    /// Removes what the array has of the rows from `start` to `start + num - 1`.
+    virtual void removeValues(int start, int num) = 0;
+
+    /// Says that `num` rows from `start` on were changed, `reason` 1 standing for rows that were
+    /// added. It touches the field.
+    void valueChanged(int start, int num, int reason);
+};

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnMField.h"
+
+#include <cstdint>
+#include <vector>
+
+class KnTextReader;
+
+/// What all multi-value field classes share: the values in one contiguous array, and their text by
+/// the text form of the value type. A field class adds its type and nothing else; see KnMFields.h.
+template <class Value_>
+class KnMFieldOf : public KnMField {
+public:
+    using Value = Value_;
+
+    int getNum() const override { return static_cast<int>(m_values.size()); }
+    void setNum(int num) override;
+
+    /// `row` is from 0 to `getNum() - 1`; nothing is checked.
+    const Value& operator[](int row) const { return m_values[static_cast<std::size_t>(row)]; }
+    /// All values, in order; the pointer holds until the array changes its length.
+    const Value* getValues() const { return m_values.data(); }
+    /// Writes one row. A row at or beyond the end makes the array longer, with default values in
+    /// between; a negative one is ignored.
+    void set1Value(int row, const Value& value);
+    /// Writes `num` rows from `start` on, making the array longer where needed.
+    void setValues(int start, int num, const Value* values);
+
+    using KnMField::set;
+    using KnMField::set1;
+    void get(KbString& text) const override;
+    bool set(const KbString& text) override;
+    bool get1(int row, KbString& text) const override;
+    bool set1(int row, const KbString& text) override;
+    void insertValues(int start, int num) override;
+    void removeValues(int start, int num) override;
+
+private:
+    /// False, after a KnMemoryError, when there is no memory for so many.
+    bool resize(std::int64_t num);
+    static bool readArray(KnTextReader& reader, std::vector<Value>& values);
+
+    std::vector<Value> m_values;
+};

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnFieldContainer.h"
+#include "KnTypeMacros.h"
+
+/// In the body of a node class: its type, its table of fields and its constructor. What follows is
+/// public.
+#define KN_NODE(Class)                                                                             \
+    KN_TYPE(Class)                                                                                 \
+    Class();                                                                                       \
+    const KnFieldData* getContainerFieldData() const override { return &fieldData(); }             \
+                                                                                                   \
+protected:                                                                                         \
+    ~Class() override = default;                                                                   \
+    static KnFieldData& fieldData();                                                               \
+                                                                                                   \
+public:
+
+/// In the source file of a node class. The table outlives all static objects.
+#define KN_NODE_SOURCE(Class, Parent)                                                              \
+    KN_TYPE_SOURCE(Class, Parent)                                                                  \
+    KnFieldData& Class::fieldData()                                                                \
+    {                                                                                              \
+        static KnFieldData& data = *new KnFieldData;                                               \
+        return data;                                                                               \
+    }
+
+/// In the constructor of a node class: makes a member a field of its name.
+#define KN_FIELD(member) addField(fieldData(), #member, member)
+
+/// Base of the nodes that a scene is made of.
+class KnNode : public KnFieldContainer {
+public:
+    static KnType getClassTypeId();
+};

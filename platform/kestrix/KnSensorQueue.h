@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <cstddef>
+#include <deque>
+
+class KnSensor;
+
+/// The queue of sensors that wait to run, in the order in which they were touched. User interface
+/// thread only.
+class KnSensorQueue {
+public:
+    using WakeCallback = void (*)(void* data);
+
+    static KnSensorQueue& getInstance();
+
+    /// The host's means to be told that the queue is no longer empty: called once when the first
+    /// sensor enters an empty queue, outside of processing, and at once when sensors wait already.
+    /// Null takes it away.
+    void setWakeCallback(WakeCallback callback, void* data);
+
+    /// Puts a sensor at the end; one that already waits stays where it is.
+    void schedule(KnSensor* sensor);
+    void remove(KnSensor* sensor);
+
+    bool isEmpty() const { return m_sensors.empty(); }
+    /// Runs the sensors that wait now, in order. What a callback touches waits for the next run,
+    /// for which the host is woken. Called from within a callback, it does nothing.
+    void process();
+
+private:
+    KnSensorQueue() = default;
+
+    void wake() const;
+
+    std::deque<KnSensor*> m_sensors; // not owned; a sensor that goes away leaves
+    std::size_t m_remaining = 0; // how many at the front belong to the run under way
+    WakeCallback m_wake = nullptr;
+    void* m_wakeData = nullptr;
+    bool m_processing = false;
+};

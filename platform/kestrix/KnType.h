@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KbName.h"
+
+class KnTypedObject;
+
+/// A small handle into the registry of types. Copies are cheap; a handle stays valid for the life
+/// of the process. Types are registered and looked up on the user interface thread.
+class KnType {
+public:
+    using Factory = KnTypedObject* (*)();
+
+    /// The bad type: derived from nothing, nothing is derived from it but itself.
+    KnType() = default;
+
+    /// Registers a type. `factory` is null for an abstract type. A name that is already taken
+    /// gives the type of that name, whose factory is replaced: a plug-in that is loaded again
+    /// registers its types again.
+    static KnType create(const KbName& name, KnType parent, Factory factory = nullptr);
+    /// The bad type if there is none of that name.
+    static KnType fromName(const KbName& name);
+
+    bool isBad() const { return m_index == 0; }
+    const KbName& getName() const;
+    KnType getParent() const;
+    /// True for the type itself and its ancestors.
+    bool isDerivedFrom(const KnType& ancestor) const;
+    bool canCreateInstance() const;
+    /// A fresh, default-valued instance that the caller owns, or null for an abstract type. A
+    /// KnFieldContainer comes with a reference count of 0.
+    KnTypedObject* createInstance() const;
+
+    friend bool operator==(const KnType&, const KnType&) = default;
+
+private:
+    explicit KnType(int index)
+        : m_index(index)
+    {
+    }
+
+    int m_index = 0;
+};

@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "KnCoordinates.h"
+
+KN_NODE_SOURCE(KnCoordinates, KnNode)
+
+KnCoordinates::KnCoordinates() { KN_FIELD(point); }

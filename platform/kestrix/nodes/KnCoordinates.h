@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnMFields.h"
+#include "KnNode.h"
+
+/// The points that the shapes after it are made of.
+class KnCoordinates : public KnNode {
+    KN_NODE(KnCoordinates)
+    KnMFVec3f point;
+};

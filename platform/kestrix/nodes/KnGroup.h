@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnNode.h"
+#include "KnSFields.h"
+
+#include <vector>
+
+/// A node with children, in order. It holds a reference on each; the same child may stand in
+/// several groups, and several times in one.
+class KnGroup : public KnNode {
+    KN_TYPE(KnGroup)
+    KnGroup();
+    const KnFieldData* getContainerFieldData() const override { return &fieldData(); }
+
+    KnSFBool visible; ///< whether the children are drawn
+
+    int getNumChildren() const { return static_cast<int>(m_children.size()); }
+    /// Null for an index outside 0 to `getNumChildren() - 1`. The child stays the group's.
+    KnFieldContainer* getChild(int index) const;
+    /// -1 if it isn't a child.
+    int findChild(const KnFieldContainer* child) const;
+
+    /// Appends a child. False, with a KnDebugError and no change, for null and for a child that is
+    /// this group or has it among its descendants.
+    bool addChild(KnFieldContainer* child);
+    /// The same before the child at `index`; an index outside the list is moved to the nearer end.
+    bool insertChild(KnFieldContainer* child, int index);
+    /// Gives the reference back, which destroys a child that nobody else holds. False for what
+    /// isn't a child.
+    bool removeChild(int index);
+    bool removeChild(const KnFieldContainer* child);
+
+protected:
+    /// For a derived class, whose table `data` is.
+    explicit KnGroup(KnFieldData& data);
+    ~KnGroup() override;
+    static KnFieldData& fieldData();
+
+private:
+    bool isBelow(KnFieldContainer* root) const;
+
+    std::vector<KnFieldContainer*> m_children; // a reference is held on each
+};

@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "KnHomogeneousCoordinates.h"
+
+KN_NODE_SOURCE(KnHomogeneousCoordinates, KnNode)
+
+KnHomogeneousCoordinates::KnHomogeneousCoordinates() { KN_FIELD(point); }

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnNode.h"
+#include "KnSFields.h"
+
+/// What all lights share.
+class KnLight : public KnNode {
+public:
+    static KnType getClassTypeId();
+
+    KnSFBool on;
+    KnSFFloat intensity; ///< 0 to 1
+    KnSFColor color;
+
+protected:
+    /// `data` is the table of the class that is being made.
+    explicit KnLight(KnFieldData& data);
+};

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "KnPointLight.h"
+
+KN_NODE_SOURCE(KnPointLight, KnLight)
+
+KnPointLight::KnPointLight()
+    : KnLight(fieldData())
+{
+    KN_FIELD(location);
+    KN_FIELD(attenuation);
+    location.setValue(0.0F, 0.0F, 1.0F);
+    attenuation.setValue(0.0F, 0.0F, 1.0F);
+}

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "KbMemory.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+
+namespace {
+
+std::atomic<std::uint64_t> s_calls { 0 };
+std::atomic<std::uint64_t> s_bytes { 0 };
+
+/// Counts a block that was got; without one it ends the process.
+void* counted(void* block, std::size_t size)
+{
+    if (!block) {
+        std::fprintf(stderr, "Out of memory: %zu bytes were asked for\n", size);
+        std::abort();
+    }
+    s_calls.fetch_add(1, std::memory_order_relaxed);
+    s_bytes.fetch_add(size, std::memory_order_relaxed);
+    return block;
+}
+
+} // namespace
+
+// The forms that don't throw are called, so that the message is ours. They call the throwing forms,
+// the process's own where it has some.
+
+void* safeMalloc(std::size_t size) { return counted(::operator new(size, std::nothrow), size); }
+
+void* safeRealloc(void* block, std::size_t oldSize, std::size_t newSize)
+{
+    void* moved = safeMalloc(newSize);
+    if (block) {
+        std::memcpy(moved, block, std::min(oldSize, newSize));
+        safeFree(block);
+    }
+    return moved;
+}
+
+void safeFree(void* block) noexcept { ::operator delete(block); }
+
+void* safeMallocArray(std::size_t size)
+{
+    return counted(::operator new[](size, std::nothrow), size);
+}
+
+void safeFreeArray(void* block) noexcept { ::operator delete[](block); }
+
+void* safeMallocAligned(std::size_t size, std::size_t alignment)
+{
+    return counted(::operator new(size, std::align_val_t(alignment), std::nothrow), size);
+}
+
+void safeFreeAligned(void* block, std::size_t alignment) noexcept
+{
+    ::operator delete(block, std::align_val_t(alignment));
+}
+
+void* safeMallocArrayAligned(std::size_t size, std::size_t alignment)
+{
+    return counted(::operator new[](size, std::align_val_t(alignment), std::nothrow), size);
+}
+
+void safeFreeArrayAligned(void* block, std::size_t alignment) noexcept
+{
+    ::operator delete[](block, std::align_val_t(alignment));
+}
+
+KbAllocationCount allocationCount() noexcept
+{
+    return { s_calls.load(std::memory_order_relaxed), s_bytes.load(std::memory_order_relaxed) };
+}
