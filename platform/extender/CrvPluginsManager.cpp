@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CrvPluginsManager.h"
+
+#include "CrvBuiltInProfiles.h"
+#include "CrvExtension.h"
+#include "CrvPluginLibrary.h"
+#include "CrvProfile.h"
+#include "CrvProfileReader.h"
+#include "CrvProfileResolution.h"
+#include "CrvServices.h"
+#include "CrvShell.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QUndoStack>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+CrvPluginsManager* instance = nullptr; // owned, until the application object goes away
+
+using Profiles = std::vector<std::unique_ptr<CrvProfile>>;
+
+bool contains(const std::vector<CrvExtension*>& extensions, const CrvExtension* extension)
+{
+    return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
+}
+
+} // namespace
+
+struct CrvPluginsManager::Private {
+    struct LoadedPlugin {
+        CrvPlugin* plugin; // owned by the library's code, or by who had it adopted
+        std::unique_ptr<CrvPluginLibrary> library; // null for an adopted one
+    };
+
+    explicit Private(CrvPluginsManager* manager)
+        : q(manager)
+    {
+    }
+
+    void startPlugin(CrvPlugin* plugin, std::unique_ptr<CrvPluginLibrary> library);
+    void replaceProfiles(Profiles newProfiles);
+    void carryOut();
+    void carryOutOnce();
+    void finish();
+    CrvProfileResolution* resolve();
+
+    CrvPluginsManager* const q;
+    std::vector<LoadedPlugin> plugins; // those whose extensions are loaded
+    std::vector<CrvExtension*> active; // in the order of their activation; not owned
+    Profiles ownedProfiles;
+    std::list<CrvProfile*> profiles;
+    CrvProfile* activeProfile = nullptr;
+    std::unique_ptr<CrvProfileResolution> resolution; // of the active profile, made when asked for
+    CrvProfileSetting noSetting; // of whatever the profile doesn't list
+
+    bool busy = false; // extensions are being activated or deactivated
+    bool interrupted = false; // what is to be active changed meanwhile
+    bool reactivateAll = false; // also those extensions that stay active
+    bool profileChanged = false; // the signal is due
+};
+
+void CrvPluginsManager::Private::startPlugin(
+    CrvPlugin* plugin, std::unique_ptr<CrvPluginLibrary> library)
+{
+    plugin->load();
+    for (CrvExtension* extension : std::vector<CrvExtension*>(plugin->getExtensions()))
+        extension->load();
+    plugins.push_back({ plugin, std::move(library) });
+    carryOut();
+}
+
+void CrvPluginsManager::Private::replaceProfiles(Profiles newProfiles)
+{
+    const auto sameName = [this](const std::unique_ptr<CrvProfile>& profile) {
+        return activeProfile && profile->getName() == activeProfile->getName();
+    };
+    const auto kept = std::find_if(newProfiles.begin(), newProfiles.end(), sameName);
+    activeProfile = (kept == newProfiles.end() ? newProfiles.front() : *kept).get();
+
+    // The former ones go last, so that no slot is left with a pointer to one that is gone.
+    const Profiles former = std::exchange(ownedProfiles, std::move(newProfiles));
+    profiles.clear();
+    for (const std::unique_ptr<CrvProfile>& profile : ownedProfiles)
+        profiles.push_back(profile.get());
+    profileChanged = true;
+    // The profile selector reads the list when it is activated.
+    reactivateAll = true;
+    Q_EMIT q->profilesChanged();
+    carryOut();
+}
+
+/// Brings the active extensions in line with the active profile. An extension may change plug-ins
+/// and profiles from within the calls that it gets here: that only ends the round, and the next
+/// one goes for the newest state.
+void CrvPluginsManager::Private::carryOut()
+{
+    resolution.reset();
+    if (busy) {
+        interrupted = true;
+        return;
+    }
+    busy = true;
+    do {
+        interrupted = false;
+        carryOutOnce();
+    } while (interrupted);
+    finish();
+}
+
+void CrvPluginsManager::Private::carryOutOnce()
+{
+    std::vector<CrvExtension*> wanted;
+    if (const CrvProfileResolution* resolved = resolve())
+        wanted = resolved->getTopExtensions();
+
+    for (std::size_t i = active.size(); i-- > 0;) {
+        CrvExtension* const extension = active[i];
+        if (!reactivateAll && contains(wanted, extension))
+            continue;
+        active.erase(active.begin() + static_cast<std::ptrdiff_t>(i));
+        extension->deactivate();
+        if (interrupted)
+            return;
+    }
+    reactivateAll = false;
+    for (CrvExtension* extension : wanted) {
+        if (contains(active, extension))
+            continue;
+        active.push_back(extension);
+        extension->activate();
+        if (interrupted)
+            return;
+    }
+}
+
+void CrvPluginsManager::Private::finish()
+{
+    busy = false;
+    // The docks choose their editors among what is there now.
+    if (!active.empty())
+        CrvServices::getInstance()->announceSelection();
+    if (std::exchange(profileChanged, false))
+        Q_EMIT q->activeProfileChanged(activeProfile);
+}
+
+CrvProfileResolution* CrvPluginsManager::Private::resolve()
+{
+    if (!resolution && activeProfile)
+        resolution = std::make_unique<CrvProfileResolution>(*activeProfile, q->getExtensions());
+    return resolution.get();
+}
+
+CrvPluginsManager* CrvPluginsManager::getInstance()
+{
+    if (!instance) {
+        // The services must outlive the manager, whose plug-ins use them to the last.
+        CrvServices::getInstance();
+        instance = new CrvPluginsManager;
+        qAddPostRoutine([] { delete std::exchange(instance, nullptr); });
+    }
+    return instance;
+}
+
+CrvPluginsManager::CrvPluginsManager()
+    : d(std::make_unique<Private>(this))
+{
+    d->replaceProfiles(builtInProfiles());
+}
+
+CrvPluginsManager::~CrvPluginsManager()
+{
+    if (d->active.empty() || CrvShell::getInstance()) {
+        unloadAll();
+        return;
+    }
+    // Extensions take their docks out of the shell. Without it they can't be told any more.
+    qWarning("CrvPluginsManager: the shell was destroyed before the plug-ins were unloaded");
+    for (Private::LoadedPlugin& loaded : d->plugins)
+        static_cast<void>(loaded.library.release());
+}
+
+CrvPlugin* CrvPluginsManager::loadPlugin(const QString& fileName, QString* error)
+{
+    // Its code keeps one plug-in object, which a second call would lose.
+    const QString path = QFileInfo(fileName).canonicalFilePath();
+    for (const Private::LoadedPlugin& loaded : d->plugins) {
+        if (loaded.library && loaded.library->getFileName() == path) {
+            if (error)
+                *error = tr("%1: this plug-in is already loaded").arg(fileName);
+            return nullptr;
+        }
+    }
+    std::unique_ptr<CrvPluginLibrary> library = CrvPluginLibrary::open(fileName, error);
+    if (!library)
+        return nullptr;
+    CrvPlugin* const plugin = library->getPlugin();
+    d->startPlugin(plugin, std::move(library));
+    return plugin;
+}
+
+void CrvPluginsManager::adoptPlugin(CrvPlugin* plugin)
+{
+    if (plugin)
+        d->startPlugin(plugin, nullptr);
+}
+
+void CrvPluginsManager::unloadAll()
+{
+    if (d->busy) {
+        qWarning("CrvPluginsManager: an extension can't unload the plug-ins while it is activated "
+                 "or deactivated");
+        return;
+    }
+    d->busy = true;
+    CrvServices* const services = CrvServices::getInstance();
+    services->selectNode(nullptr);
+    // The code of the commands goes away with the plug-ins.
+    services->getUndoStack()->clear();
+
+    while (!d->active.empty()) {
+        CrvExtension* const extension = d->active.back();
+        d->active.pop_back();
+        extension->deactivate();
+    }
+    while (!d->plugins.empty()) {
+        const Private::LoadedPlugin last = std::move(d->plugins.back());
+        d->plugins.pop_back();
+        d->resolution.reset();
+        const std::vector<CrvExtension*> extensions = last.plugin->getExtensions();
+        std::for_each(extensions.rbegin(), extensions.rend(),
+            [](CrvExtension* extension) { extension->unload(); });
+        last.plugin->unload();
+    }
+    d->resolution.reset();
+    d->interrupted = false;
+    d->finish();
+}
+
+std::vector<CrvExtension*> CrvPluginsManager::getExtensions() const
+{
+    std::vector<CrvExtension*> extensions;
+    for (const Private::LoadedPlugin& loaded : d->plugins) {
+        const std::vector<CrvExtension*>& more = loaded.plugin->getExtensions();
+        extensions.insert(extensions.end(), more.begin(), more.end());
+    }
+    return extensions;
+}
+
+bool CrvPluginsManager::loadProfiles(const QString& fileName, QString* error)
+{
+    QString reason;
+    Profiles profiles;
+    QFile file(fileName);
+    if (file.open(QIODevice::ReadOnly))
+        profiles = readProfiles(file.readAll(), &reason);
+    else
+        reason = file.errorString();
+    if (profiles.empty()) {
+        if (error)
+            *error = fileName + QStringLiteral(": ") + reason;
+        return false;
+    }
+    d->replaceProfiles(std::move(profiles));
+    return true;
+}
+
+void CrvPluginsManager::useBuiltInProfiles() { d->replaceProfiles(builtInProfiles()); }
+
+const std::list<CrvProfile*>& CrvPluginsManager::getProfilesList() const { return d->profiles; }
+
+CrvProfile* CrvPluginsManager::getActiveProfile() const { return d->activeProfile; }
+
+void CrvPluginsManager::setActiveProfile(CrvProfile* profile)
+{
+    const bool known = !profile
+        || std::find(d->profiles.begin(), d->profiles.end(), profile) != d->profiles.end();
+    if (!known || profile == d->activeProfile)
+        return;
+    d->activeProfile = profile;
+    d->profileChanged = true;
+    d->carryOut();
+}
+
+CrvProfileSetting* CrvPluginsManager::getProfileSetting(const CrvExtension* extension) const
+{
+    const CrvProfileResolution* resolved = d->resolve();
+    CrvProfileSetting* const setting = resolved ? resolved->getSetting(extension) : nullptr;
+    return setting ? setting : &d->noSetting;
+}
