@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CrvFieldEditors.h"
+
+#include "KnField.h"
+#include "KnFieldSensor.h"
+
+#include <QFrame>
+
+CrvFieldEditors::CrvFieldEditors()
+    : m_frame(new QFrame)
+{
+    m_author = "Orbel";
+    m_description = "Field Editor for Corvane.";
+    m_version = "1.0.0";
+    m_widget = m_frame;
+}
+
+CrvFieldEditors::~CrvFieldEditors()
+{
+    delete m_fieldSensor;
+    delete m_frame;
+}
+
+void CrvFieldEditors::identify(
+    const KnType& handledType, const char* extensionName, const char* name, const char* className)
+{
+    m_handledType = handledType;
+    m_name = extensionName;
+    if (!name)
+        setObjectName(QLatin1String(className));
+}
+
+void CrvFieldEditors::activate()
+{
+    CrvEditor::activate();
+    auto* const field = dynamic_cast<KnField*>(getEditedObject());
+    if (!field)
+        return;
+    attachField(field);
+    updateFromField();
+    show();
+}
+
+void CrvFieldEditors::deactivate()
+{
+    CrvEditor::deactivate();
+    if (m_fieldSensor)
+        m_fieldSensor->detach();
+    hide();
+}
+
+void CrvFieldEditors::hide()
+{
+    CrvEditor::hide();
+    m_frame->hide();
+}
+
+void CrvFieldEditors::show()
+{
+    CrvEditor::show();
+    m_frame->show();
+}
+
+void CrvFieldEditors::load()
+{
+    hide();
+    m_fieldSensor = new KnFieldSensor(&CrvFieldEditors::fieldChanged, this);
+}
+
+void CrvFieldEditors::unload()
+{
+    delete m_fieldSensor;
+    m_fieldSensor = nullptr;
+}
+
+void CrvFieldEditors::attachField(KnField* field) { m_fieldSensor->attach(field); }
+
+void CrvFieldEditors::fieldChanged(void* data, KnSensor*)
+{
+    static_cast<CrvFieldEditors*>(data)->updateFromField();
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "CrvEditor.h"
+#include "FieldRange.h"
+
+#include <QString>
+
+class KnField;
+class KnFieldSensor;
+class KnSensor;
+class QFrame;
+
+/// Base of every widget that edits one field. It owns the frame that the dock shows and the sensor
+/// that watches the field, and turns the host's life cycle into three steps: attach to the field,
+/// fill the widgets from it, show. One object serves all fields of its type, one at a time.
+class CrvFieldEditors : public CrvEditor {
+    Q_OBJECT
+public:
+    CrvFieldEditors();
+    /// Deletes the frame; a dock that shows it gives it back first.
+    ~CrvFieldEditors() override;
+
+    /// With a field as edited object: attaches, refreshes and shows, in this order. Without one
+    /// it does no more than the base's part.
+    void activate() override;
+    void deactivate() override;
+    void hide() override;
+    /// A subclass calls this one first, before it builds its widgets in the frame.
+    void load() override;
+    void show() override;
+    void unload() override;
+
+    /// Attaches the sensor. A subclass stores the field first and then calls this one; what it
+    /// derives from the field (ranges, entries) is made here, before the first refresh.
+    virtual void attachField(KnField* field);
+    /// Fills the widgets from the field. It never writes the field.
+    virtual void updateFromField() = 0;
+    /// Lets an editor of an array refuse refreshes while a slider inside its table writes a cell.
+    virtual void setFieldUpdateEnabled(bool enabled) = 0;
+    /// Exchanges two rows of an array, with no command.
+    virtual void swapFieldValues(int row1, int row2) = 0;
+    /// Writes one cell of an array.
+    virtual void setFieldValue(int row, int column, QString text) = 0;
+    /// Writes one row of an array of colours through a command; `color` points to a KbVec4f.
+    virtual void setFieldColor(int row, const void* color) = 0;
+    /// Writes what the widgets show into the field and hands a command to the host.
+    virtual void applyChanges() = 0;
+
+    /// The parent of all of the editor's widgets.
+    QFrame* getFrame() const { return m_frame; }
+
+protected:
+    /// For the constructors of concrete editors: the type that the editor handles, the
+    /// extension's name, and the object name, which is `className` when `name` is null.
+    void identify(const KnType& handledType, const char* extensionName, const char* name,
+        const char* className);
+
+    FieldRange m_fieldRange; // what a numeric editor chose for its present field
+
+private:
+    static void fieldChanged(void* data, KnSensor* sensor);
+
+    KnFieldSensor* m_fieldSensor = nullptr; // owned, from load to unload
+    QFrame* m_frame; // owned; has no parent but the dock that shows it
+};

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "CrvCommand.h"
+
+class KnField;
+
+/// A change of a field's ignore flag.
+class CrvFieldIgnoredCommand : public CrvCommand {
+public:
+    /// `ignored` is the state that the edit gives the flag. The field is not owned.
+    CrvFieldIgnoredCommand(KnField* field, bool ignored);
+
+    void execute() override;
+    /// Sets the opposite, whatever the flag is by then.
+    void undo() override;
+    void redo() override;
+
+private:
+    KnField* m_field; // not owned
+    bool m_ignored;
+};

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "WfMFieldTableItemDelegate.h"
+
+#include "CellText.h"
+#include "NumberLocale.h"
+#include "QUIntValidator.h"
+#include "QULongValidator.h"
+#include "WfIntSlider.h"
+#include "WfMFieldTable.h"
+#include "WfMFieldWidget.h"
+#include "WfRealSlider.h"
+#include "WfUIntSlider.h"
+
+#include <QDoubleValidator>
+#include <QIntValidator>
+#include <QLineEdit>
+#include <QPainter>
+
+#include <limits>
+
+namespace {
+
+// A cell's text keeps this distance from both of its ends together, in pixels.
+constexpr int CellPadding = 4;
+constexpr unsigned int UnsignedTop = std::numeric_limits<unsigned int>::max();
+constexpr double FloatTop = 3.4028234663852886e38;
+constexpr int FloatDecimals = 6;
+
+/// Null for a kind whose lines take any text.
+QValidator* makeValidator(int kind, QObject* parent)
+{
+    switch (kind) {
+    case Int16Kind:
+        return new QIntValidator(-32767, 32767, parent);
+    case UInt16Kind:
+        return new QIntValidator(0, 65535, parent);
+    case WholeNumberKind:
+        return new QIntValidator(parent);
+    case UnsignedNumberKind:
+        return new QUIntValidator(0, UnsignedTop, parent);
+    case Int32Kind:
+        return new QIntValidator(-2147483647, 2147483647, parent);
+    case UInt32Kind:
+        return new QULongValidator(0, UnsignedTop, parent);
+    case FloatKind:
+        return new QDoubleValidator(-FloatTop, FloatTop, FloatDecimals, parent);
+    case DoubleKind:
+        return new QDoubleValidator(parent);
+    default:
+        return nullptr;
+    }
+}
+
+void showText(QWidget* editor, const QString& text)
+{
+    if (auto* const line = qobject_cast<QLineEdit*>(editor))
+        line->setText(text);
+    else if (auto* const real = dynamic_cast<WfRealSlider*>(editor))
+        real->setValue(static_cast<double>(text.toFloat()));
+    else if (auto* const slider = qobject_cast<WfSlider*>(editor))
+        slider->setValue(text);
+}
+
+} // namespace
+
+WfMFieldTableItemDelegate::WfMFieldTableItemDelegate(WfMFieldWidget* widget, WfMFieldTable* table)
+    : QItemDelegate(table)
+    , m_widget(widget)
+    , m_table(table)
+{
+}
+
+void WfMFieldTableItemDelegate::setIntRange(int min, int max)
+{
+    m_intMin = min;
+    m_intMax = max;
+}
+
+void WfMFieldTableItemDelegate::setRealRange(double min, double max)
+{
+    m_realMin = min;
+    m_realMax = max;
+}
+
+void WfMFieldTableItemDelegate::paint(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    painter->save();
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    if (isSelected)
+        painter->fillRect(option.rect, option.palette.highlight());
+    painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+
+    const QFontMetrics metrics = painter->fontMetrics();
+    const QString text = m_widget->getCellText(index.row(), index.column());
+    painter->drawText(option.rect, Qt::AlignCenter,
+        cellText(text, option.rect.width() - CellPadding,
+            [&metrics](const QString& part) { return metrics.horizontalAdvance(part); }));
+    painter->restore();
+}
+
+QWidget* WfMFieldTableItemDelegate::createEditor(
+    QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+{
+    const int row = index.row();
+    const int column = index.column();
+    const bool isOnlyColumn = column == 0 && index.model()->columnCount(QModelIndex()) == 1;
+
+    QWidget* editor = isOnlyColumn ? makeSlider(parent, row, column) : nullptr;
+    if (!editor)
+        editor = makeLineEdit(parent);
+    showText(editor, m_widget->getCellText(row, column));
+    editor->setFocusPolicy(Qt::StrongFocus);
+    m_table->editorKeeper().editorOpened(editor, index);
+    return editor;
+}
+
+QWidget* WfMFieldTableItemDelegate::makeSlider(QWidget* parent, int row, int column) const
+{
+    const auto inRange = [](auto* slider, auto min, auto max, bool bounded) {
+        slider->setRange(min, max, bounded);
+        // What is behind it in the cell stays hidden, and typing reaches the line at once.
+        slider->setAutoFillBackground(true);
+        slider->setAttribute(Qt::WA_NoMousePropagation);
+        slider->setFocusProxy(slider->m_lineEdit);
+        return slider;
+    };
+    const auto makeInt = [&](int kind) -> QWidget* {
+        return inRange(new WfIntSlider(kind, 1, m_widget, parent, row, column), m_intMin, m_intMax,
+            m_bounded);
+    };
+    const auto makeUInt = [&](int kind) -> QWidget* {
+        return inRange(new WfUIntSlider(kind, 1, m_widget, parent, row, column),
+            static_cast<unsigned int>(m_intMin), static_cast<unsigned int>(m_intMax), m_bounded);
+    };
+    switch (m_kind) {
+    case Int16Kind:
+        return makeInt(3);
+    case UInt16Kind:
+        return makeUInt(4);
+    case Int32Kind:
+        return makeInt(1);
+    case UInt32Kind:
+        return makeUInt(2);
+    case FloatKind:
+        return inRange(new WfRealSlider(1, m_widget, parent, true, row, column), m_realMin,
+            m_realMax, m_bounded);
+    default:
+        return nullptr;
+    }
+}
+
+QWidget* WfMFieldTableItemDelegate::makeLineEdit(QWidget* parent) const
+{
+    auto* const line = new QLineEdit(parent);
+    line->setObjectName(QStringLiteral("qt_lineeditor"));
+    line->setFrame(false);
+    // A text of any length fits, so that a commit never cuts one.
+    line->setMaxLength(std::numeric_limits<int>::max());
+    setEditorValidator(line);
+    return line;
+}
+
+void WfMFieldTableItemDelegate::setEditorValidator(QLineEdit* editor) const
+{
+    QValidator* const validator = makeValidator(m_kind, editor);
+    if (!validator)
+        return;
+    validator->setLocale(numberLocale());
+    editor->setValidator(validator);
+}
+
+void WfMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    showText(editor, m_widget->getCellText(index.row(), index.column()));
+}
+
+bool WfMFieldTableItemDelegate::isAcceptable(const QLineEdit* editor)
+{
+    const QValidator* const validator = editor->validator();
+    QString text = editor->text();
+    int position = 0;
+    return !validator || validator->validate(text, position) == QValidator::Acceptable;
+}
+
+void WfMFieldTableItemDelegate::setModelData(
+    QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
+{
+    if (!editor)
+        return;
+    m_table->editorKeeper().takeOut(editor, index);
+    const auto* const line = qobject_cast<QLineEdit*>(editor);
+    if (!line) {
+        QItemDelegate::setModelData(editor, model, index);
+        return;
+    }
+    if (!line->isModified())
+        return;
+    const QString text = line->text();
+    if (isAcceptable(line))
+        m_widget->setFieldValue(index.row(), index.column(), text);
+    model->setData(index, text, Qt::DisplayRole);
+}
+
+void WfMFieldTableItemDelegate::updateEditorGeometry(
+    QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const
+{
+    editor->setGeometry(option.rect);
+}

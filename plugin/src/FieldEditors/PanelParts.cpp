@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "PanelParts.h"
+
+#include "LayoutMetrics.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QPushButton>
+
+void setMargins(QLayout* layout, int margin)
+{
+    layout->setContentsMargins(margin, margin, margin, margin);
+}
+
+void styleTitleLabel(QLabel* label)
+{
+    label->setObjectName(QStringLiteral("m_label"));
+    QFont font = label->font();
+    font.setPointSize(layoutMetric(QStringLiteral("labelPointSize")));
+    label->setFont(font);
+    label->setFrameShape(QFrame::Box);
+    label->setFrameShadow(QFrame::Plain);
+    label->setLineWidth(layoutMetric(QStringLiteral("labelLineWidth")));
+    label->setScaledContents(true);
+}
+
+QString centredText(const QString& text)
+{
+    return QStringLiteral("<p align=\"center\">") + text + QStringLiteral("</p>");
+}
+
+QPushButton* makeIconButton(QWidget* parent, const char* name, const QPixmap& icon)
+{
+    auto* const button = new QPushButton(parent);
+    button->setObjectName(QLatin1String(name));
+    button->setMaximumSize(
+        layoutMetric(QStringLiteral("buttonWidth")), layoutMetric(QStringLiteral("buttonHeight")));
+    button->setIcon(QIcon(icon));
+    button->setFocusPolicy(Qt::NoFocus);
+    return button;
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "PopupCloser.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+PopupCloser::PopupCloser(QWidget* popup, QWidget* owner, QAbstractButton* button)
+    : QObject(popup)
+    , m_popup(popup)
+    , m_owner(owner)
+    , m_button(button)
+{
+    m_popup->installEventFilter(this);
+    m_owner->installEventFilter(this);
+}
+
+bool PopupCloser::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_owner) {
+        if (event->type() == QEvent::Hide)
+            m_popup->close();
+        return false;
+    }
+    switch (event->type()) {
+    case QEvent::MouseButtonPress: {
+        const auto* const press = static_cast<QMouseEvent*>(event);
+        if (m_popup->rect().contains(press->position().toPoint()))
+            return false;
+        // Qt gives a press that closes a popup to what lies under it, where the button would take
+        // it for the wish to open.
+        const bool onButton = m_button && m_button->isVisible()
+            && m_button->rect().contains(
+                m_button->mapFromGlobal(press->globalPosition().toPoint()));
+        m_popup->setAttribute(Qt::WA_NoMouseReplay, onButton);
+        m_popup->close();
+        return true;
+    }
+    case QEvent::KeyPress:
+        if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
+            return false;
+        m_popup->close();
+        return true;
+    default:
+        return false;
+    }
+}

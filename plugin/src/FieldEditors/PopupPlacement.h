@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QPoint>
+#include <QSize>
+
+// Where the popups of the field editors open, as plain arithmetic in global pixels.
+
+/// The top left corner of a popup that is to open at `wanted` and needs `room`, counted from there
+/// to the right and downwards. In each direction in which the room doesn't fit into `screen`, which
+/// starts at (0, 0), the popup moves by its whole room to the other side of the point.
+QPoint popupPosition(const QPoint& wanted, const QSize& screen, const QSize& room);
+
+/// The top left corner of a popup that opens to the left of a panel, at the height of its top.
+QPoint popupPositionLeftOf(const QPoint& panelTopLeft, int popupWidth);

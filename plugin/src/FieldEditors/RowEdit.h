@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "CrvMFSetValueCommand.h"
+#include "CrvServices.h"
+
+#include <utility>
+
+/// One undoable edit of one row of an array, which exists: makes the command while the row still
+/// holds the old value, runs `write`, which writes the row, and hands the command to the host.
+template <class Write>
+void executeRowEdit(KnMField* field, int row, Write&& write)
+{
+    KbString noOldValue;
+    auto* const command = new CrvMFSetValueCommand(field, row, noOldValue);
+    std::forward<Write>(write)();
+    CrvServices::getInstance()->executeCommand(command);
+}

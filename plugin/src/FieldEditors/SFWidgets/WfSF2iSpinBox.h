@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "WfSFColumnBox.h"
+
+class QSpinBox;
+
+/// Base of the editors of two integers: two spin boxes, which apply at every change of value, also
+/// while a person types.
+class WfSF2iSpinBox : public WfSFColumnBox {
+    Q_OBJECT
+public:
+    explicit WfSF2iSpinBox(const char* name = nullptr);
+
+    /// 0 for 16 bits, 1 and 2 for 32 bits, both signed; any other kind changes nothing.
+    void setSpinRange(int kind);
+
+protected:
+    QWidget* makeInput() override;
+
+    template <class Number>
+    void showNumbers(const Number* numbers)
+    {
+        for (std::size_t i = 0; i < m_boxes.size(); ++i)
+            showNumber(i, numbers[i]);
+    }
+    int number(std::size_t column) const;
+
+private:
+    void showNumber(std::size_t column, int number);
+
+    std::vector<QSpinBox*> m_boxes; // x, y; children of the edition frame
+};

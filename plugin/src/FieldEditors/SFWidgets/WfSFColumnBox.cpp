@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "WfSFColumnBox.h"
+
+#include "LayoutMetrics.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QVBoxLayout>
+
+WfSFColumnBox::WfSFColumnBox(int columns, const ColumnBoxStyle& style, const char* name)
+    : WfSFieldWidget(name)
+    , m_columns(columns)
+    , m_style(style)
+{
+}
+
+void WfSFColumnBox::load()
+{
+    WfSFieldWidget::load();
+    const int margin = layoutMetric(QLatin1String(m_style.marginMetric));
+    m_editLayout->setSpacing(layoutMetric(QLatin1String(m_style.spacingMetric)));
+    m_editLayout->setContentsMargins(margin, margin, margin, margin);
+    for (int i = 0; i < m_columns; ++i)
+        addColumn();
+}
+
+void WfSFColumnBox::addColumn()
+{
+    auto* const column = new QVBoxLayout;
+    column->setObjectName(QLatin1String(m_style.columnName));
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(layoutMetric(QLatin1String(m_style.columnSpacingMetric)));
+    column->setSizeConstraint(QLayout::SetMinimumSize);
+
+    auto* const label = new QLabel(m_editionFrame);
+    label->setObjectName(QLatin1String(m_style.labelName));
+    label->setFixedHeight(layoutMetric(QStringLiteral("SFVecLabelHeight")));
+    column->addWidget(label, 0);
+    m_labels.push_back(label);
+
+    QWidget* const input = makeInput();
+    input->setObjectName(QLatin1String(m_style.inputName));
+    input->setFixedHeight(layoutMetric(QStringLiteral("SFVecLineHeight")));
+    column->addWidget(input, 0);
+    m_editLayout->addLayout(column, 0);
+}
+
+void WfSFColumnBox::setLabels(const QString* nameArray)
+{
+    for (std::size_t i = 0; i < m_labels.size(); ++i)
+        m_labels[i]->setText(tr("<p>") + nameArray[i] + tr("</p>"));
+}

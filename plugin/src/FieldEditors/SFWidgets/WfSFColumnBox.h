@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "WfSFieldWidget.h"
+
+#include <vector>
+
+/// What one kind of column box is made with: names of metrics, object names of its parts.
+struct ColumnBoxStyle {
+    const char* spacingMetric; ///< between columns
+    const char* marginMetric; ///< around them
+    const char* columnSpacingMetric; ///< between a label and its input
+    const char* columnName;
+    const char* labelName;
+    const char* inputName;
+};
+
+/// Base of the editors that show one labelled input a component, side by side: columns of a label
+/// above an input.
+class WfSFColumnBox : public WfSFieldWidget {
+    Q_OBJECT
+public:
+    void load() override;
+
+    /// Sets the texts of the labels; `nameArray` has one name a column.
+    void setLabels(const QString* nameArray);
+
+protected:
+    /// `style` is kept by reference.
+    WfSFColumnBox(int columns, const ColumnBoxStyle& style, const char* name);
+
+    /// Makes the input of the next column, with the edition frame as parent, and connects it.
+    virtual QWidget* makeInput() = 0;
+
+private:
+    void addColumn();
+
+    int m_columns;
+    const ColumnBoxStyle& m_style;
+    std::vector<QLabel*> m_labels; // children of the edition frame
+};

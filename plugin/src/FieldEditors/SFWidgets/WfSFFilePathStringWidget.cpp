@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "WfSFFilePathStringWidget.h"
+
+#include <QFileDialog>
+#include <QFrame>
+#include <QPushButton>
+
+void WfSFFilePathStringWidget::load()
+{
+    WfSFTextWidget::load();
+    m_openFileButton = new QPushButton(m_editionFrame);
+    QSizePolicy policy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    policy.setHeightForWidth(m_openFileButton->sizePolicy().hasHeightForWidth());
+    m_openFileButton->setSizePolicy(policy);
+    m_openFileButton->setObjectName(QStringLiteral("openFileButton"));
+    m_openFileButton->setText(QStringLiteral("..."));
+    m_editLayout->addWidget(m_openFileButton, 2);
+    connect(m_openFileButton, &QPushButton::clicked, this,
+        &WfSFFilePathStringWidget::openFileDialog);
+}
+
+void WfSFFilePathStringWidget::openFileDialog()
+{
+    const KnField* const field = m_field;
+    const KnTypedObject* const object = getEditedObject();
+    const QString path = QFileDialog::getOpenFileName(getWidget(), tr("Open File"));
+    // The program runs on behind the dialog. A path that was chosen for one field must not reach
+    // another one.
+    if (path.isEmpty() || m_field != field || getEditedObject() != object)
+        return;
+    m_lineEdit->setText(path);
+    applyChanges();
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "WfSFStringWidget.h"
+
+struct SFFilePathStringTraits : StringFieldAccess {
+    static constexpr const char* typeName = "SFFilePathString";
+    static constexpr const char* className = "WfSFFilePathStringWidget";
+    static KnType fieldType() { return KnSFFilePathString::getClassTypeId(); }
+};
+
+/// Edits a KnSFFilePathString in one line, beside a button that opens the system's file dialog.
+class WfSFFilePathStringWidget : public WfSFTextWidget<SFFilePathStringTraits> {
+    Q_OBJECT
+public:
+    using WfSFTextWidget::WfSFTextWidget;
+
+    void load() override;
+
+protected Q_SLOTS:
+    /// Lets the person choose a file, whose path is applied at once.
+    void openFileDialog();
+    bool edited() override { return WfSFTextWidget::edited(); }
+
+private:
+    QPushButton* m_openFileButton = nullptr;
+};

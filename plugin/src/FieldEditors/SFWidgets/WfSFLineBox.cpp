@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "WfSFLineBox.h"
+
+#include "ComponentValidator.h"
+#include "ValueComponents.h"
+
+#include <QFrame>
+#include <QLineEdit>
+
+#include <algorithm>
+
+WfSFLineBox::WfSFLineBox(
+    int columns, const ColumnBoxStyle& style, Qt::Alignment alignment, const char* name)
+    : WfSFColumnBox(columns, style, name)
+    , m_alignment(alignment)
+{
+}
+
+QWidget* WfSFLineBox::makeInput()
+{
+    auto* const line = new QLineEdit(m_editionFrame);
+    line->setAlignment(m_alignment);
+    setComponentValidator(3, line);
+    connect(line, &QLineEdit::editingFinished, this, &WfSFLineBox::setFocusLeaveEvent);
+    connect(line, &QLineEdit::returnPressed, this, &WfSFLineBox::setCommandValue);
+    m_lines.push_back(line);
+    return line;
+}
+
+bool WfSFLineBox::edited()
+{
+    return std::any_of(m_lines.begin(), m_lines.end(),
+        [](const QLineEdit* line) { return line->isModified(); });
+}
+
+void WfSFLineBox::resetCursorPositions()
+{
+    for (QLineEdit* line : m_lines)
+        line->setCursorPosition(0);
+}
+
+void WfSFLineBox::showNumbers(const float* numbers)
+{
+    for (std::size_t i = 0; i < m_lines.size(); ++i)
+        m_lines[i]->setText(componentText(numbers[i]));
+    resetCursorPositions();
+}
+
+float WfSFLineBox::number(std::size_t column) const
+{
+    return componentNumber<float>(m_lines[column]->text());
+}

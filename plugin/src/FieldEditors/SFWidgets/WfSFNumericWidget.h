@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "FieldEdit.h"
+#include "WfSFieldWidget.h"
+
+#include <QLatin1String>
+
+/// What all editors of single numbers share: a slider is the whole input area, holds value and
+/// range, and calls applyChanges() when a person changes the value. `Traits` says what a member of
+/// the family is made for:
+///   `Field`, `Slider`: field class and slider class,
+///   `sliderKind`: of the slider that the base makes,
+///   `typeName`, `className`: extension name and label, and the default object name.
+template <class Traits>
+class WfSFNumericWidget : public WfSFieldWidget {
+public:
+    explicit WfSFNumericWidget(const char* name = nullptr)
+        : WfSFieldWidget(Traits::sliderKind, name)
+    {
+        identify(Traits::Field::getClassTypeId(), Traits::typeName, name, Traits::className);
+    }
+
+    void load() override
+    {
+        setLabel(QLatin1String(Traits::typeName));
+        WfSFieldWidget::load();
+    }
+
+    bool edited() override { return m_slider->isModified(); }
+
+protected:
+    using Field = typename Traits::Field;
+    using Slider = typename Traits::Slider;
+
+    /// Called before anything else uses the slider.
+    void takeSlider() { m_slider = static_cast<Slider*>(m_editionFrame); }
+
+    /// One edit of the attached field, of which there must be one, undone by the text that the
+    /// slider saved when it was pressed.
+    template <class Write>
+    void executeEdit(Write&& write)
+    {
+        executeFieldEdit(m_field, m_slider->m_oldValue, std::forward<Write>(write));
+    }
+
+    Field* field() const { return static_cast<Field*>(m_field); }
+
+    Slider* m_slider = nullptr; // the same object as m_editionFrame
+};

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "FieldEdit.h"
+#include "ValueComponents.h"
+
+/// What all vector editors share: the inputs of `Box`, a column box, show the components of the
+/// field's value. `Traits` has
+///   `Field`: the field class,
+///   `typeName`, `className`: extension name and label, and the default object name.
+template <class Traits, class Box>
+class WfSFVectorWidget : public Box {
+public:
+    /// `boxArguments` go to the box, in front of the name.
+    template <class... BoxArguments>
+    explicit WfSFVectorWidget(const char* name = nullptr, const BoxArguments&... boxArguments)
+        : Box(boxArguments..., name)
+    {
+        this->identify(Field::getClassTypeId(), Traits::typeName, name, Traits::className);
+    }
+
+    void load() override
+    {
+        this->setLabel(QLatin1String(Traits::typeName));
+        Box::load();
+        QString nameArray[Components::count];
+        for (std::size_t i = 0; i < Components::count; ++i)
+            nameArray[i] = QLatin1String(Components::names[i]);
+        this->setLabels(nameArray);
+    }
+
+    void updateFromField() override
+    {
+        if (!this->m_field)
+            return;
+        this->showNumbers(Components::read(field()->getValue()).data());
+        Box::updateFromField();
+    }
+
+    void applyChanges() override
+    {
+        if (!this->m_field)
+            return;
+        typename Components::Numbers numbers;
+        for (std::size_t i = 0; i < numbers.size(); ++i)
+            numbers[i] = static_cast<typename Components::Number>(this->number(i));
+        executeFieldEdit(this->m_field,
+            [this, &numbers] { field()->setValue(Components::make(numbers)); });
+    }
+
+private:
+    using Field = typename Traits::Field;
+    using Components = ValueComponents<typename Field::Value>;
+
+    Field* field() const { return static_cast<Field*>(this->m_field); }
+};

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "WfSFieldWidget.h"
+
+#include "FieldActions.h"
+#include "KnField.h"
+#include "LayoutMetrics.h"
+#include "Pixmaps.h"
+#include "WfIntSlider.h"
+#include "WfRealSlider.h"
+#include "WfUIntSlider.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+WfSlider* makeSlider(int kind, CrvFieldEditors* owner, QWidget* parent)
+{
+    constexpr int row = 0;
+    constexpr int column = 1;
+    switch (kind) {
+    case 1:
+        return new WfRealSlider(0, owner, parent, true, row, column);
+    case 2:
+        return new WfRealSlider(0, owner, parent, false, row, column);
+    case 3:
+        return new WfIntSlider(1, 0, owner, parent, row, column);
+    case 4:
+        return new WfUIntSlider(2, 0, owner, parent, row, column);
+    case 5:
+        return new WfIntSlider(3, 0, owner, parent, row, column);
+    case 6:
+        return new WfUIntSlider(4, 0, owner, parent, row, column);
+    default:
+        return nullptr;
+    }
+}
+
+void setMargins(QLayout* layout, int margin)
+{
+    layout->setContentsMargins(margin, margin, margin, margin);
+}
+
+} // namespace
+
+WfSFieldWidget::WfSFieldWidget(const char* name)
+    : m_defaultPixmap(defaultPixmap())
+    , m_ignorePixmap(ignorePixmap())
+{
+    setObjectName(QLatin1String(name));
+}
+
+WfSFieldWidget::WfSFieldWidget(int sliderKind, const char* name)
+    : WfSFieldWidget(name ? name : "WfSFieldWidget")
+{
+    m_editionFrame = makeSlider(sliderKind, this, getFrame());
+}
+
+void WfSFieldWidget::setLabel(const QString& text)
+{
+    if (!m_label)
+        m_label = new QLabel(getFrame());
+    if (m_label->text().isEmpty())
+        m_label->setText(tr("<p align=\"center\">") + text + tr("</p>"));
+}
+
+void WfSFieldWidget::load()
+{
+    CrvFieldEditors::load();
+
+    const int frameLineWidth = layoutMetric(QStringLiteral("frameLineWidth"));
+    QFrame* const frame = getFrame();
+    frame->setFrameShape(QFrame::Box);
+    frame->setFrameShadow(QFrame::Plain);
+    frame->setLineWidth(frameLineWidth);
+
+    m_fieldLayout = new QHBoxLayout(frame);
+    setMargins(m_fieldLayout, layoutMetric(QStringLiteral("SFieldLayoutMargin")));
+    m_fieldLayout->setSpacing(layoutMetric(QStringLiteral("SFieldLayoutSpacing")));
+    m_fieldLayout->setObjectName(QStringLiteral("SFieldLayout"));
+
+    m_label->setObjectName(QStringLiteral("m_label"));
+    QFont font = m_label->font();
+    font.setPointSize(layoutMetric(QStringLiteral("labelPointSize")));
+    m_label->setFont(font);
+    m_label->setFrameShape(QFrame::Box);
+    m_label->setFrameShadow(QFrame::Plain);
+    m_label->setLineWidth(layoutMetric(QStringLiteral("labelLineWidth")));
+    m_label->setScaledContents(true);
+    m_fieldLayout->addWidget(m_label, 0);
+
+    m_labelSpacer = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    m_fieldLayout->addItem(m_labelSpacer);
+
+    m_editionAreaLayout = new QHBoxLayout;
+    setMargins(m_editionAreaLayout, layoutMetric(QStringLiteral("SFEditionAreaLayMargin")));
+    m_editionAreaLayout->setSpacing(layoutMetric(QStringLiteral("SFEditionAreaLaySpacing")));
+    m_editionAreaLayout->setObjectName(QStringLiteral("SFieldEditionAreaLayout"));
+
+    if (m_editionFrame) {
+        m_editLayout = static_cast<QBoxLayout*>(m_editionFrame->layout());
+    } else {
+        m_editionFrame = new QFrame(frame);
+        m_editionFrame->setObjectName(QStringLiteral("m_editionFrame"));
+        m_editionFrame->setFrameShape(QFrame::Box);
+        m_editionFrame->setFrameShadow(QFrame::Plain);
+        m_editionFrame->setLineWidth(frameLineWidth);
+        m_editLayout = new QHBoxLayout(m_editionFrame);
+        setMargins(m_editLayout, layoutMetric(QStringLiteral("SFieldEditLayoutMargin")));
+        m_editLayout->setSpacing(layoutMetric(QStringLiteral("SFieldEditLayoutSpacing")));
+        m_editLayout->setObjectName(QStringLiteral("editLayout"));
+    }
+    m_editionAreaLayout->addWidget(m_editionFrame, 0);
+
+    m_editionSpacer = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    m_editionAreaLayout->addItem(m_editionSpacer);
+
+    m_buttonLayout = new QHBoxLayout;
+    setMargins(m_buttonLayout, layoutMetric(QStringLiteral("SFButtonLayoutMargin")));
+    m_buttonLayout->setSpacing(layoutMetric(QStringLiteral("SFButtonLayoutSpacing")));
+    m_buttonLayout->setObjectName(QStringLiteral("SFieldLayout"));
+
+    m_defaultButton = makeButton("m_defaultButton", m_defaultPixmap);
+    m_buttonLayout->addWidget(m_defaultButton, 0);
+    m_ignoreButton = makeButton("m_ignoreButton", m_ignorePixmap);
+    m_ignoreButton->setCheckable(true);
+    m_buttonLayout->addWidget(m_ignoreButton, 0);
+
+    m_editionAreaLayout->addLayout(m_buttonLayout, 0);
+    m_editionAreaLayout->setSizeConstraint(QLayout::SetMinimumSize);
+    m_fieldLayout->addLayout(m_editionAreaLayout, 0);
+
+    languageChange();
+
+    connect(m_defaultButton, &QPushButton::clicked, this, &WfSFieldWidget::setDefaultFieldValue);
+    connect(
+        m_ignoreButton, &QPushButton::released, this, &WfSFieldWidget::ignoreButtonStateChanged);
+    // A click on them must not take the focus from a line edit.
+    m_defaultButton->setFocusPolicy(Qt::NoFocus);
+    m_ignoreButton->setFocusPolicy(Qt::NoFocus);
+}
+
+QPushButton* WfSFieldWidget::makeButton(const char* name, const QPixmap& icon)
+{
+    auto* const button = new QPushButton(getFrame());
+    button->setObjectName(QLatin1String(name));
+    button->setMaximumSize(
+        layoutMetric(QStringLiteral("buttonWidth")), layoutMetric(QStringLiteral("buttonHeight")));
+    button->setIcon(QIcon(icon));
+    return button;
+}
+
+void WfSFieldWidget::attachField(KnField* field)
+{
+    m_field = field;
+    CrvFieldEditors::attachField(field);
+}
+
+void WfSFieldWidget::updateFromField()
+{
+    m_ignoreButton->setChecked(m_field && m_field->isIgnored() != 0);
+}
+
+void WfSFieldWidget::setFieldUpdateEnabled(bool) { }
+
+void WfSFieldWidget::swapFieldValues(int, int) { }
+
+void WfSFieldWidget::setFieldValue(int, int, QString) { }
+
+void WfSFieldWidget::setFieldColor(int, const void*) { }
+
+bool WfSFieldWidget::edited() { return false; }
+
+void WfSFieldWidget::languageChange()
+{
+    m_defaultButton->setText(QString());
+    m_ignoreButton->setText(QString());
+    m_defaultButton->setToolTip(QStringLiteral("Set to default"));
+    m_ignoreButton->setToolTip(QStringLiteral("Ignore this field"));
+}
+
+void WfSFieldWidget::setCommandValue() { applyChanges(); }
+
+void WfSFieldWidget::setFocusLeaveEvent()
+{
+    if (edited())
+        applyChanges();
+}
+
+void WfSFieldWidget::ignoreButtonStateChanged()
+{
+    setFieldIgnored(m_field, m_ignoreButton->isChecked());
+}
+
+void WfSFieldWidget::setDefaultFieldValue() { setFieldToDefault(m_field); }
+
+void WfSFieldWidget::applyChanges() { }
+
+void WfSFieldWidget::spreadRow()
+{
+    m_labelSpacer->changeSize(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum);
+    m_editionSpacer->changeSize(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum);
+}

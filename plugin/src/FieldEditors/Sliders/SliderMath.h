@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QString>
+
+/// The arithmetic of the sliders, free of widgets: number bases, text, and the way between values
+/// and the positions of a QSlider.
+namespace SliderMath {
+
+/// A real scale always has the positions 0 to 100: percent of the present range.
+inline constexpr int RealScaleTop = 100;
+
+/// The number base of an integer text: 16 for a text of three or more characters that starts with
+/// "0x", 8 for one of exactly two that starts with "0", otherwise 10.
+int detectBase(const QString& text);
+/// `text` without as many leading characters as a prefix of the base has, whatever they are.
+QString withoutPrefix(const QString& text, int base);
+/// `digits` with the prefix of the base in front. A hexadecimal prefix that was typed along isn't
+/// doubled.
+QString withPrefix(const QString& digits, int base);
+
+/// Unsigned values keep their order on the signed scale: 0 lies at the lowest `int`, 4294967295 at
+/// the highest.
+int unsignedPosition(unsigned int value);
+unsigned int unsignedValue(int position);
+
+/// The position of a value in a range, always from 0 to RealScaleTop: a value outside lies at the
+/// nearer end, and everything, "nan" too, lies at 0 where the range is empty or upside down.
+int realPosition(double value, double minimum, double maximum);
+/// The value of a position, always inside the range. Infinite limits count as the largest numbers.
+double realValue(int position, double minimum, double maximum);
+
+/// The largest finite number of the type.
+double realLimit(bool isFloat);
+/// An infinite number as the largest of its sign; every other number unchanged.
+double finite(double value, bool isFloat);
+/// A float is shown with 6 decimals, a double with 15 significant digits. A finite number never
+/// gets a text that reads back as infinite.
+QString realText(double value, bool isFloat);
+/// The number that a text says; 0.0 for one that says none.
+double realFromText(const QString& text, bool isFloat);
+/// Narrows without leaving the finite numbers, except for what is infinite already.
+float toFloat(double value);
+
+/// `value` cut at the ends of a range, the maximum first. "nan" stays.
+template <class Value>
+Value limited(Value value, Value minimum, Value maximum)
+{
+    const Value cut = value > maximum ? maximum : value;
+    return cut < minimum ? minimum : cut;
+}
+
+} // namespace SliderMath

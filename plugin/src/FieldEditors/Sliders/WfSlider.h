@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KbString.h"
+
+#include <QFrame>
+#include <QString>
+
+class CrvFieldEditors;
+class QCheckBox;
+class QHBoxLayout;
+class QLineEdit;
+class QSlider;
+
+/// Edits one number by a check box, a scale and a line, side by side. It serves as the whole input
+/// area of a numeric editor and as the editor of one cell of a table. It knows no field: it holds
+/// value and range itself and tells its owner of a change, which writes the field. The subclasses
+/// bring the arithmetic of their type. The value is the truth; position and text follow it.
+class WfSlider : public QFrame {
+    Q_OBJECT
+public:
+    ~WfSlider() override;
+
+    /// Takes a value in the field's text form, without telling the owner.
+    virtual void setValue(QString text);
+
+    /// Whether the line holds text that a person typed and no refresh has replaced.
+    bool isModified() const;
+
+    /// Holds the owner's calls back while it lives: an owner that attaches a field or refreshes
+    /// moves the range, and the scale that this may push is nobody's edit.
+    class OwnerHold {
+    public:
+        explicit OwnerHold(WfSlider& slider);
+        ~OwnerHold();
+        Q_DISABLE_COPY_MOVE(OwnerHold)
+
+    private:
+        WfSlider& m_slider; // outlives this object
+        bool m_before;
+    };
+
+    QLineEdit* m_lineEdit; // child
+    /// Text of the value when the scale was pressed, null when there is none. A command that
+    /// takes it makes it null.
+    KbString m_oldValue;
+
+public Q_SLOTS:
+    void changeValueFromEdit();
+
+protected Q_SLOTS:
+    void eventNotify(bool state);
+    void beginCallback();
+    void finishCallback();
+    void valueChangeSlot(int newValue);
+
+protected:
+    /// `inTable` is 0 for the input area of an editor: changes reach `owner` by applyChanges().
+    /// Otherwise the slider edits the cell (`row`, `column`), and they reach it by setFieldValue().
+    /// `owner` isn't owned and outlives the slider.
+    WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row, int column);
+
+    /// Writes the value into the line.
+    virtual void updateEdit();
+    /// Reads the line into value, position and range.
+    virtual void updateValueFromEdit();
+    /// Takes the value from a position of the scale.
+    virtual void updateValueFromSlider(int position);
+    /// Stores the value's text in m_oldValue.
+    virtual void saveOldValue();
+
+    /// Shows a text from its start; it counts as not modified.
+    void setText(const QString& text);
+    /// The line's text, with the prefix of the base.
+    QString getText() const;
+    /// Moves the scale to the value's position without an echo.
+    void syncPosition();
+    /// Shows `text` and takes it as the value; the owner isn't told.
+    void takeText(const QString& text);
+
+    QHBoxLayout* m_layout; // of this frame
+    int m_sliderValue = 0; // the position that belongs to the value
+    QSlider* m_slider; // child
+    QCheckBox* m_notifyCheckBox; // child; checked: a move of the scale reaches the owner at once
+    bool m_notifyOnMove = true; // mirrors the check box
+    bool m_sliderConnected = true; // false only while the slider itself moves the scale
+    int m_inTable;
+    int m_base = 10; // of the text: 10, 8 or 16; a real slider stays at 10
+    CrvFieldEditors* m_owner; // not owned
+    int m_row;
+    int m_column;
+
+private:
+    void notifyOwner();
+
+    // Until a first value was set there is nothing to tell: what the scale shows before comes of
+    // the range alone.
+    bool m_hasValue = false;
+    bool m_ownerHeld = false;
+};
