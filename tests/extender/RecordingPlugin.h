@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "CrvEditor.h"
+#include "CrvPlugin.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+/// Notes a call. The list is kept by the application object, so that modules write to it too.
+inline void note(const QString& call)
+{
+    qApp->setProperty("calls", qApp->property("calls").toStringList() + QStringList(call));
+}
+
+/// What has been noted since this was last called, as "a, b, c".
+inline QString takeCalls()
+{
+    const QStringList calls = qApp->property("calls").toStringList();
+    qApp->setProperty("calls", QStringList());
+    return calls.join(QLatin1String(", "));
+}
+
+/// An extension or editor that notes the host's calls as "Name call".
+template <class Base>
+class Recording : public Base {
+public:
+    explicit Recording(const char* name) { this->m_name = KbString(name); }
+
+    std::function<void()> inActivate;
+
+    void load() override { noteCall("load"); }
+    void unload() override { noteCall("unload"); }
+    void activate() override
+    {
+        Base::activate();
+        noteCall("on");
+        if (inActivate)
+            inActivate();
+    }
+    void deactivate() override
+    {
+        Base::deactivate();
+        noteCall("off");
+    }
+
+private:
+    void noteCall(const char* call)
+    {
+        note(QString::fromStdString(this->m_name.toUtf8() + ' ' + call));
+    }
+};
+
+using RecordingExtension = Recording<CrvExtension>;
+using RecordingEditor = Recording<CrvEditor>;
+
+/// Owns its extensions and registers them in the order in which they were added.
+class RecordingPlugin : public CrvPlugin {
+public:
+    ~RecordingPlugin() override { note(QStringLiteral("destroyed")); }
+
+    template <class Extension>
+    Extension* add(const char* name)
+    {
+        auto* const added = new Extension(name);
+        m_owned.emplace_back(added);
+        return added;
+    }
+
+    void load() override
+    {
+        for (const auto& extension : m_owned)
+            addExtension(extension.get());
+        CrvPlugin::load();
+    }
+
+    void unload() override
+    {
+        note(QStringLiteral("unload"));
+        CrvPlugin::unload();
+    }
+
+private:
+    std::vector<std::unique_ptr<CrvExtension>> m_owned;
+};

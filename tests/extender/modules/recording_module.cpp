@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "RecordingPlugin.h"
+
+namespace {
+RecordingPlugin* plugin = nullptr; // owned, from loadPlugin to unloadPlugin
+}
+
+extern "C" CrvPlugin* loadPlugin()
+{
+    plugin = new RecordingPlugin;
+    plugin->add<RecordingExtension>("Console");
+    plugin->add<RecordingExtension>("Field Editor");
+    return plugin;
+}
+
+extern "C" void unloadPlugin() { delete std::exchange(plugin, nullptr); }

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include <QLocale>
+#include <QTest>
+
+#include <cstdlib>
+
+/// That the runs under a German locale are what they say, for the C library as well as for Qt;
+/// without it they could pass and prove nothing.
+class TestLocale : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void numbersAreReadAsTheLocaleHasIt();
+};
+
+void TestLocale::numbersAreReadAsTheLocaleHasIt()
+{
+    const bool german = qgetenv("LC_ALL").startsWith("de_DE");
+    QCOMPARE(std::strtod("1,5", nullptr), german ? 1.5 : 1.0);
+    QCOMPARE(QLocale().toDouble(QStringLiteral("1,5")), german ? 1.5 : 0.0);
+}
+
+QTEST_MAIN(TestLocale)
+#include "test_locale.moc"

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QSlider>
+#include <QStyleOptionSlider>
+#include <QTest>
+
+/// The mouse on the handle of a scale, as a person drags it.
+class SliderInput {
+public:
+    explicit SliderInput(QSlider* slider)
+        : m_slider(slider)
+    {
+    }
+
+    void press() { QTest::mousePress(m_slider, Qt::LeftButton, {}, handle()); }
+    /// Moves by so many pixels from where the mouse was pressed or moved to.
+    void moveBy(int pixels)
+    {
+        m_at += QPoint(pixels, 0);
+        QTest::mouseMove(m_slider, m_at);
+    }
+    void release() { QTest::mouseRelease(m_slider, Qt::LeftButton, {}, m_at); }
+    /// Beside the handle, towards the upper end.
+    void clickGroove()
+    {
+        handle();
+        QTest::mouseClick(m_slider, Qt::LeftButton, {}, QPoint(m_slider->width() - 2, m_at.y()));
+    }
+    void turnWheel()
+    {
+        const QPointF at = m_slider->rect().center();
+        QWheelEvent event(at, m_slider->mapToGlobal(at), {}, QPoint(0, 120), Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(m_slider, &event);
+    }
+
+private:
+    QPoint handle()
+    {
+        QStyleOptionSlider option;
+        option.initFrom(m_slider);
+        option.orientation = m_slider->orientation();
+        option.minimum = m_slider->minimum();
+        option.maximum = m_slider->maximum();
+        option.sliderPosition = option.sliderValue = m_slider->sliderPosition();
+        option.subControls = QStyle::SC_All;
+        m_at = m_slider->style()
+                   ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, m_slider)
+                   .center();
+        return m_at;
+    }
+
+    QSlider* m_slider; // not owned
+    QPoint m_at; // where the mouse is
+};
