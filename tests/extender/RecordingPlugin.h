@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "CrvCommand.h"
 #include "CrvEditor.h"
 #include "CrvPlugin.h"
 
@@ -10,12 +11,15 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <utility>
 
-/// Notes a call. The list is kept by the application object, so that modules write to it too.
-inline void note(const QString& call)
+/// Notes a call. The list is kept by the application object, so that modules write to it too; the
+/// text is copied, since a module and its literals go away.
+inline void note(const std::string& call)
 {
-    qApp->setProperty("calls", qApp->property("calls").toStringList() + QStringList(call));
+    const QStringList calls = qApp->property("calls").toStringList();
+    qApp->setProperty("calls", calls + QStringList(QString::fromStdString(call)));
 }
 
 /// What has been noted since this was last called, as "a, b, c".
@@ -25,6 +29,15 @@ inline QString takeCalls()
     qApp->setProperty("calls", QStringList());
     return calls.join(QLatin1String(", "));
 }
+
+/// Notes what the host does with it.
+class NotingCommand : public CrvCommand {
+public:
+    ~NotingCommand() override { note("destroy"); }
+    void execute() override { note("execute"); }
+    void undo() override { note("undo"); }
+    void redo() override { note("redo"); }
+};
 
 /// An extension or editor that notes the host's calls as "Name call".
 template <class Base>
@@ -50,10 +63,7 @@ public:
     }
 
 private:
-    void noteCall(const char* call)
-    {
-        note(QString::fromStdString(this->m_name.toUtf8() + ' ' + call));
-    }
+    void noteCall(const char* call) { note(this->m_name.toUtf8() + ' ' + call); }
 };
 
 using RecordingExtension = Recording<CrvExtension>;
@@ -62,7 +72,7 @@ using RecordingEditor = Recording<CrvEditor>;
 /// Owns its extensions and registers them in the order in which they were added.
 class RecordingPlugin : public CrvPlugin {
 public:
-    ~RecordingPlugin() override { note(QStringLiteral("destroyed")); }
+    ~RecordingPlugin() override { note("destroyed"); }
 
     template <class Extension>
     Extension* add(const char* name)
@@ -81,7 +91,7 @@ public:
 
     void unload() override
     {
-        note(QStringLiteral("unload"));
+        note("unload");
         CrvPlugin::unload();
     }
 
