@@ -13,10 +13,17 @@ namespace {
 std::atomic<std::uint64_t> s_calls { 0 };
 std::atomic<std::uint64_t> s_bytes { 0 };
 
-/// Counts a block that was got; without one it ends the process.
-void* counted(void* block, std::size_t size)
+/// Takes a block from one of the operators and counts it; without one it ends the process.
+///
+/// The throwing forms are asked, not those that take std::nothrow: they are what a process with
+/// operators of its own replaces, and only the library's own other forms are sure to call them.
+template <class New>
+void* counted(std::size_t size, New take)
 {
-    if (!block) {
+    void* block = nullptr;
+    try {
+        block = take();
+    } catch (const std::bad_alloc&) {
         std::fprintf(stderr, "Out of memory: %zu bytes were asked for\n", size);
         std::abort();
     }
@@ -27,10 +34,10 @@ void* counted(void* block, std::size_t size)
 
 } // namespace
 
-// The forms that don't throw are called, so that the message is ours. They call the throwing forms,
-// the process's own where it has some.
-
-void* safeMalloc(std::size_t size) { return counted(::operator new(size, std::nothrow), size); }
+void* safeMalloc(std::size_t size)
+{
+    return counted(size, [=] { return ::operator new(size); });
+}
 
 void* safeRealloc(void* block, std::size_t oldSize, std::size_t newSize)
 {
@@ -46,14 +53,14 @@ void safeFree(void* block) noexcept { ::operator delete(block); }
 
 void* safeMallocArray(std::size_t size)
 {
-    return counted(::operator new[](size, std::nothrow), size);
+    return counted(size, [=] { return ::operator new[](size); });
 }
 
 void safeFreeArray(void* block) noexcept { ::operator delete[](block); }
 
 void* safeMallocAligned(std::size_t size, std::size_t alignment)
 {
-    return counted(::operator new(size, std::align_val_t(alignment), std::nothrow), size);
+    return counted(size, [=] { return ::operator new(size, std::align_val_t(alignment)); });
 }
 
 void safeFreeAligned(void* block, std::size_t alignment) noexcept
@@ -63,7 +70,7 @@ void safeFreeAligned(void* block, std::size_t alignment) noexcept
 
 void* safeMallocArrayAligned(std::size_t size, std::size_t alignment)
 {
-    return counted(::operator new[](size, std::align_val_t(alignment), std::nothrow), size);
+    return counted(size, [=] { return ::operator new[](size, std::align_val_t(alignment)); });
 }
 
 void safeFreeArrayAligned(void* block, std::size_t alignment) noexcept

@@ -24,6 +24,7 @@ struct EditorRow {
 };
 
 std::vector<EditorRow> singleValueRows();
+std::vector<EditorRow> compoundRows();
 std::vector<EditorRow> arrayRows();
 
 // Input and reading that the rows share.

@@ -13,7 +13,18 @@ public:
     {
     }
 
-    void press() { QTest::mousePress(m_slider, Qt::LeftButton, {}, handle()); }
+    void press()
+    {
+        QStyleOptionSlider option;
+        option.initFrom(m_slider);
+        option.minimum = m_slider->minimum();
+        option.maximum = m_slider->maximum();
+        option.sliderPosition = m_slider->sliderPosition();
+        m_at = m_slider->style()
+                   ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, m_slider)
+                   .center();
+        QTest::mousePress(m_slider, Qt::LeftButton, {}, m_at);
+    }
     /// Moves by so many pixels from where the mouse was pressed or moved to.
     void moveBy(int pixels)
     {
@@ -21,12 +32,6 @@ public:
         QTest::mouseMove(m_slider, m_at);
     }
     void release() { QTest::mouseRelease(m_slider, Qt::LeftButton, {}, m_at); }
-    /// Beside the handle, towards the upper end.
-    void clickGroove()
-    {
-        handle();
-        QTest::mouseClick(m_slider, Qt::LeftButton, {}, QPoint(m_slider->width() - 2, m_at.y()));
-    }
     void turnWheel()
     {
         const QPointF at = m_slider->rect().center();
@@ -36,21 +41,6 @@ public:
     }
 
 private:
-    QPoint handle()
-    {
-        QStyleOptionSlider option;
-        option.initFrom(m_slider);
-        option.orientation = m_slider->orientation();
-        option.minimum = m_slider->minimum();
-        option.maximum = m_slider->maximum();
-        option.sliderPosition = option.sliderValue = m_slider->sliderPosition();
-        option.subControls = QStyle::SC_All;
-        m_at = m_slider->style()
-                   ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, m_slider)
-                   .center();
-        return m_at;
-    }
-
     QSlider* m_slider; // not owned
     QPoint m_at; // where the mouse is
 };

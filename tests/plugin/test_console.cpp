@@ -294,7 +294,9 @@ private:
             QVERIFY(dialog);
             QCOMPARE(dialog->windowTitle(), QStringLiteral("Save the content of the console"));
             QCOMPARE(dialog->nameFilters(), QStringList(QStringLiteral("Console outputs (*.txt)")));
-            QTest::keyClicks(dialog->findChild<QLineEdit*>(), fileName);
+            auto* const line = dialog->findChild<QLineEdit*>();
+            line->setCompleter(nullptr);
+            QTest::keyClicks(line, fileName);
             // The question whether to replace the file comes from within the key press.
             if (QFile::exists(fileName)) {
                 QTimer::singleShot(0, this, [] {

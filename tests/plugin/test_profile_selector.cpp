@@ -3,12 +3,15 @@
 #include "CrvPluginsManager.h"
 #include "CrvProfile.h"
 #include "CrvProfileSelectorExtension.h"
-#include "EditorFixture.h"
 #include "TestShell.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
+#include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTemporaryFile>
+#include <QTest>
 #include <QToolBar>
 
 namespace {
@@ -32,11 +35,13 @@ class TestProfileSelector : public QObject {
 private Q_SLOTS:
     void init()
     {
-        failOnWarnings();
+        // A popup list asks for more that the offscreen platform hasn't got.
+        QTest::failOnWarning(
+            QRegularExpression(QStringLiteral("^(?!This plugin does not support )")));
         m_shell = std::make_unique<TestShell>();
         m_plugin = std::make_unique<SelectorPlugin>();
-        loadProfiles(R"({ "name": "First", "extensions": [ { "name": "Profile Selector" } ] },
-            { "name": "é∀", "extensions": [ { "name": "Profile Selector" } ] },
+        loadProfiles(R"({ "name": "First", "extensions": [ "Profile Selector" ] },
+            { "name": "é∀", "extensions": [ "Profile Selector" ] },
             { "name": "Without", "extensions": [] })");
         manager()->adoptPlugin(m_plugin.get());
         m_shell->window().show();
@@ -144,14 +149,16 @@ private:
             result << combo()->itemText(i);
         return result;
     }
-    /// As a user does: opens the list and clicks the entry.
+    /// As a user does: opens the list and picks the entry.
     void choose(int entry)
     {
-        QTest::mouseClick(combo(), Qt::LeftButton);
+        QTest::keyClick(combo(), Qt::Key_F4);
         QAbstractItemView* const list = combo()->view();
         QTRY_VERIFY(list->isVisible());
-        const QRect place = list->visualRect(list->model()->index(entry, 0));
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place.center());
+        QTest::keyClick(list, Qt::Key_Home);
+        for (int i = 0; i < entry; ++i)
+            QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Return);
         QTRY_VERIFY(!list->isVisible());
     }
 

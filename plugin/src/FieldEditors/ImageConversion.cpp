@@ -10,8 +10,7 @@ namespace {
 
 QImage copiedRows(const unsigned char* bytes, int width, int height, int components)
 {
-    QImage image(
-        width, height, components == 1 ? QImage::Format_Indexed8 : QImage::Format_RGB16);
+    QImage image(width, height, components == 1 ? QImage::Format_Indexed8 : QImage::Format_RGB16);
     if (image.isNull())
         return image;
     const std::size_t rowBytes = std::size_t(width) * std::size_t(components);

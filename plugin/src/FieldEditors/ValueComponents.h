@@ -43,7 +43,10 @@ template <class Value>
 struct ValueComponents;
 
 template <class Value>
-concept KernelVector = requires { Value::dimension; };
+concept KernelVector = requires
+{
+    Value::dimension;
+};
 
 template <KernelVector Value>
 struct ValueComponents<Value> {
@@ -100,7 +103,10 @@ struct ValueComponents<KbRotation> {
 };
 
 template <class Value>
-concept KernelBox = requires(const Value& box) { box.getMin(); };
+concept KernelBox = requires(const Value& box)
+{
+    box.getMin();
+};
 
 /// The components of the lowest corner, then those of the highest.
 template <KernelBox Value>

@@ -2,6 +2,7 @@
 #include "WfPopupWidget.h"
 
 #include "ComponentValidator.h"
+#include "FittedFont.h"
 #include "LayoutMetrics.h"
 #include "Pixmaps.h"
 #include "PopupCloser.h"
@@ -46,18 +47,22 @@ void WfPopupWidget::load()
 
     auto* const grid = new QGridLayout(m_popupFrame);
     const int margin = layoutMetric(QStringLiteral("PopupLayoutMargin"));
+    const int spacing = layoutMetric(QStringLiteral("PopupLayoutSpacing"));
     grid->setContentsMargins(margin, margin, margin, margin);
-    grid->setSpacing(layoutMetric(QStringLiteral("PopupLayoutSpacing")));
+    grid->setSpacing(spacing);
     grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
+    const int cellWidth
+        = (m_popupFrame->width() - 2 * margin - (m_columns - 1) * spacing) / m_columns;
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column) {
             auto* const line = new QLineEdit(m_popupFrame);
             line->setObjectName(QStringLiteral("m_lineEdits"));
+            fitNumberLine(line, QSize(cellWidth, line->sizeHint().height()));
             grid->addWidget(line, row, column);
             m_lineEdits.push_back(line);
             connect(line, &QLineEdit::editingFinished, this, &WfPopupWidget::setFocusLeaveEvent);
-            connect(line, &QLineEdit::returnPressed, this,
-                qOverload<>(&WfPopupWidget::applyChanges));
+            connect(
+                line, &QLineEdit::returnPressed, this, qOverload<>(&WfPopupWidget::applyChanges));
         }
     }
 }

@@ -9,8 +9,8 @@ constexpr qsizetype LongText = 1024;
 /// How many code units the character at `at` has.
 qsizetype characterLength(const QString& text, qsizetype at)
 {
-    const bool isPair = text.at(at).isHighSurrogate() && at + 1 < text.size()
-        && text.at(at + 1).isLowSurrogate();
+    const bool isPair
+        = text.at(at).isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
     return isPair ? 2 : 1;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfMFieldTableItemDelegate.h"
 
+#include "CellEditorKeeper.h"
 #include "CellText.h"
 #include "NumberLocale.h"
 #include "QUIntValidator.h"
@@ -126,8 +127,8 @@ QWidget* WfMFieldTableItemDelegate::makeSlider(QWidget* parent, int row, int col
         return slider;
     };
     const auto makeInt = [&](int kind) -> QWidget* {
-        return inRange(new WfIntSlider(kind, 1, m_widget, parent, row, column), m_intMin, m_intMax,
-            m_bounded);
+        return inRange(
+            new WfIntSlider(kind, 1, m_widget, parent, row, column), m_intMin, m_intMax, m_bounded);
     };
     const auto makeUInt = [&](int kind) -> QWidget* {
         return inRange(new WfUIntSlider(kind, 1, m_widget, parent, row, column),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfSF2iSpinBox.h"
 
+#include "FittedFont.h"
 #include "NumberLocale.h"
 
 #include <QFrame>
@@ -29,10 +30,11 @@ WfSF2iSpinBox::WfSF2iSpinBox(const char* name)
         setObjectName(QStringLiteral("WfSF2iSpinBox"));
 }
 
-QWidget* WfSF2iSpinBox::makeInput()
+QWidget* WfSF2iSpinBox::makeInput(int height)
 {
     auto* const box = new QSpinBox(m_editionFrame);
     box->setLocale(numberLocale());
+    fitSpinBox(box, height);
     connect(box, &QSpinBox::valueChanged, this, &WfSF2iSpinBox::setCommandValue);
     m_boxes.push_back(box);
     return box;

@@ -16,7 +16,7 @@ public:
     void setSpinRange(int kind);
 
 protected:
-    QWidget* makeInput() override;
+    QWidget* makeInput(int height) override;
 
     template <class Number>
     void showNumbers(const Number* numbers)

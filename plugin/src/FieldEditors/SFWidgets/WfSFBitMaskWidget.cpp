@@ -20,6 +20,8 @@ void WfSFBitMaskWidget::load()
 {
     setLabel(QStringLiteral("SFBitMask"));
     WfSFieldWidget::load();
+    // In a tall dock the boxes stay together.
+    m_editionFrame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     m_checkBoxLayout = std::make_unique<QVBoxLayout>();
     m_checkBoxLayout->setObjectName(QStringLiteral("m_checkBoxLayout"));
 }

@@ -17,8 +17,8 @@ struct SFBox2fTraits {
 class WfSFBox2fWidget : public WfSFPopupWidget<SFBox2fTraits> {
     Q_OBJECT
 public:
-    using WfSFPopupWidget::WfSFPopupWidget;
     using WfSFPopupWidget::applyChanges;
+    using WfSFPopupWidget::WfSFPopupWidget;
 
 public Q_SLOTS:
     void applyChanges() override { WfSFPopupWidget::applyChanges(); }

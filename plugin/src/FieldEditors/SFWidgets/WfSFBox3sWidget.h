@@ -17,8 +17,8 @@ struct SFBox3sTraits {
 class WfSFBox3sWidget : public WfSFPopupWidget<SFBox3sTraits> {
     Q_OBJECT
 public:
-    using WfSFPopupWidget::WfSFPopupWidget;
     using WfSFPopupWidget::applyChanges;
+    using WfSFPopupWidget::WfSFPopupWidget;
 
 public Q_SLOTS:
     void applyChanges() override { WfSFPopupWidget::applyChanges(); }

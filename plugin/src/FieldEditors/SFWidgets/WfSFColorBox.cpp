@@ -2,6 +2,7 @@
 #include "WfSFColorBox.h"
 
 #include "ColorChannels.h"
+#include "FittedFont.h"
 #include "LayoutMetrics.h"
 #include "ValueComponents.h"
 
@@ -49,6 +50,7 @@ void WfSFColorBox::addChannel(QChar letter)
     auto* const label = new QLabel(m_editionFrame);
     label->setObjectName(QLatin1String(m_style.labelName));
     label->setFixedHeight(height);
+    fitLabel(label, height);
     const QString text = QStringLiteral("<p align=\"right\">%1</p>").arg(letter);
     label->setText(tr(text.toLatin1().constData()));
     layout->addWidget(label, 0);
@@ -56,6 +58,7 @@ void WfSFColorBox::addChannel(QChar letter)
     auto* const line = new QLineEdit(tr("0"), m_editionFrame);
     line->setObjectName(QLatin1String(m_style.lineName));
     line->setFixedHeight(height);
+    fitNumberLine(line, height);
     layout->addWidget(line, 0);
     m_lines.push_back(line);
 
@@ -67,8 +70,8 @@ void WfSFColorBox::addChannel(QChar letter)
 
 bool WfSFColorBox::edited()
 {
-    return std::any_of(m_lines.begin(), m_lines.end(),
-        [](const QLineEdit* line) { return line->isModified(); });
+    return std::any_of(
+        m_lines.begin(), m_lines.end(), [](const QLineEdit* line) { return line->isModified(); });
 }
 
 QColor WfSFColorBox::color() const

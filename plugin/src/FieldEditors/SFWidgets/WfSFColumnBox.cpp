@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfSFColumnBox.h"
 
+#include "FittedFont.h"
 #include "LayoutMetrics.h"
 
 #include <QFrame>
@@ -22,6 +23,8 @@ void WfSFColumnBox::load()
     m_editLayout->setContentsMargins(margin, margin, margin, margin);
     for (int i = 0; i < m_columns; ++i)
         addColumn();
+    // In a tall dock a label stays with its input.
+    m_editionFrame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
 void WfSFColumnBox::addColumn()
@@ -34,13 +37,16 @@ void WfSFColumnBox::addColumn()
 
     auto* const label = new QLabel(m_editionFrame);
     label->setObjectName(QLatin1String(m_style.labelName));
-    label->setFixedHeight(layoutMetric(QStringLiteral("SFVecLabelHeight")));
+    const int labelHeight = layoutMetric(QStringLiteral("SFVecLabelHeight"));
+    label->setFixedHeight(labelHeight);
+    fitLabel(label, labelHeight);
     column->addWidget(label, 0);
     m_labels.push_back(label);
 
-    QWidget* const input = makeInput();
+    const int inputHeight = layoutMetric(QStringLiteral("SFVecLineHeight"));
+    QWidget* const input = makeInput(inputHeight);
     input->setObjectName(QLatin1String(m_style.inputName));
-    input->setFixedHeight(layoutMetric(QStringLiteral("SFVecLineHeight")));
+    input->setFixedHeight(inputHeight);
     column->addWidget(input, 0);
     m_editLayout->addLayout(column, 0);
 }

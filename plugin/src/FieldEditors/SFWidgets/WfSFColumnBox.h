@@ -29,8 +29,9 @@ protected:
     /// `style` is kept by reference.
     WfSFColumnBox(int columns, const ColumnBoxStyle& style, const char* name);
 
-    /// Makes the input of the next column, with the edition frame as parent, and connects it.
-    virtual QWidget* makeInput() = 0;
+    /// Makes the input of the next column, `height` pixels high, with the edition frame as parent,
+    /// and connects it.
+    virtual QWidget* makeInput(int height) = 0;
 
 private:
     void addColumn();

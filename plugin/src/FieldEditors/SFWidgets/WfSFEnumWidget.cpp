@@ -3,6 +3,7 @@
 
 #include "EnumNames.h"
 #include "FieldEdit.h"
+#include "KnSFEnum.h"
 #include "StringConversion.h"
 
 #include <QBoxLayout>

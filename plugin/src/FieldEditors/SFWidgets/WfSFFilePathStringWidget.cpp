@@ -15,8 +15,8 @@ void WfSFFilePathStringWidget::load()
     m_openFileButton->setObjectName(QStringLiteral("openFileButton"));
     m_openFileButton->setText(QStringLiteral("..."));
     m_editLayout->addWidget(m_openFileButton, 2);
-    connect(m_openFileButton, &QPushButton::clicked, this,
-        &WfSFFilePathStringWidget::openFileDialog);
+    connect(
+        m_openFileButton, &QPushButton::clicked, this, &WfSFFilePathStringWidget::openFileDialog);
 }
 
 void WfSFFilePathStringWidget::openFileDialog()

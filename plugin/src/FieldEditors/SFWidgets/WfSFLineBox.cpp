@@ -2,6 +2,7 @@
 #include "WfSFLineBox.h"
 
 #include "ComponentValidator.h"
+#include "FittedFont.h"
 #include "ValueComponents.h"
 
 #include <QFrame>
@@ -16,10 +17,11 @@ WfSFLineBox::WfSFLineBox(
 {
 }
 
-QWidget* WfSFLineBox::makeInput()
+QWidget* WfSFLineBox::makeInput(int height)
 {
     auto* const line = new QLineEdit(m_editionFrame);
     line->setAlignment(m_alignment);
+    fitNumberLine(line, height);
     setComponentValidator(3, line);
     connect(line, &QLineEdit::editingFinished, this, &WfSFLineBox::setFocusLeaveEvent);
     connect(line, &QLineEdit::returnPressed, this, &WfSFLineBox::setCommandValue);
@@ -29,8 +31,8 @@ QWidget* WfSFLineBox::makeInput()
 
 bool WfSFLineBox::edited()
 {
-    return std::any_of(m_lines.begin(), m_lines.end(),
-        [](const QLineEdit* line) { return line->isModified(); });
+    return std::any_of(
+        m_lines.begin(), m_lines.end(), [](const QLineEdit* line) { return line->isModified(); });
 }
 
 void WfSFLineBox::resetCursorPositions()

@@ -19,7 +19,7 @@ protected:
     WfSFLineBox(
         int columns, const ColumnBoxStyle& style, Qt::Alignment alignment, const char* name);
 
-    QWidget* makeInput() override;
+    QWidget* makeInput(int height) override;
 
     void showNumbers(const float* numbers);
     float number(std::size_t column) const;

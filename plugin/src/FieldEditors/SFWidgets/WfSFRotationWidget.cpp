@@ -7,7 +7,7 @@ void WfSFRotationWidget::load()
 {
     WfSFVectorWidget::load();
     for (QLineEdit* line : m_lines) {
-        disconnect(line, &QLineEdit::editingFinished, this,
-            &WfSFRotationWidget::setFocusLeaveEvent);
+        disconnect(
+            line, &QLineEdit::editingFinished, this, &WfSFRotationWidget::setFocusLeaveEvent);
     }
 }

@@ -44,8 +44,8 @@ public:
         typename Components::Numbers numbers;
         for (std::size_t i = 0; i < numbers.size(); ++i)
             numbers[i] = static_cast<typename Components::Number>(this->number(i));
-        executeFieldEdit(this->m_field,
-            [this, &numbers] { field()->setValue(Components::make(numbers)); });
+        executeFieldEdit(
+            this->m_field, [this, &numbers] { field()->setValue(Components::make(numbers)); });
     }
 
 private:

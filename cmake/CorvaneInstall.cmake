@@ -1,0 +1,31 @@
+# SPDX-License-Identifier: BSD-3-Clause
+
+# What a plug-in author needs: the libraries, their headers and a CMake package. The plug-in and the
+# program have their rules beside their targets.
+include(CMakePackageConfigHelpers)
+
+set(libraries ubn_kestrix_base ubn_kestrix ubn_kestrix_gl ubn_corvane_extender)
+set_target_properties(${libraries} PROPERTIES
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+install(TARGETS ${libraries} EXPORT corvaneTargets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(EXPORT corvaneTargets NAMESPACE corvane::
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}/cmake/corvane")
+
+# The host's inner classes are nobody else's.
+install(DIRECTORY platform/kestrix_base platform/kestrix platform/kestrix_gl platform/extender
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/corvane"
+        FILES_MATCHING PATTERN "*.h"
+        PATTERN CrvBuiltInProfiles.h EXCLUDE
+        PATTERN CrvPluginLibrary.h EXCLUDE
+        PATTERN CrvProfileReader.h EXCLUDE
+        PATTERN CrvProfileResolution.h EXCLUDE)
+
+write_basic_package_version_file("${CMAKE_BINARY_DIR}/corvaneConfigVersion.cmake"
+    COMPATIBILITY SameMajorVersion)
+install(FILES cmake/corvaneConfig.cmake "${CMAKE_BINARY_DIR}/corvaneConfigVersion.cmake"
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}/cmake/corvane")
+
+install(DIRECTORY scenes DESTINATION "${CMAKE_INSTALL_DATADIR}/corvane"
+        FILES_MATCHING PATTERN "*.json")
+install(FILES README.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}")

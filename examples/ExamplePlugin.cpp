@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CrvPlugin.h"
+#include "TransformEditor.h"
+
+#include <QtGlobal>
+
+#include <memory>
+
+namespace {
+
+/// What the host loads. The built-in profiles place every editor under both editor docks.
+class ExamplePlugin : public CrvPlugin {
+public:
+    ExamplePlugin()
+    {
+        m_name = "Example";
+        m_description = "Adds one node editor.";
+        m_author = "Orbel";
+        m_version = "1.0.0";
+    }
+
+    void load() override
+    {
+        addExtension(&m_transformEditor);
+        CrvPlugin::load();
+    }
+
+private:
+    TransformEditor m_transformEditor;
+};
+
+std::unique_ptr<ExamplePlugin> plugin;
+
+} // namespace
+
+extern "C" Q_DECL_EXPORT CrvPlugin* loadPlugin()
+{
+    plugin = std::make_unique<ExamplePlugin>();
+    return plugin.get();
+}
+
+extern "C" Q_DECL_EXPORT void unloadPlugin() { plugin.reset(); }

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+/// What the program was asked to do. It is read before there is an application object, since
+/// whether a display is needed depends on it.
+class CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+public:
+    enum class Request { Run, Help, Version, Error };
+
+    /// `arguments` begin with the program's name.
+    static CommandLine parse(const QStringList& arguments);
+    static QString helpText();
+
+    Request request = Request::Run;
+    QString error; ///< for Request::Error
+
+    QString scene; ///< empty: the scene that the program starts with
+    QString profile; ///< empty: the first one
+    QString profilesFile; ///< empty: the built-in profiles
+    QString selection; ///< NODE or NODE.FIELD; empty for none
+    QString picture; ///< empty: a window for a person
+    QStringList plugins; ///< empty: the default extensions beside the program
+};

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "FieldPanel.h"
+
+#include "CrvServices.h"
+#include "KnField.h"
+#include "SceneText.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+FieldPanel::FieldPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_heading(new QLabel(this))
+    , m_list(new QTreeView(this))
+{
+    setObjectName(QStringLiteral("fieldPanel"));
+    m_heading->setObjectName(QStringLiteral("fieldHeading"));
+    m_heading->setTextFormat(Qt::PlainText);
+    m_heading->setIndent(fontMetrics().averageCharWidth());
+    m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // As high as the line beside it, so that tree and list start at one height.
+    m_heading->setMinimumHeight(QLineEdit().sizeHint().height());
+
+    m_list->setObjectName(QStringLiteral("fieldList"));
+    m_list->setModel(&m_model);
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->setAlternatingRowColors(true);
+    m_list->setAllColumnsShowFocus(true);
+    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    QHeaderView& header = *m_list->header();
+    const int character = fontMetrics().averageCharWidth();
+    header.setStretchLastSection(false);
+    header.setSectionResizeMode(QHeaderView::Interactive);
+    header.setSectionResizeMode(FieldListModel::ValueColumn, QHeaderView::Stretch);
+    header.resizeSection(FieldListModel::NameColumn, character * 20);
+    header.resizeSection(FieldListModel::TypeColumn, character * 17);
+    header.resizeSection(FieldListModel::IgnoredColumn, character * 11);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_heading);
+    layout->addWidget(m_list);
+
+    CrvServices* const services = CrvServices::getInstance();
+    connect(services, &CrvServices::selectedNodeChanged, this, &FieldPanel::showNode);
+    connect(services, &CrvServices::selectedFieldChanged, this, &FieldPanel::showField);
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+        &FieldPanel::currentChanged);
+    // Opens an editor again whose dock was closed.
+    connect(m_list, &QTreeView::activated, services, &CrvServices::announceSelection);
+    showNode(services->getSelectedNode());
+}
+
+void FieldPanel::showNode(KnFieldContainer* node)
+{
+    const QScopedValueRollback following(m_following, true);
+    if (m_model.node() != node)
+        m_model.setNode(node);
+    m_heading->setEnabled(node != nullptr);
+    if (!node) {
+        m_heading->setText(tr("Select a node in the scene"));
+    } else if (node->getName().isEmpty()) {
+        m_heading->setText(nodeLabel(*node));
+    } else {
+        m_heading->setText(
+            QStringLiteral("%1  %2  %3")
+                .arg(nodeLabel(*node), QChar(0x2013), typeName(node->getObjectType())));
+    }
+}
+
+void FieldPanel::showField(KnField* field)
+{
+    const QScopedValueRollback following(m_following, true);
+    const int row = field ? m_model.rowOf(field) : -1;
+    if (row < 0) {
+        m_list->selectionModel()->clear();
+        return;
+    }
+    const QModelIndex index = m_model.index(row, FieldListModel::NameColumn);
+    m_list->selectionModel()->setCurrentIndex(
+        index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_list->scrollTo(index);
+}
+
+void FieldPanel::currentChanged(const QModelIndex& current)
+{
+    if (!m_following)
+        CrvServices::getInstance()->selectField(m_model.field(current));
+}

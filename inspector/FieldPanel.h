@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "FieldListModel.h"
+
+#include <QWidget>
+
+class QLabel;
+class QTreeView;
+
+/// The fields of the selected node below a line that names it. A person's choice becomes the host's
+/// selected field, and the host's selected field is shown in the list.
+class FieldPanel : public QWidget {
+    Q_OBJECT
+public:
+    explicit FieldPanel(QWidget* parent = nullptr);
+
+private:
+    void showNode(KnFieldContainer* node);
+    void showField(KnField* field);
+    void currentChanged(const QModelIndex& current);
+
+    FieldListModel m_model;
+    QLabel* m_heading; // child
+    QTreeView* m_list; // child
+    bool m_following = false; // the list is being brought in line with the host's selection
+};

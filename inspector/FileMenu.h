@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QMenu>
+
+class QFileDialog;
+class QSettings;
+class RecentFilesMenu;
+class SceneDocument;
+
+/// The File menu, and the questions and messages that opening and saving a scene bring up.
+class FileMenu : public QMenu {
+    Q_OBJECT
+public:
+    /// `document` outlives the menu; `settings` too, and may be null.
+    FileMenu(SceneDocument* document, QSettings* settings, QWidget* parent);
+
+    /// Opens a file, unless the person keeps the present scene because of its edits, or the file is
+    /// refused. Says so, with a message box for a refused one.
+    void openFile(const QString& fileName);
+    /// Asks what to do with edits that aren't saved. False if the scene must stay.
+    bool mayDropScene();
+
+private:
+    void chooseFile();
+    bool save();
+    bool saveAs();
+    bool saveTo(const QString& fileName);
+    QString startDirectory() const;
+    void noteFile();
+
+    SceneDocument* m_document; // not owned
+    RecentFilesMenu* m_recentFiles; // child
+};

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "CrvShell.h"
+#include "SceneDocument.h"
+
+#include <QMainWindow>
+
+class FileMenu;
+class QSettings;
+class ScenePanel;
+class ViewMenu;
+
+/// The inspector's window: the scene on the left, the fields of the selected node in the middle,
+/// and around them what the extensions bring. It must be made before the plug-ins are loaded, and
+/// outlive their extensions.
+class MainWindow : public QMainWindow, public CrvShell {
+    Q_OBJECT
+public:
+    /// `settings` outlives the window; null keeps nothing over sessions.
+    explicit MainWindow(QSettings* settings, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    SceneDocument& document() { return m_document; }
+    /// Brings the docks into the places of the last session; called when all of them are there.
+    void restoreLayout();
+
+    void addDockWidget(QDockWidget* dock, int area) override;
+    void removeDockWidget(QDockWidget* dock) override;
+    void registerExtension(CrvExtension* extension, int kind) override;
+    void unregisterExtension(CrvExtension* extension) override;
+    void addToolBar(QToolBar* toolBar, int area) override;
+    void removeToolBar(QToolBar* toolBar) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void buildPanels();
+    void buildEditMenu();
+    void buildViewMenu();
+    QDockWidget* addPanelDock(QWidget* panel, const QString& name, const QString& title);
+    void giveFirstSize(QDockWidget* dock);
+    void showFileName();
+
+    QSettings* m_settings; // not owned, may be null
+    SceneDocument m_document;
+    ScenePanel* m_scenePanel = nullptr; // child
+    FileMenu* m_fileMenu = nullptr; // child
+    ViewMenu* m_viewMenu = nullptr; // child
+    QDockWidget* m_sceneDock = nullptr; // child
+    QDockWidget* m_historyDock = nullptr; // child
+    bool m_layoutRestored = false;
+};

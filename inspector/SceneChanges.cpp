@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "SceneChanges.h"
+
+#include "KnFieldContainer.h"
+#include "KnFieldSensor.h"
+#include "KnMField.h"
+#include "KnSFImage.h"
+
+#include <QUndoStack>
+
+namespace {
+
+// More rows or bytes aren't compared each time that a slider moves.
+constexpr int maxComparedRows = 256;
+constexpr int maxComparedBytes = 4096;
+
+int rowCount(const KnField& field)
+{
+    const auto* array = dynamic_cast<const KnMField*>(&field);
+    return array ? array->getNum() : 0;
+}
+
+bool isSmall(const KnField& field)
+{
+    if (const auto* image = dynamic_cast<const KnSFImage*>(&field)) {
+        KbVec2s size;
+        int components = 0;
+        image->getValue(size, components);
+        return size[0] * size[1] * components <= maxComparedBytes;
+    }
+    return rowCount(field) <= maxComparedRows;
+}
+
+} // namespace
+
+/// One field, and what of it was saved.
+class SceneChanges::Watch {
+public:
+    Watch(SceneChanges* owner, KnField* field)
+        : m_owner(owner)
+        , m_field(field)
+        , m_sensor(fieldChanged, this)
+    {
+        markSaved();
+        m_sensor.attach(field);
+    }
+
+    void markSaved()
+    {
+        m_comparable = isSmall(*m_field);
+        if (m_comparable)
+            m_field->get(m_savedText);
+        else
+            m_savedText.makeNull();
+        m_savedRows = rowCount(*m_field);
+        m_savedIgnored = m_field->isIgnored();
+        m_rewritten = false;
+        differs = false;
+    }
+
+    /// Answers a touch; `byCommand` if it may be a command's.
+    bool compare(bool byCommand)
+    {
+        m_rewritten = m_rewritten || (!m_comparable && !byCommand);
+        if (m_rewritten || m_field->isIgnored() != m_savedIgnored
+            || rowCount(*m_field) != m_savedRows)
+            return true;
+        if (!m_comparable)
+            return false;
+        KbString text;
+        m_field->get(text);
+        return !(text == m_savedText);
+    }
+
+    bool differs = false;
+
+private:
+    static void fieldChanged(void* data, KnSensor*)
+    {
+        auto* const watch = static_cast<Watch*>(data);
+        watch->m_owner->fieldTouched(*watch);
+    }
+
+    SceneChanges* m_owner;
+    KnField* m_field; // lives in a node of the scene
+    KbString m_savedText; // null if the field is too large
+    int m_savedRows = 0;
+    int m_savedIgnored = 0;
+    bool m_comparable = true;
+    bool m_rewritten = false; // too large, and written without a command
+    KnFieldSensor m_sensor;
+};
+
+SceneChanges::SceneChanges(QUndoStack* stack, QObject* parent)
+    : QObject(parent)
+    , m_stack(stack)
+{
+    connect(m_stack, &QUndoStack::indexChanged, this, &SceneChanges::stackMoved);
+    connect(m_stack, &QUndoStack::cleanChanged, this, &SceneChanges::update);
+}
+
+SceneChanges::~SceneChanges() = default;
+
+void SceneChanges::watch(KnFieldContainer* node)
+{
+    if (!node || m_watches.count(node))
+        return;
+    auto& watches = m_watches[node];
+    const KnFieldData* const data = node->getContainerFieldData();
+    for (int i = 0; i < data->getNum(); ++i)
+        watches.push_back(std::make_unique<Watch>(this, data->getField(node, i)));
+}
+
+void SceneChanges::markSaved()
+{
+    for (const auto& [node, watches] : m_watches) {
+        for (const auto& watch : watches)
+            watch->markSaved();
+    }
+    m_differing = 0;
+    m_stack->setClean();
+    update();
+}
+
+void SceneChanges::forgetNodes()
+{
+    m_watches.clear();
+    m_differing = 0;
+    update();
+}
+
+void SceneChanges::stackMoved() { m_commandInBatch = true; }
+
+void SceneChanges::fieldTouched(Watch& watch)
+{
+    const bool differs = watch.compare(m_commandInBatch);
+    m_differing += int { differs } - int { watch.differs };
+    watch.differs = differs;
+    update();
+    // The sensors of one batch run in one go; this call waits until they have.
+    if (m_commandInBatch && !m_batchEnds) {
+        m_batchEnds = true;
+        QMetaObject::invokeMethod(this, &SceneChanges::endBatch, Qt::QueuedConnection);
+    }
+}
+
+void SceneChanges::endBatch()
+{
+    m_batchEnds = false;
+    m_commandInBatch = false;
+}
+
+void SceneChanges::update()
+{
+    const bool modified = m_differing > 0 || !m_stack->isClean();
+    if (modified == m_modified)
+        return;
+    m_modified = modified;
+    Q_EMIT modifiedChanged(m_modified);
+}

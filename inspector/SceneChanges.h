@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+class KnFieldContainer;
+class QUndoStack;
+
+/// Says whether the scene differs from what was last read or saved. The undo stack alone doesn't
+/// know, since some edits write a field without a command; so the fields of every node that was
+/// ever selected are watched, for as long as the scene is open, and compared with what was saved.
+/// A field too large to be compared at each change counts as changed from the first write on that
+/// came without a command.
+class SceneChanges : public QObject {
+    Q_OBJECT
+public:
+    explicit SceneChanges(QUndoStack* stack, QObject* parent = nullptr);
+    ~SceneChanges() override;
+
+    /// Watches the node's fields from now on. It must stay alive until `forgetNodes`.
+    void watch(KnFieldContainer* node);
+    /// What the fields hold now is what was saved. The undo stack gets its clean state here.
+    void markSaved();
+    /// Before the scene goes away.
+    void forgetNodes();
+
+    bool isModified() const { return m_modified; }
+
+Q_SIGNALS:
+    void modifiedChanged(bool modified);
+
+private:
+    class Watch;
+
+    void stackMoved();
+    void fieldTouched(Watch& watch);
+    void endBatch();
+    void update();
+
+    QUndoStack* m_stack; // the host's
+    std::unordered_map<const KnFieldContainer*, std::vector<std::unique_ptr<Watch>>> m_watches;
+    int m_differing = 0; // watches that differ
+    bool m_commandInBatch = false; // the touches that come now may be a command's
+    bool m_batchEnds = false; // endBatch is on its way
+    bool m_modified = false;
+};

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "SceneDocument.h"
+
+#include "CrvServices.h"
+#include "KnSensorQueue.h"
+#include "Messages.h"
+#include "SceneReader.h"
+#include "SceneWriter.h"
+
+#include <QUndoStack>
+
+SceneDocument::SceneDocument(QObject* parent)
+    : QObject(parent)
+    , m_changes(CrvServices::getInstance()->getUndoStack())
+{
+    connect(CrvServices::getInstance(), &CrvServices::selectedNodeChanged, &m_changes,
+        &SceneChanges::watch);
+    connect(&m_changes, &SceneChanges::modifiedChanged, this, &SceneDocument::modifiedChanged);
+}
+
+SceneDocument::~SceneDocument() { release(); }
+
+bool SceneDocument::isModified()
+{
+    KnSensorQueue::getInstance().process();
+    return m_changes.isModified();
+}
+
+bool SceneDocument::open(const QString& fileName, QString* error)
+{
+    SceneReader reader;
+    NodePtr root = reader.readFile(fileName);
+    if (!root) {
+        *error = reader.errorText();
+        return false;
+    }
+    replace(std::move(root), fileName);
+    say(reader.nodeCount() == 1 ? tr("Opened %1: 1 node").arg(fileName)
+                                : tr("Opened %1: %2 nodes").arg(fileName).arg(reader.nodeCount()));
+    return true;
+}
+
+void SceneDocument::openStarter()
+{
+    SceneReader reader;
+    NodePtr root = reader.readFile(QStringLiteral(":/corvane/starter.json"));
+    Q_ASSERT_X(root, "SceneDocument", qPrintable(reader.errorText()));
+    replace(std::move(root), QString());
+}
+
+bool SceneDocument::save(const QString& fileName, QString* error)
+{
+    SceneWriter writer;
+    if (!writer.writeFile(*m_root.get(), fileName)) {
+        *error = writer.errorText();
+        return false;
+    }
+    // What was written is what the queue has yet to announce, too.
+    KnSensorQueue::getInstance().process();
+    m_changes.markSaved();
+    say(tr("Saved %1").arg(fileName));
+    if (m_fileName != fileName) {
+        m_fileName = fileName;
+        Q_EMIT fileNameChanged();
+    }
+    return true;
+}
+
+// Commands and selection hold plain pointers to fields of the scene, so they go first.
+void SceneDocument::release()
+{
+    CrvServices* const services = CrvServices::getInstance();
+    services->selectNode(nullptr);
+    services->getUndoStack()->clear();
+    m_changes.forgetNodes();
+}
+
+void SceneDocument::replace(NodePtr root, const QString& fileName)
+{
+    release();
+    std::swap(m_root, root); // the former one stays alive until the views have let go of it
+    m_fileName = fileName;
+    Q_EMIT sceneReplaced();
+    Q_EMIT fileNameChanged();
+}

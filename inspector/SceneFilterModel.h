@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QSortFilterProxyModel>
+
+/// Leaves the nodes whose name or type contains the filter text, in any case, and their ancestors.
+class SceneFilterModel : public QSortFilterProxyModel {
+    Q_OBJECT
+public:
+    explicit SceneFilterModel(QObject* parent = nullptr);
+
+    void setFilterText(const QString& text);
+    bool isFiltering() const { return !m_text.isEmpty(); }
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
+
+private:
+    QString m_text;
+};

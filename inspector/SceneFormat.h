@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QLatin1String>
+
+/// What reader and writer of scene files agree on.
+namespace SceneFormat {
+
+inline constexpr QLatin1String name("corvane-scene");
+inline constexpr int version = 1;
+/// Children below the root; Qt's own reader ends at 1024 brackets, of which a node takes two.
+inline constexpr int maxDepth = 400;
+
+namespace Key {
+inline constexpr QLatin1String format("format");
+inline constexpr QLatin1String version("version");
+inline constexpr QLatin1String root("root");
+inline constexpr QLatin1String type("type");
+inline constexpr QLatin1String name("name");
+inline constexpr QLatin1String fields("fields");
+inline constexpr QLatin1String children("children");
+inline constexpr QLatin1String value("value");
+inline constexpr QLatin1String ignored("ignored");
+} // namespace Key
+
+} // namespace SceneFormat

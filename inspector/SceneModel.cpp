@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "SceneModel.h"
+
+#include "KnGroup.h"
+#include "SceneText.h"
+
+#include <QFont>
+
+#include <vector>
+
+/// One place in the tree.
+struct SceneModel::Item {
+    Item(KnFieldContainer* itemNode, Item* itemParent, int itemRow)
+        : node(itemNode)
+        , parent(itemParent)
+        , row(itemRow)
+    {
+    }
+
+    int childCount() const
+    {
+        const auto* group = dynamic_cast<const KnGroup*>(node.get());
+        return group ? group->getNumChildren() : 0;
+    }
+
+    const std::vector<std::unique_ptr<Item>>& childItems()
+    {
+        if (children.empty() && childCount() > 0) {
+            const auto* group = static_cast<const KnGroup*>(node.get());
+            const int count = childCount();
+            children.reserve(static_cast<std::size_t>(count));
+            for (int i = 0; i < count; ++i)
+                children.push_back(std::make_unique<Item>(group->getChild(i), this, i));
+        }
+        return children;
+    }
+
+    /// Below this place or at it; null if the node isn't there.
+    Item* find(const KnFieldContainer* wanted)
+    {
+        if (node.get() == wanted)
+            return this;
+        for (const auto& child : childItems()) {
+            if (Item* found = child->find(wanted))
+                return found;
+        }
+        return nullptr;
+    }
+
+    NodePtr node;
+    Item* parent; // null for the root
+    int row;
+    std::vector<std::unique_ptr<Item>> children; // made by childItems()
+};
+
+SceneModel::SceneModel(QObject* parent)
+    : QAbstractItemModel(parent)
+{
+}
+
+SceneModel::~SceneModel() = default;
+
+void SceneModel::setRoot(const NodePtr& root)
+{
+    beginResetModel();
+    m_root = root ? std::make_unique<Item>(root.get(), nullptr, 0) : nullptr;
+    endResetModel();
+}
+
+KnFieldContainer* SceneModel::node(const QModelIndex& index) const
+{
+    return index.isValid() && index.model() == this ? itemOf(index)->node.get() : nullptr;
+}
+
+QModelIndex SceneModel::indexOf(const KnFieldContainer* node) const
+{
+    Item* const item = m_root && node ? m_root->find(node) : nullptr;
+    return item ? createIndex(item->row, NameColumn, item) : QModelIndex();
+}
+
+QModelIndex SceneModel::index(int row, int column, const QModelIndex& parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return QModelIndex();
+    if (!parent.isValid())
+        return createIndex(row, column, m_root.get());
+    return createIndex(
+        row, column, itemOf(parent)->childItems()[static_cast<std::size_t>(row)].get());
+}
+
+QModelIndex SceneModel::parent(const QModelIndex& index) const
+{
+    Item* const parentItem = index.isValid() ? itemOf(index)->parent : nullptr;
+    return parentItem ? createIndex(parentItem->row, NameColumn, parentItem) : QModelIndex();
+}
+
+int SceneModel::rowCount(const QModelIndex& parent) const
+{
+    if (!parent.isValid())
+        return m_root ? 1 : 0;
+    return parent.column() == NameColumn ? itemOf(parent)->childCount() : 0;
+}
+
+int SceneModel::columnCount(const QModelIndex&) const { return ColumnCount; }
+
+bool SceneModel::hasChildren(const QModelIndex& parent) const { return rowCount(parent) > 0; }
+
+QVariant SceneModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return QVariant();
+    const KnFieldContainer& shown = *itemOf(index)->node.get();
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
+        return index.column() == NameColumn ? nodeLabel(shown) : typeName(shown.getObjectType());
+    }
+    // A node without a name stands under its type's.
+    if (role == Qt::FontRole && index.column() == NameColumn && shown.getName().isEmpty()) {
+        QFont font;
+        font.setItalic(true);
+        return font;
+    }
+    return QVariant();
+}
+
+QVariant SceneModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return QVariant();
+    return section == NameColumn ? tr("Node") : tr("Type");
+}
+
+SceneModel::Item* SceneModel::itemOf(const QModelIndex& index) const
+{
+    return static_cast<Item*>(index.internalPointer());
+}

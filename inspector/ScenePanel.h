@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "SceneFilterModel.h"
+#include "SceneModel.h"
+
+#include <QWidget>
+
+class QLineEdit;
+class QTreeView;
+
+/// The scene as a tree below a filter line. A person's choice becomes the host's selection, and
+/// the host's selection is shown in the tree.
+class ScenePanel : public QWidget {
+    Q_OBJECT
+public:
+    explicit ScenePanel(QWidget* parent = nullptr);
+
+    /// Null for an empty tree.
+    void setRoot(const NodePtr& root);
+    void focusFilter();
+
+private:
+    void setFilterText(const QString& text);
+    void currentChanged(const QModelIndex& current);
+    void showSelection();
+
+    SceneModel m_model;
+    SceneFilterModel m_filter;
+    QLineEdit* m_filterEdit; // child
+    QTreeView* m_tree; // child
+    bool m_following = false; // the tree is being brought in line with the host's selection
+};

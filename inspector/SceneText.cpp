@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "SceneText.h"
+
+#include "KnFieldContainer.h"
+#include "KnMField.h"
+#include "KnSFImage.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+const QChar ellipsis(0x2026);
+
+// Converts no more of a long text than is shown.
+QString cutText(const KbString& text, int maxLength)
+{
+    const std::string& utf8 = text.toUtf8();
+    const auto size = static_cast<qsizetype>(utf8.size());
+    QString line = QString::fromUtf8(utf8.data(), std::min<qsizetype>(size, 4 * maxLength));
+    if (line.size() <= maxLength)
+        return line;
+    // Half of a surrogate pair would be drawn as a box.
+    const bool splitsPair = line.at(maxLength - 1).isHighSurrogate();
+    line.truncate(splitsPair ? maxLength - 1 : maxLength);
+    return line + ellipsis;
+}
+
+QString arraySummary(const KnMField& field, int maxLength)
+{
+    const int num = field.getNum();
+    if (num == 0)
+        return QCoreApplication::translate("SceneText", "no values");
+    QString line;
+    int row = 0;
+    for (KbString value; row < num && line.size() < maxLength; ++row) {
+        if (row > 0)
+            line += QStringLiteral(", ");
+        field.get1(row, value);
+        line += cutText(value, maxLength);
+    }
+    if (line.size() > maxLength) {
+        line.truncate(maxLength);
+        line += ellipsis;
+    } else if (row < num) {
+        line += QStringLiteral(", ") + ellipsis;
+    }
+    const QString count = num == 1 ? QCoreApplication::translate("SceneText", "1 value")
+                                   : QCoreApplication::translate("SceneText", "%1 values").arg(num);
+    return QStringLiteral("%1:  %2").arg(count, line);
+}
+
+QString imageSummary(const KnSFImage& image)
+{
+    KbVec2s size;
+    int components = 0;
+    image.getValue(size, components);
+    if (size[0] == 0 || size[1] == 0)
+        return QCoreApplication::translate("SceneText", "no pixels");
+    return QCoreApplication::translate("SceneText", "%1 %2 %3 pixels of %4 bytes")
+        .arg(size[0])
+        .arg(QChar(0x00D7))
+        .arg(size[1])
+        .arg(components);
+}
+
+} // namespace
+
+QString toQString(const KbString& text) { return QString::fromStdU16String(text.toUtf16()); }
+
+KbString toKbString(const QString& text)
+{
+    return KbString::fromUtf16(reinterpret_cast<const char16_t*>(text.utf16()), text.size());
+}
+
+QString typeName(const KnType& type) { return toQString(type.getName().getString()); }
+
+QString nodeLabel(const KnFieldContainer& node)
+{
+    return node.getName().isEmpty() ? typeName(node.getObjectType())
+                                    : toQString(node.getName().getString());
+}
+
+QString fieldName(const KnField& field)
+{
+    const KnFieldContainer* node = field.getContainer();
+    if (!node)
+        return QString();
+    const KnFieldData* data = node->getContainerFieldData();
+    const int index = data->getIndex(node, &field);
+    return index < 0 ? QString() : toQString(data->getName(index).getString());
+}
+
+QString fieldSummary(const KnField& field, int maxLength)
+{
+    if (const auto* array = dynamic_cast<const KnMField*>(&field))
+        return arraySummary(*array, maxLength);
+    if (const auto* image = dynamic_cast<const KnSFImage*>(&field))
+        return imageSummary(*image);
+    KbString text;
+    field.get(text);
+    return cutText(text, maxLength);
+}

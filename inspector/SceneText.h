@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QString>
+
+class KbString;
+class KnField;
+class KnFieldContainer;
+class KnType;
+
+/// How the window words kernel objects. What these functions cost doesn't grow with an array.
+
+QString toQString(const KbString& text);
+KbString toKbString(const QString& text);
+QString typeName(const KnType& type);
+
+/// The node's name, or the name of its type for a node without one.
+QString nodeLabel(const KnFieldContainer& node);
+/// The field's name in its node; empty for a field that stands alone.
+QString fieldName(const KnField& field);
+
+/// One line of at most about `maxLength` characters that says what the field holds: the first
+/// values of an array and its length, the size of an image, the text of anything else.
+QString fieldSummary(const KnField& field, int maxLength = 80);

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "SceneWriter.h"
+
+#include "JsonText.h"
+#include "KnField.h"
+#include "KnGroup.h"
+#include "SceneFormat.h"
+#include "SceneText.h"
+
+#include <QSaveFile>
+
+namespace {
+
+void appendKey(QByteArray& json, QStringView key)
+{
+    appendJsonString(json, key);
+    json.append(": ");
+}
+
+void appendKey(QByteArray& json, QLatin1String key) { appendKey(json, QStringView(QString(key))); }
+
+void appendField(QByteArray& json, const KbString& text, bool ignored)
+{
+    using namespace SceneFormat;
+    if (!ignored) {
+        appendJsonString(json, toQString(text));
+        return;
+    }
+    json.append("{ ");
+    appendKey(json, Key::value);
+    appendJsonString(json, toQString(text));
+    json.append(", ");
+    appendKey(json, Key::ignored);
+    json.append("true }");
+}
+
+} // namespace
+
+bool SceneWriter::writeFile(const KnFieldContainer& root, const QString& fileName)
+{
+    m_error.clear();
+    const QByteArray json = toJson(root);
+    QSaveFile file(fileName);
+    if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit())
+        return true;
+    m_error = QStringLiteral("%1: %2").arg(fileName, file.errorString());
+    return false;
+}
+
+QByteArray SceneWriter::toJson(const KnFieldContainer& root)
+{
+    using namespace SceneFormat;
+    m_json = QByteArray("{\n");
+    indent(1);
+    appendKey(m_json, Key::format);
+    appendJsonString(m_json, QString(SceneFormat::name));
+    m_json.append(",\n");
+    indent(1);
+    appendKey(m_json, Key::version);
+    m_json.append(QByteArray::number(SceneFormat::version)).append(",\n");
+    indent(1);
+    appendKey(m_json, Key::root);
+    writeNode(root, 1);
+    m_json.append("\n}\n");
+    return std::exchange(m_json, QByteArray());
+}
+
+void SceneWriter::writeNode(const KnFieldContainer& node, int level)
+{
+    using namespace SceneFormat;
+    m_json.append("{\n");
+    indent(level + 1);
+    appendKey(m_json, Key::type);
+    appendJsonString(m_json, typeName(node.getObjectType()));
+    if (!node.getName().isEmpty()) {
+        m_json.append(",\n");
+        indent(level + 1);
+        appendKey(m_json, Key::name);
+        appendJsonString(m_json, toQString(node.getName().getString()));
+    }
+    writeFields(node, level + 1);
+    writeChildren(node, level + 1);
+    m_json.append('\n');
+    indent(level);
+    m_json.append('}');
+}
+
+void SceneWriter::writeFields(const KnFieldContainer& node, int level)
+{
+    const KnFieldData* const data = node.getContainerFieldData();
+    const KnFieldContainer& defaults = defaultsOf(node);
+    KbString text;
+    KbString defaultText;
+    bool first = true;
+    for (int i = 0; i < data->getNum(); ++i) {
+        const KnField* const field = data->getField(&node, i);
+        field->get(text);
+        data->getField(&defaults, i)->get(defaultText);
+        if (text == defaultText && !field->isIgnored())
+            continue;
+        if (first) {
+            m_json.append(",\n");
+            indent(level);
+            appendKey(m_json, SceneFormat::Key::fields);
+            m_json.append("{\n");
+        } else {
+            m_json.append(",\n");
+        }
+        first = false;
+        indent(level + 1);
+        appendKey(m_json, toQString(data->getName(i).getString()));
+        appendField(m_json, text, field->isIgnored() != 0);
+    }
+    if (!first) {
+        m_json.append('\n');
+        indent(level);
+        m_json.append('}');
+    }
+}
+
+void SceneWriter::writeChildren(const KnFieldContainer& node, int level)
+{
+    const auto* const group = dynamic_cast<const KnGroup*>(&node);
+    if (!group || group->getNumChildren() == 0)
+        return;
+    m_json.append(",\n");
+    indent(level);
+    appendKey(m_json, SceneFormat::Key::children);
+    m_json.append("[\n");
+    for (int i = 0; i < group->getNumChildren(); ++i) {
+        if (i > 0)
+            m_json.append(",\n");
+        indent(level + 1);
+        writeNode(*group->getChild(i), level + 1);
+    }
+    m_json.append('\n');
+    indent(level);
+    m_json.append(']');
+}
+
+const KnFieldContainer& SceneWriter::defaultsOf(const KnFieldContainer& node)
+{
+    const KnType type = node.getObjectType();
+    NodePtr& defaults = m_defaults[type.getName().getString().toUtf8()];
+    if (!defaults)
+        defaults = NodePtr(static_cast<KnFieldContainer*>(type.createInstance()));
+    return *defaults.get();
+}

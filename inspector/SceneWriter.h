@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "NodePtr.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <map>
+#include <string>
+
+/// Writes a scene file, in the form that SceneReader reads. It says of each node only what differs
+/// from a fresh node of its type. Members stand in the order in which a person reads them, which
+/// Qt's own writer would sort by name, and every text survives, lone surrogates included.
+class SceneWriter {
+public:
+    /// Replaces the file only when all of it has been written. False leaves it as it was, and
+    /// `errorText` says why.
+    bool writeFile(const KnFieldContainer& root, const QString& fileName);
+    QByteArray toJson(const KnFieldContainer& root);
+
+    const QString& errorText() const { return m_error; }
+
+private:
+    void writeNode(const KnFieldContainer& node, int level);
+    void writeFields(const KnFieldContainer& node, int level);
+    void writeChildren(const KnFieldContainer& node, int level);
+    void indent(int level) { m_json.append(2 * level, ' '); }
+
+    /// A fresh node of the same type.
+    const KnFieldContainer& defaultsOf(const KnFieldContainer& node);
+
+    QByteArray m_json;
+    QString m_error;
+    std::map<std::string, NodePtr> m_defaults; // by name of the type
+};

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "Startup.h"
+
+#include "CommandLine.h"
+#include "CrvPluginsManager.h"
+#include "CrvProfile.h"
+#include "CrvServices.h"
+#include "MainWindow.h"
+#include "Messages.h"
+#include "SceneSearch.h"
+#include "SceneText.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
+
+namespace {
+
+// Beside the program: as it was built, or as it was installed.
+QString defaultPlugin()
+{
+    const QDir directory(QCoreApplication::applicationDirPath());
+    const QString built = directory.filePath(QStringLiteral(CORVANE_BUILT_PLUGIN));
+    return QDir::cleanPath(QFileInfo::exists(built)
+            ? built
+            : directory.filePath(QStringLiteral(CORVANE_INSTALLED_PLUGIN)));
+}
+
+} // namespace
+
+Startup::Startup(MainWindow& window)
+    : m_window(window)
+{
+}
+
+Startup::~Startup() { CrvPluginsManager::getInstance()->unloadAll(); }
+
+bool Startup::carryOut(const CommandLine& commandLine)
+{
+    return chooseProfile(commandLine) && loadPlugins(commandLine) && openScene(commandLine)
+        && select(commandLine);
+}
+
+bool Startup::chooseProfile(const CommandLine& commandLine)
+{
+    CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
+    if (!commandLine.profilesFile.isEmpty()
+        && !manager->loadProfiles(commandLine.profilesFile, &m_error))
+        return false;
+    if (commandLine.profile.isEmpty())
+        return true;
+    QStringList names;
+    for (CrvProfile* profile : manager->getProfilesList()) {
+        names += toQString(profile->getName());
+        if (names.constLast() == commandLine.profile) {
+            manager->setActiveProfile(profile);
+            return true;
+        }
+    }
+    return fail(tr("no profile \"%1\"; there are: %2")
+                    .arg(commandLine.profile, names.join(QStringLiteral(", "))));
+}
+
+bool Startup::loadPlugins(const CommandLine& commandLine)
+{
+    CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
+    for (const QString& file : commandLine.plugins) {
+        if (!manager->loadPlugin(file, &m_error))
+            return false;
+    }
+    // Without its editors the program still shows a scene.
+    QString error;
+    if (commandLine.plugins.isEmpty() && !manager->loadPlugin(defaultPlugin(), &error))
+        complain(error);
+    return true;
+}
+
+bool Startup::openScene(const CommandLine& commandLine)
+{
+    if (!commandLine.scene.isEmpty())
+        return m_window.document().open(commandLine.scene, &m_error);
+    m_window.document().openStarter();
+    return true;
+}
+
+bool Startup::select(const CommandLine& commandLine)
+{
+    if (commandLine.selection.isEmpty())
+        return true;
+    SceneSearch search;
+    if (!search.find(m_window.document().root().get(), commandLine.selection))
+        return fail(search.errorText());
+    CrvServices* const services = CrvServices::getInstance();
+    services->selectNode(search.node());
+    if (search.field())
+        services->selectField(search.field());
+    return true;
+}
+
+bool Startup::fail(const QString& error)
+{
+    m_error = error;
+    return false;
+}

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CommandLine.h"
+#include "MainWindow.h"
+#include "Messages.h"
+#include "Picture.h"
+#include "Startup.h"
+
+#include <QApplication>
+#include <QSettings>
+
+#include <memory>
+
+namespace {
+
+constexpr int usageError = 2;
+
+QStringList argumentList(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
+
+// The process's own streams: a console dock may have taken over those of C++.
+int fail(const QString& error)
+{
+    complainToTerminal(QStringLiteral("corvane: ") + error);
+    return usageError;
+}
+
+// Help and version need no display.
+int answer(int argc, char** argv, CommandLine::Request request)
+{
+    const QCoreApplication application(argc, argv);
+    if (request == CommandLine::Request::Help)
+        sayToTerminal(CommandLine::helpText().trimmed());
+    else
+        sayToTerminal(QStringLiteral("corvane %1").arg(QCoreApplication::applicationVersion()));
+    return 0;
+}
+
+int takePicture(MainWindow& window, const QString& fileName)
+{
+    QString error;
+    if (!Picture::take(window, fileName, &error))
+        return fail(error);
+    sayToTerminal(CommandLine::tr("Wrote %1").arg(fileName));
+    return 0;
+}
+
+int run(const CommandLine& commandLine)
+{
+    const bool forPerson = commandLine.picture.isEmpty();
+    std::unique_ptr<QSettings> settings;
+    if (forPerson)
+        settings = std::make_unique<QSettings>();
+
+    MainWindow window(settings.get());
+    Startup startup(window);
+    if (!startup.carryOut(commandLine))
+        return fail(startup.errorText());
+    if (!forPerson)
+        return takePicture(window, commandLine.picture);
+    window.restoreLayout();
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Orbel"));
+    QCoreApplication::setApplicationName(QStringLiteral("Corvane"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
+
+    const CommandLine commandLine = CommandLine::parse(argumentList(argc, argv));
+    if (commandLine.request == CommandLine::Request::Error)
+        return fail(commandLine.error);
+    if (commandLine.request != CommandLine::Request::Run)
+        return answer(argc, argv, commandLine.request);
+
+    const bool hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (!commandLine.picture.isEmpty() && !hasDisplay)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    return run(commandLine);
+}

@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CrvConsole.h"
+
+#include "CrvShell.h"
+#include "KnDebugError.h"
+#include "KnErrorStack.h"
+#include "KnGLError.h"
+#include "KnMemoryError.h"
+#include "KnPreferences.h"
+#include "KnReadError.h"
+#include "StreamCapture.h"
+
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QFile>
+#include <QFileDialog>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QThread>
+
+#include <iostream>
+#include <iterator>
+
+namespace {
+
+constexpr int consoleEventType = QEvent::User;
+
+enum OutputType { ErrorOutput = 0, InfoOutput = 1, WarningOutput = 2 };
+
+struct ErrorClass {
+    KnErrorCallback (*getCallback)();
+    void* (*getData)();
+    void (*setCallback)(KnErrorCallback callback, void* data);
+};
+
+template <class Error>
+constexpr ErrorClass errorClass
+    = { &Error::getHandlerCallback, &Error::getHandlerData, &Error::setHandlerCallback };
+
+constexpr ErrorClass errorClasses[] = {
+    errorClass<KnDebugError>,
+    errorClass<KnError>,
+    errorClass<KnErrorStack>,
+    errorClass<KnGLError>,
+    errorClass<KnMemoryError>,
+    errorClass<KnReadError>,
+};
+
+} // namespace
+
+CrvConsole::ConsoleEvent::ConsoleEvent(const QString& text)
+    : QEvent(static_cast<QEvent::Type>(consoleEventType))
+    , m_text(text)
+{
+}
+
+CrvConsole::CrvConsole()
+    : m_errorColor(Qt::darkRed)
+    , m_infoColor(Qt::darkGreen)
+    , m_warningColor(Qt::darkYellow)
+{
+    static_assert(std::size(errorClasses) == errorClassCount);
+    m_name = "Console";
+    m_description = "A console which prints the standard output and error.";
+    m_author = "Orbel";
+    m_version = "1.0.0";
+}
+
+CrvConsole::~CrvConsole()
+{
+    // Streams and handlers mustn't keep a console that its host forgot to unload.
+    releaseStream(m_cerrRedirector);
+    releaseStream(m_coutRedirector);
+    if (m_dock)
+        CrvConsole::unload();
+}
+
+bool CrvConsole::event(QEvent* e)
+{
+    if (e->type() == consoleEventType) {
+        // Any code may post an event of this number.
+        if (const auto* const message = dynamic_cast<ConsoleEvent*>(e))
+            addMessage(message->getText(), message->getOutputType());
+    }
+    return QObject::event(e);
+}
+
+void CrvConsole::load()
+{
+    m_dock = new QDockWidget;
+    // A main window keeps and restores its docks by object name.
+    m_dock->setObjectName(QStringLiteral("Console"));
+    m_frame = new QFrame(m_dock);
+    setupUi(m_frame);
+    // The three colours of the text are dark, so the ground is light under a dark palette too.
+    QPalette light = m_consoleOutput->palette();
+    light.setColor(QPalette::Base, Qt::white);
+    light.setColor(QPalette::Text, Qt::black);
+    m_consoleOutput->setPalette(light);
+    // Nobody can undo a message, and keeping what that takes costs memory for each.
+    m_consoleOutput->setUndoRedoEnabled(false);
+
+    m_showErrors = m_showInfos = m_showWarnings = true;
+    connect(m_clearButton, &QPushButton::clicked, this, &CrvConsole::clear);
+    connect(m_errorsButton, &QPushButton::toggled, this, &CrvConsole::outputErrors);
+    connect(m_infosButton, &QPushButton::toggled, this, &CrvConsole::outputInfos);
+    connect(m_saveButton, &QPushButton::clicked, this, &CrvConsole::save);
+    connect(m_warningsButton, &QPushButton::toggled, this, &CrvConsole::outputWarnings);
+
+    // A message that arrived while there was no view belongs to no view.
+    QCoreApplication::removePostedEvents(this, consoleEventType);
+    for (int i = 0; i < errorClassCount; ++i) {
+        m_previousHandlers[i] = errorClasses[i].getCallback();
+        m_previousHandlerData[i] = errorClasses[i].getData();
+    }
+    for (const ErrorClass& error : errorClasses)
+        error.setCallback(&CrvConsole::takeError, this);
+}
+
+void CrvConsole::unload()
+{
+    delete m_frame;
+    m_frame = nullptr;
+    delete m_dock;
+    m_dock = nullptr;
+    for (int i = 0; i < errorClassCount; ++i)
+        errorClasses[i].setCallback(m_previousHandlers[i], m_previousHandlerData[i]);
+    // No thread is inside the handler any more, so this removes the last message.
+    QCoreApplication::removePostedEvents(this, consoleEventType);
+}
+
+void CrvConsole::activate()
+{
+    CrvShell::getInstance()->registerExtension(this, 1);
+    CrvExtension::activate();
+    m_dock->setWidget(m_frame);
+    m_dock->setWindowTitle(QStringLiteral("Console"));
+    if (KnPreferences::getBool("CORVANE_STDOUT_CAPTURE", 1)) {
+        m_cerrRedirector = captureStream(std::cerr, &takeStreamText<ErrorOutput>, this);
+        m_coutRedirector = captureStream(std::cout, &takeStreamText<InfoOutput>, this);
+    }
+    CrvShell::getInstance()->addDockWidget(m_dock, Qt::BottomDockWidgetArea);
+    show();
+}
+
+void CrvConsole::deactivate()
+{
+    CrvExtension::deactivate();
+    m_dock->setWidget(nullptr);
+    releaseStream(m_cerrRedirector);
+    releaseStream(m_coutRedirector);
+    m_cerrRedirector = nullptr;
+    m_coutRedirector = nullptr;
+    CrvShell::getInstance()->removeDockWidget(m_dock);
+    hide();
+    CrvShell::getInstance()->unregisterExtension(this);
+}
+
+void CrvConsole::show()
+{
+    CrvExtension::show();
+    m_dock->show();
+    m_frame->show();
+}
+
+void CrvConsole::hide()
+{
+    CrvExtension::hide();
+    m_dock->hide();
+    m_frame->hide();
+}
+
+void CrvConsole::takeError(const KnError* error, void* data)
+{
+    int outputType = ErrorOutput;
+    if (error->isOfType(KnDebugError::getClassTypeId())) {
+        const int severity = static_cast<const KnDebugError*>(error)->getSeverity();
+        if (severity == KnDebugError::Warning)
+            outputType = WarningOutput;
+        else if (severity == KnDebugError::Info)
+            outputType = InfoOutput;
+    }
+    static_cast<CrvConsole*>(data)->post(
+        QString::fromStdString(error->getDebugString().toUtf8()), outputType);
+}
+
+template <int outputType>
+void CrvConsole::takeStreamText(const char* text, std::streamsize count, void* userData)
+{
+    auto* const console = static_cast<CrvConsole*>(userData);
+    const QString message = QString::fromUtf8(text, static_cast<qsizetype>(count));
+    // What the view itself prints while it takes a message (a host's message handler may write to
+    // a stream) waits, since a document can't be changed from inside its own layout.
+    if (QThread::currentThread() == console->thread() && !console->m_appending)
+        console->addMessage(message, outputType);
+    else
+        console->post(message, outputType);
+}
+
+void CrvConsole::post(const QString& text, int outputType)
+{
+    auto* const event = new ConsoleEvent(text);
+    event->setOutputType(outputType);
+    QCoreApplication::postEvent(this, event, 0);
+}
+
+void CrvConsole::addMessage(const QString& text, int outputType)
+{
+    if (!m_frame)
+        return;
+    const QScopedValueRollback<bool> appending(m_appending, true);
+    switch (outputType) {
+    case InfoOutput:
+        if (m_showInfos)
+            append(text, m_infoColor);
+        break;
+    case WarningOutput:
+        if (m_showWarnings)
+            append(text, m_warningColor);
+        break;
+    default:
+        if (m_showErrors)
+            append(text, m_errorColor);
+    }
+}
+
+void CrvConsole::append(const QString& text, const QColor& color)
+{
+    // The view's own append would take a text that looks like mark-up for mark-up, and setting a
+    // colour would give it to the text that the user has selected.
+    if (!Qt::mightBeRichText(text) && !m_consoleOutput->textCursor().hasSelection()) {
+        m_consoleOutput->setTextColor(color);
+        m_consoleOutput->append(text);
+        return;
+    }
+    QScrollBar* const bar = m_consoleOutput->verticalScrollBar();
+    const bool atEnd = bar->value() >= bar->maximum();
+    QTextCharFormat format;
+    format.setForeground(color);
+    QTextCursor cursor(m_consoleOutput->document());
+    cursor.beginEditBlock();
+    cursor.movePosition(QTextCursor::End);
+    if (!m_consoleOutput->document()->isEmpty())
+        cursor.insertBlock(QTextBlockFormat(), format);
+    cursor.insertText(text, format);
+    cursor.endEditBlock();
+    if (atEnd)
+        bar->setValue(bar->maximum());
+}
+
+void CrvConsole::clear() { m_consoleOutput->clear(); }
+
+void CrvConsole::outputErrors() { m_showErrors = !m_showErrors; }
+
+void CrvConsole::outputInfos() { m_showInfos = !m_showInfos; }
+
+void CrvConsole::outputWarnings() { m_showWarnings = !m_showWarnings; }
+
+void CrvConsole::save()
+{
+    const QString name = QFileDialog::getSaveFileName(m_frame,
+        tr("Save the content of the console"), QStringLiteral("."), tr("Console outputs (*.txt)"));
+    if (name.isEmpty())
+        return;
+    QFile file(name);
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Text))
+        return;
+    // What a longer file held behind the text goes, but not before the text is in.
+    const QByteArray text = m_consoleOutput->toPlainText().toLatin1();
+    if (file.write(text) == text.size() && file.flush())
+        file.resize(file.pos());
+}

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "CrvExtension.h"
+#include "KnError.h"
+#include "StdStreamRedirector.h"
+#include "ui_CrvConsole.h"
+
+#include <QColor>
+#include <QEvent>
+
+class QDockWidget;
+
+/// A dock at the bottom of the host's window that shows what the process writes to `std::cout` and
+/// `std::cerr` while the console is active, and what the kernel reports through its error classes
+/// from `load` to `unload`. Each message is a paragraph in the colour of its class; three buttons
+/// decide which classes are let in when a message arrives.
+///
+/// The view is touched on the user interface thread only. A message from another thread crosses as
+/// a ConsoleEvent, so that the messages of one thread keep their order; one that is still on its
+/// way at `unload` is dropped.
+class CrvConsole : public CrvExtension, public Ui::m_consoleFrame {
+    Q_OBJECT
+public:
+    /// A message on its way to the user interface thread. Qt's event queue owns it.
+    class ConsoleEvent : public QEvent {
+    public:
+        explicit ConsoleEvent(const QString& text);
+
+        QString getText() const { return m_text; }
+        /// 0 for an error, 1 for an info, 2 for a warning. To be set before the event is posted.
+        int getOutputType() const { return m_outputType; }
+        void setOutputType(int outputType) { m_outputType = outputType; }
+
+    private:
+        QString m_text;
+        int m_outputType = 0;
+    };
+
+    CrvConsole();
+    ~CrvConsole() override;
+
+    /// Takes the text of a ConsoleEvent.
+    bool event(QEvent* e) override;
+
+    /// Captures the standard streams, unless the setting CORVANE_STDOUT_CAPTURE says no.
+    void activate() override;
+    void deactivate() override;
+    void hide() override;
+    /// Takes the kernel's error handlers over; `unload` gives them back.
+    void load() override;
+    void show() override;
+    void unload() override;
+
+public Q_SLOTS:
+    /// Empties the view.
+    void clear();
+    // Each lets in messages of its class if it didn't, and the other way round.
+    void outputErrors();
+    void outputInfos();
+    void outputWarnings();
+    /// Writes the view's plain text, in Latin-1, to a file that the user chooses.
+    void save();
+
+private:
+    static constexpr int errorClassCount = 6;
+
+    static void takeError(const KnError* error, void* data);
+    template <int outputType>
+    static void takeStreamText(const char* text, std::streamsize count, void* userData);
+
+    void post(const QString& text, int outputType);
+    void addMessage(const QString& text, int outputType);
+    void append(const QString& text, const QColor& color);
+
+    bool m_showErrors = true;
+    bool m_showInfos = true;
+    bool m_showWarnings = true;
+    QDockWidget* m_dock = nullptr; // owned, from load to unload
+    QFrame* m_frame = nullptr; // owned, from load to unload; child of the dock
+    QColor m_errorColor;
+    QColor m_infoColor;
+    QColor m_warningColor;
+    KnErrorCallback m_previousHandlers[errorClassCount] = {};
+    void* m_previousHandlerData[errorClassCount] = {}; // not owned
+    StdStreamRedirector<char>* m_cerrRedirector = nullptr; // given back to releaseStream
+    StdStreamRedirector<char>* m_coutRedirector = nullptr; // given back to releaseStream
+    bool m_appending = false; // a message is going into the view
+};

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QTableWidget>
+
+class CellEditorKeeper;
+class KnMField;
+class WfMFieldTableItemDelegate;
+class WfMFieldWidget;
+
+/// Shows the values of an array, one row a value, one column a component. A field may hold a
+/// million values, so the table keeps none of them: it has a row count, and its delegate asks the
+/// owning editor for the cells that are on the screen. Rows are added, deleted and moved by
+/// undoable commands.
+class WfMFieldTable : public QTableWidget {
+    Q_OBJECT
+public:
+    /// `widget` is the editor that the table belongs to; it isn't owned. `name` is the object name,
+    /// by default the class name.
+    WfMFieldTable(WfMFieldWidget* widget, QWidget* parent, const char* name);
+    ~WfMFieldTable() override;
+
+    // How the delegate edits a cell; see there.
+    void setEditorKind(int kind);
+    void setIntRange(int min, int max);
+    void setRealRange(double min, double max);
+    void setBounded(bool bounded);
+
+    /// What looks after the cell editor that is open.
+    CellEditorKeeper& editorKeeper() const { return *m_editorKeeper; }
+
+public Q_SLOTS:
+    /// Takes the field's value count; a negative one is ignored. This is all of a refresh but the
+    /// repaint.
+    void setNumRows(int row);
+    void swapUpRow();
+    void swapDownRow();
+    /// Deletes the current row, or with Shift held the rows of the first selected range.
+    virtual void deleteRow();
+    /// Adds a row behind the current one.
+    virtual void addRow();
+    /// Scrolls to a row, counted from 1, and makes it current.
+    void showTableRow(int value);
+    virtual void swapRows(int row1, int row2);
+    void editorDestroyed(QObject* editor) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    /// An editor that a commit has taken out of the table already has nothing left to commit.
+    void commitData(QWidget* editor) override;
+    /// The same editor is closed by what follows its commit: a move to the next cell, for example.
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+    WfMFieldWidget* m_widget; // the owner, not owned
+    WfMFieldTableItemDelegate* m_delegate; // child
+    bool m_multiSelect = false; // true while Shift is held
+
+private:
+    KnMField* field() const;
+    bool prepareRowOperation();
+    void moveRow(int row, int target);
+    void setAccessLimits(int minimum, int maximum);
+    void deleteRows(int firstRow, int count);
+
+    CellEditorKeeper* m_editorKeeper; // child
+};

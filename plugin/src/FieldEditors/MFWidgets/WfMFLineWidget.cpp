@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "WfMFLineWidget.h"
+
+#include "FieldRow.h"
+#include "StringConversion.h"
+
+WfMFLineWidget::WfMFLineWidget(const char* name)
+    : WfMFieldWidget(name)
+{
+    if (!name)
+        setObjectName(QStringLiteral("WfMFLineWidget"));
+}
+
+void WfMFLineWidget::load()
+{
+    WfMFieldWidget::load();
+    shapeColumns(1);
+}
+
+void WfMFLineWidget::swapFieldValues(int row1, int row2)
+{
+    if (hasRow(row1) && hasRow(row2))
+        swapRowTexts(m_field, row1, row2);
+}
+
+void WfMFLineWidget::setFieldValue(int row, int, QString text)
+{
+    if (hasRow(row))
+        m_field->set1(row, toKbString(text));
+}
+
+QString WfMFLineWidget::getCellText(int row, int col)
+{
+    KbString text;
+    if (col < 1 && hasRow(row))
+        m_field->get1(row, text);
+    return toQString(text);
+}
+
+bool WfMFLineWidget::acceptsField(KnField* field)
+{
+    return field && field->isOfType(KnMField::getClassTypeId());
+}

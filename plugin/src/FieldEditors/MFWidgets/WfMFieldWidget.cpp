@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "WfMFieldWidget.h"
+
+#include "AccessButtonPrivate.h"
+#include "CellEditorKeeper.h"
+#include "FieldActions.h"
+#include "KnMField.h"
+#include "LayoutMetrics.h"
+#include "PanelParts.h"
+#include "Pixmaps.h"
+#include "WfMFieldTable.h"
+
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+
+WfMFieldWidget::WfMFieldWidget(const char* name)
+    : WfMFieldWidget(0, name)
+{
+}
+
+WfMFieldWidget::WfMFieldWidget(int, const char* name)
+    : m_deletePixmap(deletePixmap())
+    , m_addPixmap(addPixmap())
+    , m_upPixmap(upPixmap())
+    , m_downPixmap(downPixmap())
+    , m_defaultPixmap(defaultPixmap())
+    , m_ignorePixmap(ignorePixmap())
+{
+    setObjectName(name ? QString(QLatin1String(name)) : QStringLiteral("WfMFieldWidget"));
+    m_table = new WfMFieldTable(this, getFrame(), "m_table");
+}
+
+WfMFieldWidget::~WfMFieldWidget()
+{
+    // The frame goes later, when there is nobody left whom an open cell editor could write to.
+    m_table->editorKeeper().drop();
+}
+
+void WfMFieldWidget::setLabel(const QString& text)
+{
+    if (!m_label)
+        m_label = new QLabel(getFrame());
+    if (m_label->text().isEmpty())
+        m_label->setText(centredText(text));
+}
+
+void WfMFieldWidget::updateElementCount()
+{
+    if (m_field)
+        m_labelNumElement->setText(
+            centredText(QString::number(m_field->getNum()) + QStringLiteral(" elements")));
+}
+
+void WfMFieldWidget::load()
+{
+    CrvFieldEditors::load();
+
+    QFrame* const frame = getFrame();
+    frame->setFrameShape(QFrame::Box);
+    frame->setFrameShadow(QFrame::Plain);
+    frame->setLineWidth(layoutMetric(QStringLiteral("frameLineWidth")));
+
+    m_globalLayout = new QGridLayout(frame);
+    setMargins(m_globalLayout, layoutMetric(QStringLiteral("MFGlobalLayoutMarging")));
+    m_globalLayout->setSpacing(layoutMetric(QStringLiteral("MFGlobalLayoutSpacing")));
+    m_globalLayout->setObjectName(QStringLiteral("m_globalLayout"));
+
+    styleTitleLabel(m_label);
+    m_globalLayout->addWidget(m_label, 0, 0);
+    m_globalLayout->addItem(
+        new QSpacerItem(0, 4, QSizePolicy::Minimum, QSizePolicy::Minimum), 1, 0);
+    m_globalLayout->addItem(
+        new QSpacerItem(6, 0, QSizePolicy::Minimum, QSizePolicy::Minimum), 0, 1);
+
+    buildButtonRow();
+    m_globalLayout->addLayout(m_buttonsLayout, 0, 2);
+    m_globalLayout->addWidget(m_table, 2, 2);
+    m_table->setMinimumHeight(layoutMetric(QStringLiteral("MFTableMinHeightWin")));
+
+    makeConnections();
+    languageChange();
+}
+
+void WfMFieldWidget::buildButtonRow()
+{
+    QFrame* const frame = getFrame();
+    m_addButton = makeIconButton(frame, "m_addButton", m_addPixmap);
+    m_deleteButton = makeIconButton(frame, "m_deleteButton", m_deletePixmap);
+    m_upButton = makeIconButton(frame, "m_upButton", m_upPixmap);
+    m_downButton = makeIconButton(frame, "m_downButton", m_downPixmap);
+    m_defaultButton = makeIconButton(frame, "m_defaultButton", m_defaultPixmap);
+    m_ignoreButton = makeIconButton(frame, "m_ignoreButton", m_ignorePixmap);
+    m_ignoreButton->setCheckable(true);
+
+    m_buttonsLayout = new QHBoxLayout;
+    setMargins(m_buttonsLayout, layoutMetric(QStringLiteral("MFGlobalButtonsLayoutMargin")));
+    m_buttonsLayout->setSpacing(layoutMetric(QStringLiteral("MFGlobalButtonsLayoutSpacing")));
+    m_buttonsLayout->setObjectName(QStringLiteral("m_buttonsLayout"));
+
+    m_manageButtonsLayout = addButtonPair("m_manageButtonsLayout", m_addButton, m_deleteButton);
+
+    m_manageAccessSpacer
+        = new QSpacerItem(layoutMetric(QStringLiteral("MFManageAccessSpacerWidth")),
+            layoutMetric(QStringLiteral("MFManageAccessSpacerHeight")), QSizePolicy::Expanding,
+            QSizePolicy::Minimum);
+    m_buttonsLayout->addItem(m_manageAccessSpacer);
+
+    m_accessBox = new AccessButtonPrivate(0, 0, 1, getWidget(), "m_accessBox");
+    m_accessBox->setMaximumSize(layoutMetric(QStringLiteral("MFAccessWidth")),
+        layoutMetric(QStringLiteral("buttonHeight")));
+    m_buttonsLayout->addWidget(m_accessBox);
+
+    m_accessMoveSpacer = new QSpacerItem(layoutMetric(QStringLiteral("MFAccessMoveSpacerWidth")),
+        layoutMetric(QStringLiteral("MFAccessMoveSpacerHeight")), QSizePolicy::Expanding,
+        QSizePolicy::Minimum);
+    m_buttonsLayout->addItem(m_accessMoveSpacer);
+    m_buttonsLayout->addItem(new QSpacerItem(0, 4, QSizePolicy::Minimum, QSizePolicy::Minimum));
+
+    m_labelNumElement = new QLabel(frame);
+    m_labelNumElement->setObjectName(QStringLiteral("m_labelNumElement"));
+    updateElementCount();
+    m_buttonsLayout->addWidget(m_labelNumElement);
+
+    m_movementButtonLayout = addButtonPair("movementButtonLayout", m_upButton, m_downButton);
+    m_fieldButtonLayout = addButtonPair("movementButtonLayout", m_defaultButton, m_ignoreButton);
+}
+
+QHBoxLayout* WfMFieldWidget::addButtonPair(
+    const char* name, QPushButton* first, QPushButton* second)
+{
+    auto* const layout = new QHBoxLayout;
+    setMargins(layout, layoutMetric(QStringLiteral("MFButtonLayoutMargin")));
+    layout->setSpacing(layoutMetric(QStringLiteral("MFButtonLayoutSpacing")));
+    layout->setObjectName(QLatin1String(name));
+    layout->addWidget(first);
+    layout->addWidget(second);
+    m_buttonsLayout->addLayout(layout);
+    return layout;
+}
+
+void WfMFieldWidget::makeConnections()
+{
+    connect(m_upButton, &QPushButton::clicked, m_table, &WfMFieldTable::swapUpRow);
+    connect(m_downButton, &QPushButton::clicked, m_table, &WfMFieldTable::swapDownRow);
+    connect(m_deleteButton, &QPushButton::clicked, m_table, &WfMFieldTable::deleteRow);
+    connect(m_addButton, &QPushButton::clicked, m_table, &WfMFieldTable::addRow);
+    connect(m_accessBox, &QSpinBox::valueChanged, m_table, &WfMFieldTable::showTableRow);
+    connect(
+        m_ignoreButton, &QPushButton::released, this, &WfMFieldWidget::ignoreButtonStateChanged);
+    connect(m_defaultButton, &QPushButton::clicked, this, &WfMFieldWidget::setDefaultFieldValue);
+}
+
+void WfMFieldWidget::languageChange()
+{
+    for (QPushButton* button :
+        { m_addButton, m_deleteButton, m_upButton, m_downButton, m_defaultButton, m_ignoreButton })
+        button->setText(QString());
+    m_deleteButton->setToolTip(QStringLiteral("Delete current row"));
+    m_accessBox->setToolTip(QStringLiteral("Quick access to rows"));
+    m_upButton->setToolTip(QStringLiteral("Bring up current row"));
+    m_downButton->setToolTip(QStringLiteral("Bring down current row"));
+    m_defaultButton->setToolTip(QStringLiteral("Set to default"));
+    m_ignoreButton->setToolTip(QStringLiteral("Ignore this field"));
+    m_addButton->setToolTip(QStringLiteral("Add a row"));
+}
+
+void WfMFieldWidget::attachField(KnField* field)
+{
+    // One that is still open belongs to the field before.
+    m_table->editorKeeper().drop();
+    if (acceptsField(field))
+        m_field = static_cast<KnMField*>(field);
+    CrvFieldEditors::attachField(field);
+}
+
+void WfMFieldWidget::updateFromField()
+{
+    if (!m_table || !m_updateEnabled || !m_field)
+        return;
+    m_table->setNumRows(m_field->getNum());
+    // The cells are drawn on the viewport, which an update of the table alone leaves as it is.
+    m_table->update();
+    m_table->viewport()->update();
+    m_ignoreButton->setChecked(m_field->isIgnored() != 0);
+    updateElementCount();
+}
+
+void WfMFieldWidget::setFieldUpdateEnabled(bool enabled) { m_updateEnabled = enabled; }
+
+void WfMFieldWidget::swapFieldValues(int, int) { }
+
+void WfMFieldWidget::setFieldValue(int, int, QString) { }
+
+void WfMFieldWidget::setFieldColor(int, const void*) { }
+
+void WfMFieldWidget::applyChanges() { }
+
+QString WfMFieldWidget::getCellText(int, int) { return QString(); }
+
+int WfMFieldWidget::getCellAlignment() { return Qt::AlignCenter; }
+
+bool WfMFieldWidget::acceptsField(KnField*) { return false; }
+
+void WfMFieldWidget::ignoreButtonStateChanged()
+{
+    if (m_field)
+        setFieldIgnored(m_field, m_ignoreButton->isChecked());
+}
+
+void WfMFieldWidget::setDefaultFieldValue()
+{
+    if (m_field)
+        setFieldToDefault(m_field);
+}
+
+bool WfMFieldWidget::hasRow(int row) const
+{
+    return m_field && row >= 0 && row < m_field->getNum();
+}
+
+void WfMFieldWidget::shapeColumns(int count)
+{
+    m_table->setColumnCount(count);
+    for (int column = 0; column < count; ++column)
+        m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Interactive);
+    m_table->setNumRows(0);
+}
