@@ -29,7 +29,7 @@ constexpr int layoutVersion = 1;
 constexpr int sceneWidth = 300;
 constexpr int historyHeight = 160;
 constexpr int editorWidth = 400;
-constexpr int bottomHeight = 170;
+constexpr int bottomHeight = 250;
 constexpr QSize windowSize(1280, 800);
 
 QString geometryKey() { return QStringLiteral("window/geometry"); }

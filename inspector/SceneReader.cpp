@@ -13,7 +13,7 @@
 #include <QJsonObject>
 #include <QStringList>
 
-#include <memory>
+#include <algorithm>
 
 namespace {
 
@@ -22,13 +22,13 @@ QString memberPath(const QString& path, const QString& member)
     return path.isEmpty() ? member : path + QLatin1Char('.') + member;
 }
 
-// Line and column from 1; the column counts bytes.
+// Line and column from 1; the column counts bytes. Qt's offset stands behind the byte at fault.
 QString lineAndColumn(const QByteArray& text, qsizetype offset)
 {
-    const QByteArrayView before = QByteArrayView(text).first(qBound(0, offset, text.size()));
-    const qsizetype line = before.count('\n') + 1;
-    const qsizetype column = offset - (before.lastIndexOf('\n') + 1) + 1;
-    return QStringLiteral("%1:%2").arg(line).arg(column);
+    const QByteArrayView before
+        = QByteArrayView(text).first(std::clamp<qsizetype>(offset - 1, 0, text.size()));
+    const qsizetype column = before.size() - before.lastIndexOf('\n');
+    return QStringLiteral("%1:%2").arg(before.count('\n') + 1).arg(column);
 }
 
 } // namespace
@@ -63,7 +63,9 @@ NodePtr SceneReader::readText(const QByteArray& json, const QString& fileName)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
-        refuse(lineAndColumn(json, error.offset), error.errorString());
+        // As a compiler says it.
+        m_fileName += QLatin1Char(':') + lineAndColumn(json, error.offset);
+        refuse(QString(), error.errorString());
         return NodePtr();
     }
     if (!document.isObject()) {

@@ -1,17 +1,29 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "CrvConsole.h"
 #include "CrvFieldEditorDockWin.h"
 #include "CrvNodeEditor.h"
 #include "CrvPlugin.h"
+#include "CrvProfileSelectorExtension.h"
+#include "WfMFColorRGBAWidget.h"
+#include "WfMFColorWidget.h"
 #include "WfMFDefaultFieldWidget.h"
 #include "WfMFDoubleWidget.h"
 #include "WfMFFloatWidget.h"
 #include "WfMFInt32Widget.h"
+#include "WfMFMatrixWidget.h"
+#include "WfMFPlaneWidget.h"
+#include "WfMFRotationWidget.h"
 #include "WfMFShortWidget.h"
 #include "WfMFStringWidget.h"
 #include "WfMFUInt32Widget.h"
 #include "WfMFUShortWidget.h"
+#include "WfMFVec2fWidget.h"
+#include "WfMFVec2i32Widget.h"
+#include "WfMFVec2sWidget.h"
+#include "WfMFVec3fWidget.h"
+#include "WfMFVec4fWidget.h"
 #include "WfSFBitMaskWidget.h"
 #include "WfSFBoolWidget.h"
 #include "WfSFBox2fWidget.h"
@@ -49,14 +61,26 @@ public:
     void load() override;
 
 private:
+    CrvProfileSelectorExtension m_profileSelectorExtension;
+    CrvConsole m_console;
+    WfMFColorWidget m_mfColorWidget;
+    WfMFColorRGBAWidget m_mfColorRGBAWidget;
     WfMFDefaultFieldWidget m_mfDefaultFieldWidget;
     WfMFDoubleWidget m_mfDoubleWidget;
     WfMFFloatWidget m_mfFloatWidget;
     WfMFInt32Widget m_mfInt32Widget;
+    WfMFMatrixWidget m_mfMatrixWidget;
+    WfMFPlaneWidget m_mfPlaneWidget;
+    WfMFRotationWidget m_mfRotationWidget;
     WfMFShortWidget m_mfShortWidget;
     WfMFStringWidget m_mfStringWidget;
     WfMFUInt32Widget m_mfUInt32Widget;
     WfMFUShortWidget m_mfUShortWidget;
+    WfMFVec2fWidget m_mfVec2fWidget;
+    WfMFVec2i32Widget m_mfVec2i32Widget;
+    WfMFVec2sWidget m_mfVec2sWidget;
+    WfMFVec3fWidget m_mfVec3fWidget;
+    WfMFVec4fWidget m_mfVec4fWidget;
     WfSFBitMaskWidget m_sfBitMaskWidget;
     WfSFBoolWidget m_sfBoolWidget;
     WfSFBox2fWidget m_sfBox2fWidget;

@@ -12,6 +12,9 @@
 
 // The bodies of KnMFieldOf, for the source file that instantiates it for a value type.
 
+/// After so many values of a long array, the room for the others is estimated from them.
+inline constexpr std::size_t knSampleSize = 256;
+
 template <class Value_>
 bool KnMFieldOf<Value_>::resize(std::int64_t num)
 {
@@ -98,6 +101,8 @@ void KnMFieldOf<Value_>::get(KbString& text) const
         KnTextWriter writer(out);
         writer.put('[');
         for (std::size_t i = 0; i < m_values.size(); ++i) {
+            if (i == knSampleSize)
+                writer.reserve(m_values.size() / knSampleSize);
             if (i > 0)
                 writer.put(',');
             writer.put(' ');
@@ -117,6 +122,8 @@ bool KnMFieldOf<Value_>::readArray(KnTextReader& reader, std::vector<Value>& val
         return KnTextForm<Value>::read(reader, values.emplace_back());
     reader.setInArray(true);
     while (!reader.accept(']')) { // also behind a last comma
+        if (values.size() == knSampleSize)
+            values.reserve(knSampleSize * (reader.remaining() / reader.consumed() + 2));
         if (reader.acceptDefault())
             values.emplace_back();
         else if (!KnTextForm<Value>::read(reader, values.emplace_back()))

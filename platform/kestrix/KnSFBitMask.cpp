@@ -43,11 +43,13 @@ bool KnSFBitMask::set(const KbString& text)
     const auto readTerm = [this](KnTextReader& reader, int& mask) {
         reader.skipBlanks();
         const char* const start = reader.position();
+        const std::string_view term = reader.takeUpTo("|)");
         int bits = 0;
-        if (!lookUp(reader.takeUpTo("|)"), bits)) {
+        if (!lookUp(term, bits)) {
             std::int64_t number = 0;
-            reader.setPosition(start);
-            if (!reader.read(number) || number < INT32_MIN || number > UINT32_MAX) {
+            KnTextReader termReader(term);
+            if (!termReader.read(number) || !termReader.atEnd() || number < INT32_MIN
+                || number > UINT32_MAX) {
                 reader.setPosition(start);
                 return reader.fail(describeNames());
             }

@@ -87,6 +87,7 @@ public:
     /// Goes back to an earlier `position`, where a failure then belongs.
     void setPosition(const char* position) { m_next = position; }
     std::size_t remaining() const { return static_cast<std::size_t>(m_last - m_next); }
+    std::size_t consumed() const { return static_cast<std::size_t>(m_next - m_first); }
     /// Where the failure is, in bytes from the front.
     std::size_t failureOffset() const { return static_cast<std::size_t>(m_failure - m_first); }
     const std::string& expected() const { return m_expected; }

@@ -20,6 +20,13 @@ public:
     KnTextWriter& operator=(const KnTextWriter&) = delete;
     ~KnTextWriter() { flush(); }
 
+    /// Sets room aside for so many times the text written so far, and a little more.
+    void reserve(std::size_t times)
+    {
+        flush();
+        m_out.reserve(m_out.size() * (times + 1) + m_out.size() / 8 * times);
+    }
+
     void put(char c)
     {
         makeRoom();

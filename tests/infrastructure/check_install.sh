@@ -30,7 +30,7 @@ draw() {
 
 LD_DEBUG=files LD_DEBUG_OUTPUT=$work/trace draw plain
 for name in libubn_kestrix_base libubn_kestrix libubn_corvane_extender ubn_corvane_extender_base; do
-    grep -q "calling init: $prefix/lib[^ ]*/$name\.so" "$work"/trace.* || {
+    grep -q "calling init: $prefix/.*/$name\.so" "$work"/trace.* || {
         echo "$name wasn't loaded from the installed tree" >&2
         exit 1
     }

@@ -101,7 +101,11 @@ void InspectorSession::clickRow(const QString& view, const QString& name)
 
 QAction* InspectorSession::action(const QString& menu, const QString& entry) const
 {
-    return window.findChild<QMenu*>(menu)->findChild<QAction*>(entry);
+    for (QAction* candidate : window.findChild<QMenu*>(menu)->actions()) {
+        if (candidate->objectName() == entry)
+            return candidate;
+    }
+    return nullptr;
 }
 
 void InspectorSession::choose(const QString& menu, const QString& entry)

@@ -46,7 +46,7 @@ Answer TestCommandLine::run(const QStringList& arguments)
     program.setWorkingDirectory(m_folder.path());
     program.start(QStringLiteral(CORVANE_PROGRAM), arguments);
     if (!program.waitForFinished(60000) || program.exitStatus() != QProcess::NormalExit)
-        return { -1, QString(), program.errorString() + program.readAllStandardError() };
+        return { -1, QString(), program.errorString() };
     return { program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
         QString::fromUtf8(program.readAllStandardError()) };
 }

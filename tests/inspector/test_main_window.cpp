@@ -27,8 +27,8 @@ class TestMainWindow : public QObject {
 private Q_SLOTS:
     void init()
     {
-        QTest::failOnWarning(
-            QRegularExpression(u"^(?!This plugin does not support propagateSizeHints)"_s));
+        // What the offscreen platform has to say of itself.
+        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
         m_folder = std::make_unique<QTemporaryDir>();
     }
     void cleanup() { QVERIFY(QApplication::topLevelWidgets().isEmpty()); }
@@ -287,7 +287,7 @@ void TestMainWindow::profilesCanBeChosen()
 
     session.choose(u"profileMenu"_s, u"Console"_s);
     QVERIFY(!session.dock(u"Field Editor"_s));
-    QTRY_VERIFY(!session.action(u"viewMenu"_s, u"Field Editor"_s));
+    QVERIFY(!session.action(u"viewMenu"_s, u"Field Editor"_s));
     session.choose(u"profileMenu"_s, u"Everything"_s);
     QVERIFY(session.dock(u"Field Editor"_s)->isVisible());
 }

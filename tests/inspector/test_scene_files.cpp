@@ -2,6 +2,7 @@
 #include "CrvServices.h"
 #include "KnField.h"
 #include "KnGroup.h"
+#include "KnReadError.h"
 #include "KnTestNode.h"
 #include "KnText.h"
 #include "SceneDocument.h"
@@ -110,7 +111,7 @@ void TestSceneFiles::refusesBadFiles_data()
     QTest::newRow("truncated") << sceneWith("{ \"type\": \"Group\"").chopped(4)
                                << QStringList { u":3:"_s };
     QTest::newRow("syntax error") << sceneWith("\n\n { \"type\" \"Group\" }")
-                                  << QStringList { u":5:10:"_s };
+                                  << QStringList { u":5:11:"_s };
     QTest::newRow("an array") << QByteArray("[]") << QStringList { u"object"_s };
     QTest::newRow("another format") << QByteArray("{ \"format\": \"x\", \"version\": 1 }")
                                     << QStringList { u"format"_s, u"corvane-scene"_s };
@@ -164,7 +165,7 @@ void TestSceneFiles::refusesBadFiles()
     QVERIFY2(reader.errorText().startsWith(u"bad.json:"_s), qPrintable(reader.errorText()));
     for (const QString& part : messageParts)
         QVERIFY2(reader.errorText().contains(part), qPrintable(reader.errorText()));
-    QCOMPARE(KnReadError::getHandlerCallback(), handler);
+    QVERIFY(KnReadError::getHandlerCallback() == handler);
     QVERIFY(reader.readText(nestedGroups(400), u"good.json"_s));
     QCOMPARE(reader.nodeCount(), 401);
 }

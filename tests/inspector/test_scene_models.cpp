@@ -60,7 +60,11 @@ class TestSceneModels : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
+    void init()
+    {
+        // What the offscreen platform has to say of itself.
+        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
+    }
     void sceneModelIsSound();
     void sharedNodeStandsInEachPlace();
     void filters_data();
@@ -147,13 +151,14 @@ void TestSceneModels::filteringKeepsTheSelection()
 
     services->selectNode(oak);
     QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
-    const QSignalSpy selections(services, &CrvServices::selectedNodeChanged);
+    int selections = 0;
+    connect(services, &CrvServices::selectedNodeChanged, &panel, [&selections] { ++selections; });
     QTest::keyClicks(line, u"light"_s);
     QVERIFY(!tree->currentIndex().isValid());
     line->clear();
     QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
     QCOMPARE(services->getSelectedNode(), oak);
-    QCOMPARE(selections.size(), 0);
+    QCOMPARE(selections, 0);
 
     // What is left is opened, so that it can be chosen at once.
     QTest::keyClicks(line, u"frame st"_s);
@@ -216,11 +221,11 @@ void TestSceneModels::summariesStayShort_data()
     QTest::newRow("two values") << u"MFInt32"_s << u"[1, 2]"_s << u"2 values:  1, 2"_s;
     QTest::newRow("long array") << u"MFInt32"_s
                                 << u"[ "_s + QStringList(9999, u"12345678"_s).join(u", "_s)
-            + u" ]"_s << u"9999 values:  12345678, 12345678, 123456\u2026"_s;
+            + u" ]"_s << u"9999 values:  12345678, 12345678, 12345678, \u2026"_s;
     QTest::newRow("long text") << u"SFString"_s << longText
-                               << u"\"" + longText.left(29) + u"\u2026";
+                               << u"\""_s + longText.left(29) + u"\u2026"_s;
     QTest::newRow("long text of an array")
-        << u"MFString"_s << longText << u"1 value:  \"" + longText.left(29) + u"\u2026";
+        << u"MFString"_s << longText << u"1 value:  \""_s + longText.left(29) + u"\u2026"_s;
     QTest::newRow("image") << u"SFImage"_s << u"2 1 3 0x010203 0x040506"_s
                            << u"2 \u00d7 1 pixels of 3 bytes"_s;
     QTest::newRow("no image") << u"SFImage"_s << u"0 0 0"_s << u"no pixels"_s;

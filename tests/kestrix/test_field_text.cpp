@@ -186,6 +186,7 @@ void TestFieldText::twoQuotesAreTheDefault()
     ReadErrors errors;
     const auto field = makeField(type);
     const auto fresh = makeField(type);
+    nameValues(*field);
     QVERIFY(field->set(row->text));
     QVERIFY(field->set("\"\""));
     QCOMPARE(textOf(*field), textOf(*fresh));

@@ -27,7 +27,7 @@ QByteArray textOf(typename Field::Value value)
 /// The number of digits from the first to the last that isn't 0.
 qsizetype countDigits(const QByteArray& text)
 {
-    QByteArray digits = text.left(text.indexOf('e')).replace('.', "").replace('-', "");
+    QByteArray digits = text.split('e').first().replace('.', "").replace('-', "");
     while (digits.startsWith('0'))
         digits.remove(0, 1);
     while (digits.endsWith('0'))

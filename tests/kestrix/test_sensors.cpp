@@ -222,7 +222,7 @@ void TestSensors::whatACallbackTouchesWaits()
     QCOMPARE(m_log, QByteArray("abcab"));
     rounds = 0;
     queue().process();
-    QCOMPARE(m_log, QByteArray("abcabcab"));
+    QCOMPARE(m_log, QByteArray("abcababc"));
 }
 
 void TestSensors::processWithinACallbackDoesNothing()

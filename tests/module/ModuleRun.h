@@ -8,6 +8,12 @@
 
 class CrvPlugin;
 
+/// A shell whose window outlives the plug-in's file.
+class ModuleShell : public TestShell {
+public:
+    void addDockWidget(QDockWidget* dock, int area) override;
+};
+
 /// A host that knows a plug-in only by its file: a window, a node with a field of every type, and
 /// the plug-in manager.
 class ModuleRun {
@@ -24,7 +30,7 @@ public:
     void use(bool everyField);
     void unload();
 
-    TestShell& shell() { return m_shell; }
+    ModuleShell& shell() { return m_shell; }
     /// Whether the process map names the file.
     bool isMapped() const;
 
@@ -33,7 +39,7 @@ private:
     void clickBool();
 
     QString m_fileName;
-    TestShell m_shell;
+    ModuleShell m_shell;
     KnTestNode* m_node; // a reference is held
 };
 

@@ -7,7 +7,7 @@
 #include "KnMemoryError.h"
 #include "KnReadError.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QFileDialog>
 #include <QTemporaryDir>
 #include <QTextBlock>
@@ -65,6 +65,9 @@ private Q_SLOTS:
     {
         failOnWarnings();
         m_harness = std::make_unique<ConsoleHarness>();
+        // The dialog opens in the current folder.
+        QVERIFY(QDir::setCurrent(m_dir.path()));
+        QFile::remove(QStringLiteral("out.txt"));
     }
     void cleanup()
     {
@@ -74,19 +77,12 @@ private Q_SLOTS:
 
     void theFormIsWhatItsUsersLookFor()
     {
-        QStringList tree;
-        const QList<QWidget*> widgets = view()->window()->findChildren<QWidget*>();
-        for (const QWidget* widget : widgets) {
-            if (widget->objectName().startsWith(QStringLiteral("m_")))
-                tree << widget->objectName() + u'<' + widget->parentWidget()->objectName();
-        }
-        const QStringList names = { QStringLiteral("m_consoleFrame<Console"),
-            QStringLiteral("m_scrollAreaContainer<m_consoleFrame"),
-            QStringLiteral("m_consoleScrollArea<m_scrollAreaContainer"),
-            QStringLiteral("m_scrollAreaContents<qt_scrollarea_viewport"),
-            QStringLiteral("m_consoleOutput<m_scrollAreaContents") };
-        for (const QString& name : names)
-            QVERIFY2(tree.contains(name), qPrintable(name));
+        QStringList chain;
+        for (const QWidget* widget = view(); !widget->isWindow(); widget = widget->parentWidget())
+            chain << widget->objectName();
+        QCOMPARE(chain.join(u' '),
+            QStringLiteral("m_consoleOutput m_scrollAreaContents qt_scrollarea_viewport "
+                           "m_consoleScrollArea m_scrollAreaContainer m_consoleFrame Console"));
 
         QStringList column;
         const QLayout* const layout = m_harness->console().m_buttonsLayout;
@@ -94,37 +90,31 @@ private Q_SLOTS:
             const QWidget* const widget = layout->itemAt(i)->widget();
             column << (widget ? widget->objectName() + u' ' + widget->toolTip() : QString());
         }
-        QCOMPARE(column,
-            QStringList({ QStringLiteral("m_errorsButton Displays errors"), QString(),
-                QStringLiteral("m_warningsButton Displays warnings"), QString(),
-                QStringLiteral("m_infosButton Displays informations"), QString(),
-                QStringLiteral("m_clearButton Clears the console"),
-                QStringLiteral("m_saveButton Saves the content of the console") }));
+        QCOMPARE(column.join(u'|'),
+            QStringLiteral("m_errorsButton Displays errors||m_warningsButton Displays warnings||"
+                           "m_infosButton Displays informations||m_clearButton Clears the console|"
+                           "m_saveButton Saves the content of the console"));
 
         QStringList slotNames;
         const QMetaObject& meta = CrvConsole::staticMetaObject;
         for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
             slotNames << QString::fromLatin1(meta.method(i).methodSignature());
-        QCOMPARE(slotNames,
-            QStringList({ QStringLiteral("clear()"), QStringLiteral("outputErrors()"),
-                QStringLiteral("outputInfos()"), QStringLiteral("outputWarnings()"),
-                QStringLiteral("save()") }));
+        QCOMPARE(slotNames.join(u' '),
+            QStringLiteral("clear() outputErrors() outputInfos() outputWarnings() save()"));
     }
 
     void theLibraryHoldsFiveIcons()
     {
-        const QMap<QString, int> sizes = { { QStringLiteral("errors.png"), 14 },
-            { QStringLiteral("warnings.png"), 14 }, { QStringLiteral("infos.png"), 14 },
-            { QStringLiteral("clear.png"), 16 }, { QStringLiteral("save.png"), 16 } };
-        const QDir icons(QStringLiteral(":/console_icons/Icons"));
-        QCOMPARE(icons.entryList(QDir::Files, QDir::Name), sizes.keys());
-        QCOMPARE(QDir(QStringLiteral(":/console_icons")).entryList(),
-            QStringList(QStringLiteral("Icons")));
-        for (const QString& name : icons.entryList()) {
-            const QImage image(icons.filePath(name));
-            QCOMPARE(image.size(), QSize(sizes[name], sizes[name]));
-            QVERIFY(image.hasAlphaChannel());
+        QStringList found;
+        for (QDirIterator it(QStringLiteral(":/console_icons"), QDirIterator::Subdirectories);
+             it.hasNext();) {
+            const QImage image(it.next());
+            if (!it.fileInfo().isDir())
+                found << QStringLiteral("%1 %2").arg(it.filePath()).arg(image.width());
         }
+        found.sort();
+        QCOMPARE(found.join(u'|').remove(QStringLiteral(":/console_icons/Icons/")),
+            QStringLiteral("clear.png 16|errors.png 14|infos.png 14|save.png 16|warnings.png 14"));
     }
 
     void sourcesColoursAndFilters_data()
@@ -188,9 +178,8 @@ private Q_SLOTS:
                     ? QList<QColor> { Qt::darkRed }
                     : QList<QColor>(block.text().isEmpty() ? 0 : 1, Qt::darkGreen));
 
-        const QTemporaryDir dir;
-        saveAs(dir.filePath(QStringLiteral("out.txt")));
-        QCOMPARE(contents(dir.filePath(QStringLiteral("out.txt"))), expected.toLatin1());
+        saveAs(QStringLiteral("out.txt"));
+        QCOMPARE(contents(QStringLiteral("out.txt")), expected.toLatin1());
     }
 
     void utf8InPieces()
@@ -213,8 +202,7 @@ private Q_SLOTS:
 
     void savingReplacesTheWholeFile()
     {
-        const QTemporaryDir dir;
-        const QString name = dir.filePath(QStringLiteral("out.txt"));
+        const QString name = QStringLiteral("out.txt");
         QFile longer(name);
         QVERIFY(longer.open(QIODevice::WriteOnly));
         longer.write(QByteArray(5000, 'x'));
@@ -224,7 +212,7 @@ private Q_SLOTS:
         QCOMPARE(contents(name), QByteArray("outside Latin-1: ?."));
 
         saveAs(QString());
-        QCOMPARE(QDir(dir.path()).entryList(QDir::Files).size(), 1);
+        QCOMPARE(QDir().entryList(QDir::Files).size(), 1);
     }
 
     void whatThePrintingOfAMessagePrintsComesBehindIt()
@@ -286,28 +274,29 @@ private:
         QFile file(fileName);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("can't be read");
     }
-    /// Clicks the button and types the name into the dialog; an empty one cancels.
+    /// Clicks the button and types the name of a file in the current folder into the dialog; an
+    /// empty one cancels.
     void saveAs(const QString& fileName)
     {
-        QTimer::singleShot(0, this, [this, fileName] {
+        QTimer::singleShot(0, this, [fileName] {
             auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             QVERIFY(dialog);
             QCOMPARE(dialog->windowTitle(), QStringLiteral("Save the content of the console"));
             QCOMPARE(dialog->nameFilters(), QStringList(QStringLiteral("Console outputs (*.txt)")));
-            auto* const line = dialog->findChild<QLineEdit*>();
+            auto* const line = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
             line->setCompleter(nullptr);
             QTest::keyClicks(line, fileName);
-            // The question whether to replace the file comes from within the key press.
-            if (QFile::exists(fileName)) {
-                QTimer::singleShot(0, this, [] {
-                    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Y, Qt::AltModifier);
-                });
+            // The question whether to replace the file is asked from within the key press.
+            if (!fileName.isEmpty() && QFile::exists(fileName)) {
+                QTimer::singleShot(0, dialog,
+                    [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Y); });
             }
             QTest::keyClick(dialog, fileName.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
         });
         m_harness->click("m_saveButton");
     }
 
+    QTemporaryDir m_dir;
     std::unique_ptr<ConsoleHarness> m_harness;
 };
 

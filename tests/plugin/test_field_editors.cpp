@@ -10,6 +10,8 @@ namespace {
 std::vector<EditorRow> allRows()
 {
     std::vector<EditorRow> rows = singleValueRows();
+    for (const EditorRow& row : compoundRows())
+        rows.push_back(row);
     for (const EditorRow& row : arrayRows())
         rows.push_back(row);
     return rows;

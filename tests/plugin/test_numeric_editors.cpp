@@ -132,12 +132,17 @@ private Q_SLOTS:
         }
     }
 
-    void aPrefixMayBeTypedAlong()
+    void aDragThatWasCutShortLeavesNothingBehind()
     {
         EditorFixture fixture;
-        fixture.select(fixture.field("SFUInt32"));
-        typeInto(fixture.child<QLineEdit>("m_lineEdit"), QStringLiteral("0xff"));
-        QCOMPARE(fixture.node().SFUInt32.getValue(), 255U);
+        fixture.node().SFInt32.setValue(40);
+        fixture.select(fixture.field("SFInt32"));
+        SliderInput(fixture.child<QSlider>("m_slider")).press();
+        fixture.select(fixture.otherField("SFInt32"));
+        typeInto(fixture.child<QLineEdit>("m_lineEdit"), QStringLiteral("7"));
+        while (fixture.undoStack().canUndo())
+            fixture.undo();
+        QCOMPARE(fixture.otherNode().SFInt32.getValue(), 0);
     }
 
     void aRatioOpensForWhatItHolds()
@@ -149,6 +154,9 @@ private Q_SLOTS:
         auto* const slider = fixture.child<WfRealSlider>("WfSliderFrame");
         QVERIFY(slider->isBounded());
         QCOMPARE(slider->getMaximum(), 1.5);
+        EditorFixture::write(&light.node->intensity, "-0.5");
+        QCOMPARE(slider->getMinimum(), -0.5);
+        QCOMPARE(slider->getValue(), -0.5);
 
         // Another node's field has its own range, and all numbers can be typed again.
         fixture.node().SFFloat.setValue(-3.0F);
@@ -158,7 +166,7 @@ private Q_SLOTS:
         QCOMPARE(slider->getMaximum(), 10.0);
         typeInto(slider->m_lineEdit, QStringLiteral("-1234.5"));
         QCOMPARE(fixture.node().SFFloat.getValue(), -1234.5F);
-        QCOMPARE(light.node->intensity.getValue(), 1.5F);
+        QCOMPARE(light.node->intensity.getValue(), -0.5F);
         fixture.select(nullptr);
     }
 

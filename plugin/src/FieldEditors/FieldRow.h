@@ -22,3 +22,12 @@ inline void swapRowTexts(KnMField* field, int row1, int row2)
     field->set1(row1, b);
     field->set1(row2, a);
 }
+
+/// Exchanges two rows of an array of a known type by their values. Both rows exist.
+template <class Field>
+void swapRowValues(Field& field, int row1, int row2)
+{
+    const typename Field::Value copy = field[row1];
+    field.set1Value(row1, field[row2]);
+    field.set1Value(row2, copy);
+}

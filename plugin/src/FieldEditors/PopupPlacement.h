@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 
 // Where the popups of the field editors open, as plain arithmetic in global pixels.
@@ -13,3 +14,7 @@ QPoint popupPosition(const QPoint& wanted, const QSize& screen, const QSize& roo
 
 /// The top left corner of a popup that opens to the left of a panel, at the height of its top.
 QPoint popupPositionLeftOf(const QPoint& panelTopLeft, int popupWidth);
+
+/// Where a popup of that size that is to open at `wanted` lies inside `area` as a whole, moved no
+/// further than needed. One that is larger than the area keeps its top left corner inside.
+QPoint positionInside(const QRect& area, const QPoint& wanted, const QSize& size);

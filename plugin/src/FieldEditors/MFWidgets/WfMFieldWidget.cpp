@@ -8,6 +8,7 @@
 #include "LayoutMetrics.h"
 #include "PanelParts.h"
 #include "Pixmaps.h"
+#include "WfMFColorTable.h"
 #include "WfMFieldTable.h"
 
 #include <QGridLayout>
@@ -20,7 +21,7 @@ WfMFieldWidget::WfMFieldWidget(const char* name)
 {
 }
 
-WfMFieldWidget::WfMFieldWidget(int, const char* name)
+WfMFieldWidget::WfMFieldWidget(int tableKind, const char* name)
     : m_deletePixmap(deletePixmap())
     , m_addPixmap(addPixmap())
     , m_upPixmap(upPixmap())
@@ -29,7 +30,8 @@ WfMFieldWidget::WfMFieldWidget(int, const char* name)
     , m_ignorePixmap(ignorePixmap())
 {
     setObjectName(name ? QString(QLatin1String(name)) : QStringLiteral("WfMFieldWidget"));
-    m_table = new WfMFieldTable(this, getFrame(), "m_table");
+    m_table = tableKind == 1 ? new WfMFColorTable(this, getFrame(), "m_table")
+                             : new WfMFieldTable(this, getFrame(), "m_table");
 }
 
 WfMFieldWidget::~WfMFieldWidget()
@@ -226,4 +228,10 @@ void WfMFieldWidget::shapeColumns(int count)
     for (int column = 0; column < count; ++column)
         m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Interactive);
     m_table->setNumRows(0);
+}
+
+void WfMFieldWidget::shapeColumns(const QStringList& headers)
+{
+    shapeColumns(static_cast<int>(headers.size()));
+    m_table->setHorizontalHeaderLabels(headers);
 }

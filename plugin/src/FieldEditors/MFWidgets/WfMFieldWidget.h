@@ -63,6 +63,8 @@ protected:
     /// Gives the table its columns, which a person may size, with the header's own numbers as
     /// labels, and no rows.
     void shapeColumns(int count);
+    /// The same with one column a header.
+    void shapeColumns(const QStringList& headers);
 
     AccessButtonPrivate* m_accessBox = nullptr; // quick access to a row, from 1
     QPushButton* m_upButton = nullptr;

@@ -6,6 +6,8 @@
 
 #include <QLatin1String>
 
+#include <utility>
+
 /// What all editors of single numbers share: a slider is the whole input area, holds value and
 /// range, and calls applyChanges() when a person changes the value. `Traits` says what a member of
 /// the family is made for:
@@ -25,6 +27,13 @@ public:
     {
         setLabel(QLatin1String(Traits::typeName));
         WfSFieldWidget::load();
+    }
+
+    void attachField(KnField* field) override
+    {
+        // A drag that the change of field cut short has saved a text of the field before.
+        static_cast<Slider*>(m_editionFrame)->m_oldValue.makeNull();
+        WfSFieldWidget::attachField(field);
     }
 
     bool edited() override { return m_slider->isModified(); }

@@ -33,8 +33,7 @@ public:
         if (this->m_field) {
             const double value = this->field()->getValue();
             WfRealSlider& slider = *this->m_slider;
-            const WfSlider::OwnerHold hold(slider);
-            // Even a bounded range opens for what the field holds already.
+            // Even a bounded range opens for what the field holds already. Opening pushes no scale.
             if (value > slider.getMaximum())
                 slider.setRange(slider.getMinimum(), value, slider.isBounded());
             if (slider.getMinimum() > value)

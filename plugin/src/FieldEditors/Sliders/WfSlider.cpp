@@ -124,7 +124,6 @@ void WfSlider::syncPosition()
 
 void WfSlider::takeText(const QString& text)
 {
-    const OwnerHold hold(*this);
     setText(text);
     updateValueFromEdit();
     syncPosition();

@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "ArrayContenders.h"
+
+#include "KnMFields.h"
+#include "KnSensorQueue.h"
+#include "WfMFFloatWidget.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QSpinBox>
+#include <QTableWidget>
+
+namespace {
+
+constexpr QSize WindowSize(400, 600); // pixels
+
+class EditorContender : public ArrayContender {
+public:
+    EditorContender()
+    {
+        m_editor.load();
+        m_table = m_editor.getFrame()->findChild<WfMFieldTable*>();
+        m_accessBox = m_editor.getFrame()->findChild<QSpinBox*>(QStringLiteral("m_accessBox"));
+    }
+    ~EditorContender() override
+    {
+        m_editor.deactivate();
+        m_editor.unload();
+    }
+
+    const char* name() const override { return "editor"; }
+    QTableView* view() const override { return m_table; }
+    void prepare(int rows) override
+    {
+        m_next = m_next == &m_fields[0] ? &m_fields[1] : &m_fields[0];
+        const std::vector<float> values(static_cast<std::size_t>(rows), 0.5F);
+        m_next->setNum(rows);
+        m_next->setValues(0, rows, values.data());
+    }
+
+    void select() override
+    {
+        m_editor.deactivate();
+        m_editor.setEditedObject(m_next);
+        m_editor.activate();
+    }
+    void refresh() override
+    {
+        m_next->set1Value(0, 1.5F);
+        KnSensorQueue::getInstance().process();
+    }
+    void jump(int row) override { m_accessBox->setValue(row + 1); }
+    void edit(int row) override
+    {
+        m_editor.setFieldValue(row, 0, QStringLiteral("2.5"));
+        KnSensorQueue::getInstance().process();
+    }
+    void add() override
+    {
+        m_table->addRow();
+        KnSensorQueue::getInstance().process();
+    }
+    void remove() override
+    {
+        m_table->deleteRow();
+        KnSensorQueue::getInstance().process();
+    }
+
+private:
+    KnMFFloat m_fields[2];
+    KnMFFloat* m_next = nullptr; // one of them: shown since the last select
+    WfMFFloatWidget m_editor;
+    WfMFieldTable* m_table; // of the editor
+    QSpinBox* m_accessBox; // of the editor
+};
+
+/// A table widget that is told how many rows there are and nothing of what they hold.
+class BareContender : public ArrayContender {
+public:
+    BareContender()
+    {
+        m_table.setColumnCount(1);
+        m_table.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    }
+
+    const char* name() const override { return "bare table"; }
+    QTableView* view() const override { return &m_table; }
+    void prepare(int rows) override { m_rows = rows; }
+    void select() override
+    {
+        m_table.setRowCount(0);
+        m_table.setRowCount(m_rows);
+    }
+    void refresh() override { m_table.viewport()->update(); }
+    void edit(int) override { m_table.viewport()->update(); }
+    void add() override { m_table.insertRow(m_table.currentRow() + 1); }
+    void remove() override { m_table.removeRow(m_table.currentRow()); }
+
+protected:
+    mutable QTableWidget m_table;
+    int m_rows = 0;
+};
+
+/// The same table with an item for each value.
+class FilledContender : public BareContender {
+public:
+    const char* name() const override { return "filled table"; }
+    void select() override
+    {
+        BareContender::select();
+        for (int row = 0; row < m_rows; ++row)
+            setItem(row, 0.5F);
+    }
+    void refresh() override
+    {
+        for (int row = 0; row < m_table.rowCount(); ++row)
+            m_table.item(row, 0)->setText(QString::number(0.5));
+    }
+    void edit(int row) override { m_table.item(row, 0)->setText(QString::number(2.5)); }
+    void add() override
+    {
+        const int row = m_table.currentRow() + 1;
+        m_table.insertRow(row);
+        setItem(row, 0);
+    }
+
+private:
+    void setItem(int row, float value)
+    {
+        m_table.setItem(row, 0, new QTableWidgetItem(QString::number(value)));
+    }
+};
+
+class FloatModel : public QAbstractTableModel {
+public:
+    int rowCount(const QModelIndex& parent) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_values.size());
+    }
+    int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : 1; }
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        return role == Qt::DisplayRole
+            ? QString::number(m_values[static_cast<std::size_t>(index.row())])
+            : QVariant();
+    }
+    void setValues(std::vector<float> values)
+    {
+        beginResetModel();
+        m_values = std::move(values);
+        endResetModel();
+    }
+    void setValue(int row, float value)
+    {
+        m_values[static_cast<std::size_t>(row)] = value;
+        Q_EMIT dataChanged(index(row, 0), index(row, 0));
+    }
+    void insert(int row)
+    {
+        beginInsertRows(QModelIndex(), row, row);
+        m_values.insert(m_values.begin() + row, 0.0F);
+        endInsertRows();
+    }
+    void remove(int row)
+    {
+        beginRemoveRows(QModelIndex(), row, row);
+        m_values.erase(m_values.begin() + row);
+        endRemoveRows();
+    }
+
+private:
+    std::vector<float> m_values;
+};
+
+class ModelContender : public ArrayContender {
+public:
+    ModelContender() { m_view.setModel(&m_model); }
+
+    const char* name() const override { return "hand-made model"; }
+    QTableView* view() const override { return &m_view; }
+    void prepare(int rows) override { m_next.assign(static_cast<std::size_t>(rows), 0.5F); }
+    void select() override { m_model.setValues(std::move(m_next)); }
+    void refresh() override { m_model.setValue(0, 1.5F); }
+    void edit(int row) override { m_model.setValue(row, 2.5F); }
+    void add() override { m_model.insert(m_view.currentIndex().row() + 1); }
+    void remove() override { m_model.remove(m_view.currentIndex().row()); }
+
+private:
+    FloatModel m_model;
+    mutable QTableView m_view;
+    std::vector<float> m_next;
+};
+
+} // namespace
+
+void ArrayContender::jump(int row)
+{
+    const QModelIndex index = view()->model()->index(row, 0);
+    view()->scrollTo(index, QAbstractItemView::EnsureVisible);
+    view()->setCurrentIndex(index);
+}
+
+void ArrayContender::paint() const
+{
+    QApplication::sendPostedEvents();
+    QApplication::processEvents();
+    view()->viewport()->repaint();
+}
+
+void ArrayContender::show() const
+{
+    QWidget* const window = view()->window();
+    window->resize(WindowSize);
+    window->show();
+    paint();
+}
+
+std::vector<std::unique_ptr<ArrayContender>> makeContenders()
+{
+    std::vector<std::unique_ptr<ArrayContender>> all;
+    all.push_back(std::make_unique<EditorContender>());
+    all.push_back(std::make_unique<BareContender>());
+    all.push_back(std::make_unique<ModelContender>());
+    all.push_back(std::make_unique<FilledContender>());
+    return all;
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <memory>
+#include <vector>
+
+class QTableView;
+
+/// One way to show an array of floats in a table, in a window of its own.
+class ArrayContender {
+public:
+    virtual ~ArrayContender() = default;
+
+    virtual const char* name() const = 0;
+    virtual QTableView* view() const = 0;
+    /// Makes the array that the next `select` shows.
+    virtual void prepare(int rows) = 0;
+
+    // What a person waits for. Each leaves the painting to `paint`.
+    virtual void select() = 0;
+    /// Another part of the program has changed a value.
+    virtual void refresh() = 0;
+    virtual void jump(int row);
+    virtual void edit(int row) = 0;
+    /// Behind the current row.
+    virtual void add() = 0;
+    /// The current row.
+    virtual void remove() = 0;
+
+    /// Ends when everything that is to be seen of the table is on the screen.
+    void paint() const;
+    void show() const;
+};
+
+/// The editor of KnMFFloat, the bare table, the hand-made model and the filled table.
+std::vector<std::unique_ptr<ArrayContender>> makeContenders();

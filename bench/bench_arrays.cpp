@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: BSD-3-Clause
+
+// What an array of up to a million rows costs in its editor, against three tables of Qt's own in
+// the same run: one that is only told the row count, which is the least that any table widget can
+// cost, one over a hand-made model, and one that is filled with items.
+
+#include "ArrayContenders.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTableView>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+
+#include <malloc.h>
+
+namespace {
+
+constexpr int RowCounts[] = { 1'000, 100'000, 1'000'000 };
+constexpr int Repeats = 9;
+
+/// Median of the times that `run` takes up to the last pixel, in milliseconds; `prepare` isn't
+/// timed.
+double median(const ArrayContender& table, const std::function<void()>& prepare,
+    const std::function<void()>& run)
+{
+    std::vector<double> times;
+    for (int i = 0; i < Repeats; ++i) {
+        prepare();
+        table.paint();
+        QElapsedTimer timer;
+        timer.start();
+        run();
+        table.paint();
+        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    }
+    std::nth_element(times.begin(), times.begin() + Repeats / 2, times.end());
+    return times[Repeats / 2];
+}
+
+void show(ArrayContender& table, int rows)
+{
+    table.prepare(rows);
+    table.select();
+}
+
+struct Measurement {
+    const char* name;
+    double (*measure)(ArrayContender& table, int rows);
+};
+
+constexpr Measurement Measurements[] = {
+    { "select, from 3 rows",
+        [](ArrayContender& table, int rows) {
+            const auto prepare = [&] {
+                show(table, 3);
+                table.prepare(rows);
+            };
+            return median(table, prepare, [&] { table.select(); });
+        } },
+    { "select, from as many rows",
+        [](ArrayContender& table, int rows) {
+            return median(
+                table, [&] { table.prepare(rows); }, [&] { table.select(); });
+        } },
+    { "refresh after a change",
+        [](ArrayContender& table, int) {
+            return median(
+                table, [] {}, [&] { table.refresh(); });
+        } },
+    { "jump",
+        [](ArrayContender& table, int rows) {
+            return median(
+                table, [&] { table.jump(0); }, [&] { table.jump(rows / 2); });
+        } },
+    { "edit one cell",
+        [](ArrayContender& table, int rows) {
+            return median(
+                table, [] {}, [&] { table.edit(rows / 2); });
+        } },
+    { "add in front",
+        [](ArrayContender& table, int) {
+            return median(
+                table, [&] { table.jump(0); }, [&] { table.add(); });
+        } },
+    { "delete in front",
+        [](ArrayContender& table, int) {
+            return median(
+                table, [&] { table.jump(0); }, [&] { table.remove(); });
+        } },
+    { "add at the end",
+        [](ArrayContender& table, int rows) {
+            return median(
+                table, [&] { table.jump(rows - 1); }, [&] { table.add(); });
+        } },
+    { "delete at the end",
+        [](ArrayContender& table, int rows) {
+            return median(
+                table, [&] { table.jump(rows - 1); }, [&] { table.remove(); });
+        } },
+};
+
+using Contenders = std::vector<std::unique_ptr<ArrayContender>>;
+
+void printTimes(const Contenders& tables, int rows)
+{
+    std::printf(
+        "\n%d rows: milliseconds, and in brackets how many times the editor's\n%-26s", rows, "");
+    for (const auto& table : tables)
+        std::printf("%20s", table->name());
+    std::printf("\n");
+    for (const Measurement& measurement : Measurements) {
+        std::printf("%-26s", measurement.name);
+        double editor = 0;
+        for (const auto& table : tables) {
+            const double time = measurement.measure(*table, rows);
+            editor = editor == 0 ? time : editor;
+            std::printf("%11.3f (%6.2f)", time, time / editor);
+            std::fflush(stdout);
+        }
+        std::printf("\n");
+    }
+}
+
+double heapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
+
+void printMemory(int rows)
+{
+    std::printf("\nbytes a row, beyond the values, at %d rows\n", rows);
+    for (const auto& table : makeContenders()) {
+        table->show();
+        show(*table, 3);
+        table->paint();
+        table->prepare(rows);
+        const double before = heapInUse();
+        table->select();
+        table->paint();
+        std::printf("%-26s%8.1f\n", table->name(), (heapInUse() - before) / rows);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    std::printf("Qt %s\n", qVersion());
+    {
+        const Contenders tables = makeContenders();
+        for (const auto& table : tables)
+            table->show();
+        for (const int rows : RowCounts)
+            printTimes(tables, rows);
+    }
+    printMemory(RowCounts[2]);
+    return 0;
+}

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "WfTablePopupWidget.h"
+
+#include "ComponentValidator.h"
+#include "LayoutMetrics.h"
+#include "PanelParts.h"
+#include "Pixmaps.h"
+#include "PopupCloser.h"
+#include "PopupPlacement.h"
+#include "ValueComponents.h"
+#include "WfMFieldTable.h"
+#include "WfTablePopupLineEdit.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalBlocker>
+
+WfTablePopupWidget::WfTablePopupWidget(int rows, int columns, const char* name)
+    : WfMFieldWidget(name)
+    , m_editPixmap(editPixmap())
+    , m_rows(rows)
+    , m_columns(columns)
+{
+    if (!name)
+        setObjectName(QStringLiteral("WfTablePopupWidget"));
+}
+
+void WfTablePopupWidget::load()
+{
+    WfMFieldWidget::load();
+
+    m_editButton = makeIconButton(getFrame(), "m_editButton", m_editPixmap);
+    m_accessMoveSpacer->changeSize(layoutMetric(QStringLiteral("MFAccessMoveSpacerWidth"))
+            - layoutMetric(QStringLiteral("buttonWidth")),
+        layoutMetric(QStringLiteral("MFAccessMoveSpacerHeight")), QSizePolicy::Expanding,
+        QSizePolicy::Minimum);
+    m_buttonsLayout->insertWidget(4, m_editButton);
+    m_table->setEnabled(false);
+
+    buildPopup();
+    shapeColumns(1);
+    connect(m_editButton, &QPushButton::clicked, this, &WfTablePopupWidget::setEditFrame);
+}
+
+void WfTablePopupWidget::buildPopup()
+{
+    m_popupFrame = new QFrame(getFrame(), Qt::Popup);
+    m_popupFrame->setObjectName(QStringLiteral("m_popupFrame"));
+    m_popupFrame->resize(layoutMetric(QStringLiteral("PopupFrameWidth")),
+        layoutMetric(QStringLiteral("PopupFrameHeight")));
+    m_popupFrame->setFrameShape(QFrame::StyledPanel);
+    m_popupFrame->setFrameShadow(QFrame::Raised);
+    new PopupCloser(m_popupFrame, getFrame(), m_editButton);
+
+    auto* const grid = new QGridLayout(m_popupFrame);
+    setMargins(grid, layoutMetric(QStringLiteral("PopupLayoutMargin")));
+    grid->setSpacing(layoutMetric(QStringLiteral("PopupLayoutSpacing")));
+    grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
+    m_lineEdits.resize(static_cast<std::size_t>(m_rows * m_columns));
+    for (int row = 0; row < m_rows; ++row) {
+        for (int column = 0; column < m_columns; ++column) {
+            const int index = row + column * m_columns;
+            auto* const line = new WfTablePopupLineEdit(index, this, m_popupFrame, "m_lineEdits");
+            grid->addWidget(line, row, column);
+            m_lineEdits[static_cast<std::size_t>(index)] = line;
+            connect(line, &QLineEdit::textChanged, line, &WfTablePopupLineEdit::setCurrentValue);
+        }
+    }
+}
+
+void WfTablePopupWidget::setValidatorKind(int kind)
+{
+    for (QLineEdit* line : m_lineEdits)
+        setComponentValidator(kind, line);
+}
+
+QString WfTablePopupWidget::getPopupCellText(int, int) { return QString(); }
+
+void WfTablePopupWidget::updateFromField()
+{
+    WfMFieldWidget::updateFromField();
+    if (m_popupFrame && m_popupFrame->isVisible())
+        fill(true);
+}
+
+/// Shows the current row. With `keepTyped` a line whose text stands for what the row holds keeps
+/// it, however it was typed.
+void WfTablePopupWidget::fill(bool keepTyped)
+{
+    const int row = m_table->currentRow();
+    const bool isRow = hasRow(row);
+    // Without a row there is nothing to edit, and the lines say so.
+    m_popupFrame->setToolTip(
+        isRow ? QString() : QStringLiteral("Choose a row with the quick access to edit it"));
+    for (std::size_t i = 0; i < m_lineEdits.size(); ++i) {
+        QLineEdit* const line = m_lineEdits[i];
+        line->setEnabled(isRow);
+        if (!isRow)
+            continue;
+        const QString text = getPopupCellText(row, static_cast<int>(i));
+        if (keepTyped && componentText(componentNumber<float>(line->text())) == text)
+            continue;
+        // A fill is no edit.
+        const QSignalBlocker blocker(line);
+        line->setText(text);
+        line->setCursorPosition(0);
+    }
+}
+
+void WfTablePopupWidget::placePopup()
+{
+    // Before it was ever shown the frame doesn't know yet how much its lines need.
+    m_popupFrame->ensurePolished();
+    m_popupFrame->layout()->activate();
+    const QFrame* const frame = getFrame();
+    const QPoint wanted = popupPositionLeftOf(
+        frame->mapToGlobal(frame->geometry().topLeft()), m_popupFrame->width());
+    const QScreen* const screen = QGuiApplication::screenAt(wanted);
+    m_popupFrame->move(positionInside(
+        (screen ? screen : frame->screen())->availableGeometry(), wanted, m_popupFrame->size()));
+}
+
+void WfTablePopupWidget::setEditFrame()
+{
+    fill(false);
+    if (m_popupFrame->isVisible()) {
+        m_popupFrame->hide();
+        return;
+    }
+    placePopup();
+    m_popupFrame->show();
+}

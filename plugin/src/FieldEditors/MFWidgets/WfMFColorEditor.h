@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "CrvMFSetFieldValueCommand.h"
+#include "WfMFVectorWidget.h"
+
+/// What both editors of arrays of colours share: in front of the components, which are those of the
+/// vector editor `Vector`, stands a column that shows each colour. `Traits` has
+///   `Field`: the field class,
+///   `typeName`, `className`: label and extension name, and the default object name,
+///   `channels`: one letter a component.
+template <class Traits, class Vector>
+class WfMFColorEditor : public Vector {
+public:
+    explicit WfMFColorEditor(const char* name = nullptr)
+        : Vector(1, name)
+    {
+        this->identify(Field::getClassTypeId(), Traits::typeName, name, Traits::className);
+    }
+
+    void load() override
+    {
+        this->setLabel(QLatin1String(Traits::typeName));
+        WfMFieldWidget::load();
+        QStringList headers { colorColumn() };
+        for (const char* letter = Traits::channels; *letter; ++letter)
+            headers << QString(QLatin1Char(*letter));
+        this->shapeColumns(headers);
+    }
+
+    void setFieldColor(int row, const void* color) override
+    {
+        if (!this->hasRow(row) || !this->m_field->isOfType(Field::getClassTypeId()))
+            return;
+        typename Components::Numbers numbers;
+        std::copy_n(
+            static_cast<const KbVec4f*>(color)->getValue(), numbers.size(), numbers.begin());
+        auto* const command = new CrvMFSetFieldValueCommand(this->m_field, row);
+        static_cast<Field*>(this->m_field)->set1Value(row, Components::make(numbers));
+        CrvServices::getInstance()->executeCommand(command);
+    }
+
+    QString getCellText(int row, int col) override
+    {
+        return col == 0 ? colorColumn() : Vector::getCellText(row, col - 1);
+    }
+
+    bool acceptsField(KnField*) override { return true; }
+
+    /// Here `col` is the component, without the column of the colour.
+    void setCellValue(float value, int row, int col) override
+    {
+        if (!(double(value) >= 0.0 && double(value) <= 1.0))
+            return;
+        // A cell is also written when it is left as it was opened, where it holds six digits of
+        // the component: that must not cost the other ones.
+        if (this->hasCell(row, col)
+            && componentNumber<float>(Vector::getCellText(row, col)) == value)
+            value = this->component(row, col);
+        Vector::setCellValue(value, row, col);
+    }
+
+private:
+    using Field = typename Traits::Field;
+    using Components = typename Vector::Components;
+
+    static QString colorColumn() { return QStringLiteral("Color"); }
+};

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "WfMFMatrixWidget.h"
+
+#include "FieldRow.h"
+#include "KnMFields.h"
+#include "RowComponents.h"
+#include "RowEdit.h"
+#include "StringConversion.h"
+#include "WfMFieldTable.h"
+#include "WfTablePopupLineEdit.h"
+
+#include <algorithm>
+
+namespace {
+
+using Components = RowComponents<KbMatrix>;
+
+// Of the overview's text so many characters are given in any case.
+constexpr int LeastText = 2048;
+// The shortest text of a matrix: 16 digits with a blank between two.
+constexpr int ShortestMatrix = 31;
+
+KnMFMatrix& matrices(KnMField* field) { return static_cast<KnMFMatrix&>(*field); }
+
+QString fieldText(const KnField& field)
+{
+    KbString text;
+    field.get(text);
+    return toQString(text);
+}
+
+} // namespace
+
+WfMFMatrixWidget::WfMFMatrixWidget(const char* name)
+    : WfTablePopupWidget(4, 4, name)
+{
+    identify(KnMFMatrix::getClassTypeId(), "MFMatrix", name, "WfMFMatrixWidget");
+}
+
+void WfMFMatrixWidget::load()
+{
+    setLabel(QStringLiteral("MFMatrix"));
+    WfTablePopupWidget::load();
+    setValidatorKind(3);
+}
+
+void WfMFMatrixWidget::swapFieldValues(int row1, int row2)
+{
+    if (hasRow(row1) && hasRow(row2))
+        swapRowValues(matrices(m_field), row1, row2);
+}
+
+void WfMFMatrixWidget::setFieldValue(int row, int, QString)
+{
+    if (!hasRow(row))
+        return;
+    Components::Numbers numbers;
+    for (std::size_t i = 0; i < numbers.size(); ++i)
+        numbers[i] = componentNumber<float>(m_lineEdits[i]->text());
+    executeRowEdit(m_field, row,
+        [this, row, &numbers] { matrices(m_field).set1Value(row, Components::make(numbers)); });
+}
+
+QString WfMFMatrixWidget::getCellText(int, int)
+{
+    if (!m_field)
+        return QString();
+    // No character is narrower than a pixel, so a text with more characters than the cell has
+    // pixels is cut, and where depends on its beginning alone.
+    const int longest = std::max(LeastText, m_table->columnWidth(0));
+    const int shownRows = longest / ShortestMatrix + 1;
+    if (m_field->getNum() <= shownRows)
+        return fieldText(*m_field);
+    KnMFMatrix beginning;
+    beginning.setValues(0, shownRows, matrices(m_field).getValues());
+    return fieldText(beginning).left(longest + 1);
+}
+
+int WfMFMatrixWidget::getCellAlignment() { return Qt::AlignLeft; }
+
+bool WfMFMatrixWidget::acceptsField(KnField* field)
+{
+    return field && field->isOfType(KnMFMatrix::getClassTypeId());
+}
+
+QString WfMFMatrixWidget::getPopupCellText(int row, int index)
+{
+    if (!hasRow(row) || index < 0 || index >= Components::count)
+        return QString();
+    return componentText(Components::read(matrices(m_field)[row])[static_cast<std::size_t>(index)]);
+}

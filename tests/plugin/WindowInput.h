@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+/// Clicks where `widget` is, by way of its window, as the window system does it: an open popup gets
+/// the events first.
+inline void clickThroughWindow(const QWidget* widget, const QPoint& offset = QPoint(3, 3))
+{
+    QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {},
+        widget->mapTo(widget->window(), offset));
+}
