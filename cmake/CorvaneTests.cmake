@@ -5,7 +5,8 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 # sanitizers' options, which are read only where a sanitizer is built in.
 set(CORVANE_TEST_ENVIRONMENT
     "LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_LIST_DIR}/lsan.supp:print_suppressions=0"
-    "ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1:strict_string_checks=1"
+    # Without strict_string_checks: libxkbcommon gives strndup pieces of a buffer that has no end.
+    "ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1"
     "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1"
     "TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1")
 set(CORVANE_GERMAN "LC_ALL=de_DE.UTF-8" "LANGUAGE=de" "LOCPATH=${CMAKE_BINARY_DIR}/locale")

@@ -43,8 +43,7 @@ struct Parser : QCommandLineParser {
         CommandLine::tr("Node, or node and field, to select. A node goes by its name or its type."),
         QStringLiteral("node[.field]") };
     const QCommandLineOption picture { QStringLiteral("picture"),
-        CommandLine::tr("Draws the window into a PNG file, without a display if there is none, "
-                        "and ends."),
+        CommandLine::tr("Draws the window into a PNG file, without a display, and ends."),
         QStringLiteral("file") };
     const QCommandLineOption plugin { QStringLiteral("plugin"),
         CommandLine::tr("Plug-in to load in place of the default extensions; may be given several "

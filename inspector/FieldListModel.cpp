@@ -85,8 +85,9 @@ QVariant FieldListModel::data(const QModelIndex& index, int role) const
     const Row& row = *m_rows[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return text(row, index.column());
+    case Qt::ToolTipRole:
+        return toolTipText(text(row, index.column()));
     case Qt::FontRole:
         if (row.field->isIgnored()) {
             QFont font;

@@ -26,7 +26,7 @@ namespace {
 constexpr int layoutVersion = 1;
 
 // Pixels; what the columns and the row at the bottom get in a fresh layout.
-constexpr int sceneWidth = 300;
+constexpr int sceneWidth = 320;
 constexpr int historyHeight = 160;
 constexpr int editorWidth = 400;
 constexpr int bottomHeight = 250;
@@ -111,7 +111,14 @@ void MainWindow::buildEditMenu()
         { QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y) });
     menu->addAction(redo);
     menu->addSeparator();
-    menu->addAction(tr("&Find Node"), QKeySequence::Find, m_scenePanel, &ScenePanel::focusFilter);
+    menu->addAction(tr("&Find Node"), QKeySequence::Find, this, &MainWindow::findNode);
+}
+
+void MainWindow::findNode()
+{
+    m_sceneDock->show();
+    m_sceneDock->raise();
+    m_scenePanel->focusFilter();
 }
 
 void MainWindow::buildViewMenu()

@@ -42,6 +42,7 @@ private:
     void buildEditMenu();
     void buildViewMenu();
     QDockWidget* addPanelDock(QWidget* panel, const QString& name, const QString& title);
+    void findNode();
     void giveFirstSize(QDockWidget* dock);
     void showFileName();
 

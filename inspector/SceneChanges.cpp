@@ -2,9 +2,9 @@
 #include "SceneChanges.h"
 
 #include "KnFieldContainer.h"
-#include "KnFieldSensor.h"
 #include "KnMField.h"
 #include "KnSFImage.h"
+#include "KnSensorQueue.h"
 
 #include <QUndoStack>
 
@@ -94,6 +94,7 @@ private:
 SceneChanges::SceneChanges(QUndoStack* stack, QObject* parent)
     : QObject(parent)
     , m_stack(stack)
+    , m_batchEnd(endBatch, this)
 {
     connect(m_stack, &QUndoStack::indexChanged, this, &SceneChanges::stackMoved);
     connect(m_stack, &QUndoStack::cleanChanged, this, &SceneChanges::update);
@@ -129,7 +130,12 @@ void SceneChanges::forgetNodes()
     update();
 }
 
-void SceneChanges::stackMoved() { m_commandInBatch = true; }
+// By now the command has touched its fields, so that their sensors wait already.
+void SceneChanges::stackMoved()
+{
+    m_commandInBatch = true;
+    KnSensorQueue::getInstance().schedule(&m_batchEnd);
+}
 
 void SceneChanges::fieldTouched(Watch& watch)
 {
@@ -137,17 +143,11 @@ void SceneChanges::fieldTouched(Watch& watch)
     m_differing += int { differs } - int { watch.differs };
     watch.differs = differs;
     update();
-    // The sensors of one batch run in one go; this call waits until they have.
-    if (m_commandInBatch && !m_batchEnds) {
-        m_batchEnds = true;
-        QMetaObject::invokeMethod(this, &SceneChanges::endBatch, Qt::QueuedConnection);
-    }
 }
 
-void SceneChanges::endBatch()
+void SceneChanges::endBatch(void* data, KnSensor*)
 {
-    m_batchEnds = false;
-    m_commandInBatch = false;
+    static_cast<SceneChanges*>(data)->m_commandInBatch = false;
 }
 
 void SceneChanges::update()

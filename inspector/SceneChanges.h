@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "KnFieldSensor.h"
+
 #include <QObject>
 
 #include <memory>
@@ -38,13 +40,13 @@ private:
 
     void stackMoved();
     void fieldTouched(Watch& watch);
-    void endBatch();
+    static void endBatch(void* data, KnSensor* sensor);
     void update();
 
     QUndoStack* m_stack; // the host's
     std::unordered_map<const KnFieldContainer*, std::vector<std::unique_ptr<Watch>>> m_watches;
     int m_differing = 0; // watches that differ
     bool m_commandInBatch = false; // the touches that come now may be a command's
-    bool m_batchEnds = false; // endBatch is on its way
+    KnSensor m_batchEnd; // runs behind the sensors of the fields that a command has touched
     bool m_modified = false;
 };

@@ -17,8 +17,11 @@ struct SceneModel::Item {
     {
     }
 
+    // The rows that a view knows of stay, whatever the group does.
     int childCount() const
     {
+        if (!children.empty())
+            return static_cast<int>(children.size());
         const auto* group = dynamic_cast<const KnGroup*>(node.get());
         return group ? group->getNumChildren() : 0;
     }
@@ -110,9 +113,13 @@ QVariant SceneModel::data(const QModelIndex& index, int role) const
     if (!index.isValid())
         return QVariant();
     const KnFieldContainer& shown = *itemOf(index)->node.get();
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
+    const auto text = [&] {
         return index.column() == NameColumn ? nodeLabel(shown) : typeName(shown.getObjectType());
-    }
+    };
+    if (role == Qt::DisplayRole)
+        return text();
+    if (role == Qt::ToolTipRole)
+        return toolTipText(text());
     // A node without a name stands under its type's.
     if (role == Qt::FontRole && index.column() == NameColumn && shown.getName().isEmpty()) {
         QFont font;

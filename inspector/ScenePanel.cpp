@@ -49,7 +49,7 @@ ScenePanel::ScenePanel(QWidget* parent)
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(SceneModel::NameColumn, QHeaderView::Stretch);
     m_tree->header()->setSectionResizeMode(SceneModel::TypeColumn, QHeaderView::Interactive);
-    m_tree->header()->resizeSection(SceneModel::TypeColumn, fontMetrics().averageCharWidth() * 18);
+    m_tree->header()->resizeSection(SceneModel::TypeColumn, fontMetrics().averageCharWidth() * 21);
 
     setFocusProxy(m_tree);
     auto* layout = new QVBoxLayout(this);

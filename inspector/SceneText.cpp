@@ -6,6 +6,7 @@
 #include "KnSFImage.h"
 
 #include <QCoreApplication>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -75,6 +76,11 @@ KbString toKbString(const QString& text)
 }
 
 QString typeName(const KnType& type) { return toQString(type.getName().getString()); }
+
+QString toolTipText(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
 
 QString nodeLabel(const KnFieldContainer& node)
 {

@@ -13,6 +13,8 @@ class KnType;
 QString toQString(const KbString& text);
 KbString toKbString(const QString& text);
 QString typeName(const KnType& type);
+/// For a tool tip, which would take a text with angle brackets for markup.
+QString toolTipText(const QString& text);
 
 /// The node's name, or the name of its type for a node without one.
 QString nodeLabel(const KnFieldContainer& node);

@@ -40,6 +40,15 @@ int answer(int argc, char** argv, CommandLine::Request request)
     return 0;
 }
 
+// A picture needs no display, so that none is used, nor tried, unless a platform was asked for.
+void drawOffscreen()
+{
+    const bool hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (!hasDisplay || qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 int takePicture(MainWindow& window, const QString& fileName)
 {
     QString error;
@@ -81,10 +90,8 @@ int main(int argc, char** argv)
     if (commandLine.request != CommandLine::Request::Run)
         return answer(argc, argv, commandLine.request);
 
-    const bool hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY")
-        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    if (!commandLine.picture.isEmpty() && !hasDisplay)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!commandLine.picture.isEmpty())
+        drawOffscreen();
     const QApplication application(argc, argv);
     return run(commandLine);
 }

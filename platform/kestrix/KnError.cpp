@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <mutex>
+#include <utility>
 
 namespace {
 
@@ -82,8 +83,8 @@ KnType KnError::getClassTypeId()
 
 KnType KnError::getObjectType() const { return getClassTypeId(); }
 
-KnError::KnError(const KbString& text)
-    : m_text(text)
+KnError::KnError(KbString text)
+    : m_text(std::move(text))
 {
 }
 

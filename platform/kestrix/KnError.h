@@ -65,7 +65,7 @@ public:
 /// error classes; each class has a handler of its own and no other class's handler hears of it.
 class KnError : public KnTypedObject {
     KN_ERROR(KnError)
-    explicit KnError(const KbString& text);
+    explicit KnError(KbString text);
 
     const KbString& getDebugString() const { return m_text; }
 

@@ -5,7 +5,8 @@
 #include "KnTypeMacros.h"
 
 /// In the body of a node class: its type, its table of fields and its constructor. What follows is
-/// public.
+/// public. A class that others derive from has a second constructor that takes their table, as
+/// KnGroup and KnLight do.
 #define KN_NODE(Class)                                                                             \
     KN_TYPE(Class)                                                                                 \
     Class();                                                                                       \

@@ -96,9 +96,10 @@ struct KnComponents<Value> {
     {
         Corner min;
         Corner max;
-        for (int i = 0; i < dimension; ++i) {
-            min[i] = array[static_cast<std::size_t>(i)];
-            max[i] = array[static_cast<std::size_t>(dimension + i)];
+        auto next = array.begin();
+        for (Corner* corner : { &min, &max }) {
+            for (int i = 0; i < dimension; ++i)
+                (*corner)[i] = *next++;
         }
         return { min, max };
     }

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: BSD-3-Clause
-"""Draws the plug-in's icons: the XPM texts of the field widgets' buttons and the console's PNG files.
+"""Draws the plug-in's icons: the XPM texts of the field widgets' buttons, the console's PNG files.
 
 Usage: make_icons.py            writes PixmapTexts.inc and Console/Icons/*.png
        make_icons.py SHEET.png  draws all of them on light and dark grounds, to look at
@@ -50,7 +50,7 @@ def lens(x, y, half_width, half_height):
 
 # The seven motifs: grey level at a point, or None outside.
 
-BODY = 0x7c
+BODY = 0x84
 
 
 def default_arrow(x, y):
@@ -65,7 +65,7 @@ def default_arrow(x, y):
 def closed_eye(x, y):
     if lens(x, y, 7.8, 4.0) >= 0:
         return None
-    return 0x9c if lens(x, y, 5.4, 1.9) < 0 else BODY
+    return 0xa4 if lens(x, y, 5.4, 1.9) < 0 else BODY
 
 
 def pencil(x, y):
@@ -180,14 +180,14 @@ def grey(level):
 
 def dustbin(x, y):
     if box(x, y, 6, 1, 10, 2.9, 0.9) < 0:  # handle
-        return grey(0x74) if box(x, y, 7, 2, 9, 4) >= 0 else None
+        return grey(0x7c) if box(x, y, 7, 2, 9, 4) >= 0 else None
     if box(x, y, 2, 3, 14, 5, 0.7) < 0:
-        return grey(0x74)
+        return grey(0x7c)
     if polygon(x, y, (3, 6), (13, 6), (12.2, 15), (3.8, 15)) >= 0:
         return None
     if 7 < y < 14 and (5 <= x < 6 or 7.5 <= x < 8.5 or 10 <= x < 11):
         return grey(0xb4)
-    return grey(0x84)
+    return grey(0x8a)
 
 
 def floppy(x, y):
@@ -197,7 +197,7 @@ def floppy(x, y):
         return grey(0x62) if box(x, y, 8, 2, 10, 5) < 0 else grey(0xc0)
     if box(x, y, 3, 8, 13, 14) < 0:  # label
         return grey(0xa8) if y >= 9 and int(y) % 2 == 1 and 4 < x < 12 else grey(0xdc)
-    return grey(0x74)
+    return grey(0x7c)
 
 
 PNG = [("errors", 14, disc((0xee, 0x5a, 0x50), (0xcc, 0x22, 0x22), (0xa8, 0x1a, 0x1a))),
@@ -223,8 +223,8 @@ def write_png(path, rows):
         return (struct.pack(">I", len(data)) + kind + data
                 + struct.pack(">I", zlib.crc32(kind + data)))
     raw = b"".join(b"\0" + bytes(v for pixel in row for v in pixel) for row in rows)
-    path.write_bytes(b"\x89PNG\r\n\x1a\n"
-                     + chunk(b"IHDR", struct.pack(">IIBBBBB", len(rows[0]), len(rows), 8, 6, 0, 0, 0))
+    header = struct.pack(">IIBBBBB", len(rows[0]), len(rows), 8, 6, 0, 0, 0)
+    path.write_bytes(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header)
                      + chunk(b"IDAT", zlib.compress(raw, 9)) + chunk(b"IEND", b""))
 
 

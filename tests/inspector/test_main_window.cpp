@@ -38,6 +38,7 @@ private Q_SLOTS:
     void editIsUndoneAndSaved();
     void undoKeysReachTheSceneFromALineEdit();
     void typedTextIsSavedToo();
+    void typedTextOutlivesTheSelection();
     void writesWithoutCommandsModify();
     void largeArrayStaysModified();
     void closingAsksFirst();
@@ -158,6 +159,23 @@ void TestMainWindow::typedTextIsSavedToo()
     QCOMPARE(session.savedText(u"Front view.description"_s), u"\"Porch!\""_s);
 }
 
+void TestMainWindow::typedTextOutlivesTheSelection()
+{
+    InspectorSession session(*m_folder);
+    session.clickNode(u"Front view"_s);
+    session.clickField(u"description"_s);
+    auto* const line = session.inEditor<QLineEdit>();
+    QTest::mouseClick(line, Qt::LeftButton);
+    line->selectAll();
+    QTest::keyClicks(line, u"Porch"_s);
+    session.clickNode(u"Desk lamp"_s);
+    QCOMPARE(session.text(u"Front view.description"_s), u"\"Porch\""_s);
+    QTRY_VERIFY(session.window.isWindowModified());
+    session.press(QKeySequence::Undo);
+    QCOMPARE(session.text(u"Front view.description"_s), u"\"From the door\""_s);
+    QTRY_VERIFY(!session.window.isWindowModified());
+}
+
 void TestMainWindow::writesWithoutCommandsModify()
 {
     InspectorSession session(*m_folder);
@@ -184,8 +202,13 @@ void TestMainWindow::writesWithoutCommandsModify()
 void TestMainWindow::largeArrayStaysModified()
 {
     InspectorSession session(*m_folder);
+    // A command of the former scene has nothing to do with what comes.
+    session.clickNode(u"Desk lamp"_s);
+    session.clickField(u"on"_s);
+    QTest::mouseClick(session.inEditor<QCheckBox>(), Qt::LeftButton);
     QString error;
     QVERIFY(session.window.document().open(QStringLiteral(CORVANE_SCENES "/station.json"), &error));
+    QVERIFY(!session.window.isWindowModified());
     auto* const points = dynamic_cast<KnMFVec3f*>(session.field(u"Shield points.point"_s));
     CrvServices::getInstance()->selectField(points);
     const KbVec3f former = (*points)[0];

@@ -20,6 +20,7 @@ void ModuleShell::addDockWidget(QDockWidget* dock, int area)
     // The main window remembers the name of a dock that is gone. A literal would go with the file,
     // which is why the file stays mapped; where it does not, the name has to be a copy.
     const QString name = dock->objectName();
+    dock->setObjectName(QString()); // an equal name would be refused
     dock->setObjectName(QString(name.constData(), name.size()));
     TestShell::addDockWidget(dock, area);
 }

@@ -73,12 +73,6 @@ public:
         EditorFixture::settle();
     }
 
-    /// What is painted in the cell.
-    QImage picture(int row, int column) const
-    {
-        return m_table->viewport()->grab(cell(row, column)).toImage();
-    }
-
 private:
     WfMFieldTable* m_table; // not owned
 };

@@ -6,6 +6,7 @@
 #include "KnGLError.h"
 #include "KnMemoryError.h"
 #include "KnReadError.h"
+#include "Pixmaps.h"
 
 #include <QDirIterator>
 #include <QFileDialog>
@@ -115,6 +116,27 @@ private Q_SLOTS:
         found.sort();
         QCOMPARE(found.join(u'|').remove(QStringLiteral(":/console_icons/Icons/")),
             QStringLiteral("clear.png 16|errors.png 14|infos.png 14|save.png 16|warnings.png 14"));
+    }
+
+    void theFieldIconsReadOnLightAndDark()
+    {
+        QSet<QByteArray> different;
+        for (QPixmap (*icon)() : { defaultPixmap, ignorePixmap, editPixmap, addPixmap, deletePixmap,
+                 upPixmap, downPixmap }) {
+            const QImage image = icon().toImage().convertToFormat(QImage::Format_ARGB32);
+            QCOMPARE(image.size(), QSize(16, 16));
+            QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+            int sum = 0;
+            int count = 0;
+            for (int i = 0; i < 16 * 16; ++i) {
+                const QRgb pixel = image.pixel(i % 16, i / 16);
+                sum += qAlpha(pixel) ? qGray(pixel) : 0;
+                count += qAlpha(pixel) ? 1 : 0;
+            }
+            QVERIFY(count > 30 && sum / count > 0x70 && sum / count < 0xa0);
+            different << QByteArray(reinterpret_cast<const char*>(image.bits()), 16 * 16 * 4);
+        }
+        QCOMPARE(different.size(), 7);
     }
 
     void sourcesColoursAndFilters_data()

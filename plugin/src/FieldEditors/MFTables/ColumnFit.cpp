@@ -14,7 +14,8 @@ ColumnFit::ColumnFit(QTableView* table)
 
 bool ColumnFit::eventFilter(QObject*, QEvent* event)
 {
-    if (event->type() == QEvent::Resize)
+    // A size that comes while the table is being shown is told by Show alone.
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         fit();
     return false;
 }

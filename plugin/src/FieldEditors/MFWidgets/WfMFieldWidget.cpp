@@ -50,9 +50,13 @@ void WfMFieldWidget::setLabel(const QString& text)
 
 void WfMFieldWidget::updateElementCount()
 {
-    if (m_field)
-        m_labelNumElement->setText(
-            centredText(QString::number(m_field->getNum()) + QStringLiteral(" elements")));
+    if (!m_field)
+        return;
+    const QString text
+        = centredText(QString::number(m_field->getNum()) + QStringLiteral(" elements"));
+    // A label lays its text out anew even when it is the same.
+    if (m_labelNumElement->text() != text)
+        m_labelNumElement->setText(text);
 }
 
 void WfMFieldWidget::load()

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "KnMField.h"
+#include "KnReadError.h"
+#include "KnSFBitMask.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+
+namespace {
+
+constexpr std::array types { "SFBitMask", "SFBool", "SFBox3s", "SFDouble", "SFEnum", "SFFloat",
+    "SFImage", "SFInt32", "SFMatrix", "SFName", "SFString", "SFUInt32", "SFUShort", "SFVec3f",
+    "MFDouble", "MFFloat", "MFName", "MFRotation", "MFShort", "MFString", "MFVec2i32", "MFVec3f" };
+
+int s_errors = 0;
+
+std::unique_ptr<KnField> make(const char* type)
+{
+    auto* field = static_cast<KnField*>(KnType::fromName(type).createInstance());
+    if (field->isOfType(KnSFEnum::getClassTypeId()))
+        static_cast<KnSFEnum*>(field)->setEnums({ { "A", 1 }, { "B", 2 }, { "AB", 3 } });
+    return std::unique_ptr<KnField>(field);
+}
+
+std::string textOf(const KnField& field)
+{
+    KbString text;
+    field.get(text);
+    return text.toUtf8();
+}
+
+void require(bool condition, const char* what, const KnField& field)
+{
+    if (condition)
+        return;
+    std::fprintf(stderr, "%s: %s\n", textOf(field).c_str(), what);
+    std::abort();
+}
+
+} // namespace
+
+/// The first byte picks the field type, the rest is the text. A text that is taken gives a text
+/// that any other field of the type takes and gives again; one that is refused changes nothing and
+/// posts one error.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    if (size == 0)
+        return 0;
+    KnReadError::setHandlerCallback([](const KnError*, void*) { ++s_errors; }, nullptr);
+    const char* const type = types[data[0] % types.size()];
+    const KbString text(std::string_view(reinterpret_cast<const char*>(data) + 1, size - 1));
+    const auto field = make(type);
+    const std::string before = textOf(*field);
+    const int errors = s_errors;
+    if (!field->set(text)) {
+        require(textOf(*field) == before, "a refused text changed the field", *field);
+        require(s_errors == errors + 1, "a refusal wasn't reported once", *field);
+        return 0;
+    }
+    require(s_errors == errors, "a text that was taken was reported", *field);
+    const std::string canonical = textOf(*field);
+    const auto other = make(type);
+    require(other->set(KbString(canonical)), "the text isn't taken back", *field);
+    require(textOf(*other) == canonical, "the text isn't given again", *field);
+    if (!field->isOfType(KnMField::getClassTypeId()))
+        return 0;
+    const auto& from = static_cast<const KnMField&>(*field);
+    const auto third = make(type);
+    auto& to = static_cast<KnMField&>(*third);
+    to.setNum(from.getNum());
+    for (int row = 0; row < from.getNum(); ++row) {
+        KbString value;
+        require(from.get1(row, value) && to.set1(row, value), "a row isn't taken back", from);
+    }
+    require(textOf(to) == canonical, "the rows aren't given again", from);
+    return 0;
+}

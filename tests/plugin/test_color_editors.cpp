@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "ColorChannels.h"
+#include "EditorRow.h"
+
+#include <QColorDialog>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QMetaMethod>
+#include <QPushButton>
+#include <QTimer>
+#include <QUndoStack>
+
+#include <limits>
+
+namespace {
+
+/// The colour that the button displays.
+QColor displayed(EditorFixture& fixture)
+{
+    const QPixmap pixmap
+        = fixture.child<QPushButton>("m_colorDisp")->icon().pixmap(QSize(100, 100));
+    return pixmap.toImage().pixelColor(0, 0);
+}
+
+QList<QLineEdit*> linesOf(EditorFixture& fixture)
+{
+    return fixture.child<QWidget>("m_editionFrame")->findChildren<QLineEdit*>();
+}
+
+/// Clicks the display and lets `act` have the dialog that it opens.
+template <class Act>
+void inDialog(EditorFixture& fixture, Act act)
+{
+    bool found = false;
+    auto* const timer = new QTimer(&fixture.shell().window());
+    QObject::connect(timer, &QTimer::timeout, timer, [&] {
+        auto* const dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            return;
+        timer->stop();
+        found = true;
+        act(dialog);
+    });
+    timer->start(0);
+    QTest::mouseClick(fixture.child<QPushButton>("m_colorDisp"), Qt::LeftButton);
+    EditorFixture::settle();
+    QVERIFY(found);
+}
+
+} // namespace
+
+class TestColorEditors : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void init() { failOnWarnings(); }
+
+    void channels_data()
+    {
+        QTest::addColumn<float>("channel");
+        QTest::addColumn<int>("byte");
+        QTest::newRow("black") << 0.0F << 0;
+        QTest::newRow("white") << 1.0F << 255;
+        QTest::newRow("half is cut, not rounded") << 0.5F << 127;
+        QTest::newRow("just below white") << 0.9999F << 254;
+        QTest::newRow("a trifle below black") << -0.003F << 0;
+        QTest::newRow("below black") << -0.004F << -1;
+        QTest::newRow("a trifle above white") << 1.003F << 255;
+        QTest::newRow("above white") << 1.01F << -1;
+        QTest::newRow("huge") << std::numeric_limits<float>::max() << -1;
+        QTest::newRow("infinite") << -std::numeric_limits<float>::infinity() << -1;
+        QTest::newRow("no number") << std::numeric_limits<float>::quiet_NaN() << -1;
+    }
+    void channels()
+    {
+        QFETCH(float, channel);
+        QTEST(channelByte(channel), "byte");
+    }
+
+    void everyByteComesBackFromTheTextOfItsChannel()
+    {
+        for (int byte = 0; byte < 256; ++byte) {
+            float channels[4];
+            colorChannels(QColor(byte, 0, 255 - byte, byte), channels, 4);
+            QCOMPARE(QString::number(double(channels[0]), 'g', 6).toFloat(),
+                QString::number(byte / 255.0, 'g', 6).toFloat());
+            QCOMPARE(channels[3], channels[0]);
+        }
+    }
+
+    void everyChannelHasItsSlotAndItsLine_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<QString>("letters");
+        QTest::addColumn<int>("spacing"); // between a label and its line
+        QTest::newRow("SFColor") << QByteArray("SFColor") << QStringLiteral("RGB") << 2;
+        QTest::newRow("SFColorRGBA") << QByteArray("SFColorRGBA") << QStringLiteral("RGBA") << 0;
+    }
+    void everyChannelHasItsSlotAndItsLine()
+    {
+        QFETCH(QByteArray, type);
+        QFETCH(QString, letters);
+        QFETCH(int, spacing);
+        EditorFixture fixture;
+        fixture.select(fixture.field(type.constData()));
+        const QMetaObject* const meta = fixture.editor()->metaObject();
+        QStringList expected;
+        for (const QChar letter : letters)
+            expected << QStringLiteral("change%1Value(QString)").arg(letter);
+        expected << QStringLiteral("getColorEditor()");
+        QStringList found;
+        for (int i = meta->methodOffset(); i < meta->methodCount(); ++i)
+            found << QString::fromLatin1(meta->method(i).methodSignature());
+        QCOMPARE(found, expected);
+
+        const auto* const frame = fixture.child<QWidget>("m_editionFrame");
+        const QString prefix = QString::fromLatin1(type);
+        const auto labels = frame->findChildren<QLabel*>(prefix + QStringLiteral("Label"));
+        const auto lines = frame->findChildren<QLineEdit*>(prefix + QStringLiteral("Line"));
+        QCOMPARE(labels.size(), letters.size());
+        QCOMPARE(lines.size(), letters.size());
+        for (int i = 0; i < labels.size(); ++i) {
+            QCOMPARE(
+                labels[i]->text(), QStringLiteral("<p align=\"right\">%1</p>").arg(letters[i]));
+            QCOMPARE(lines[i]->x() - labels[i]->geometry().right() - 1, spacing);
+        }
+    }
+
+    void typingChangesTheDisplayAndNotTheField()
+    {
+        EditorFixture fixture;
+        KnField* const field = fixture.field("SFColorRGBA");
+        EditorFixture::write(field, "1 0 0 1");
+        fixture.select(field);
+        QCOMPARE(displayed(fixture), QColor(255, 0, 0));
+        const auto lines = linesOf(fixture);
+        lines[1]->selectAll();
+        QTest::keyClicks(lines[1], QStringLiteral("0.5"));
+        QCOMPARE(displayed(fixture), QColor(255, 127, 0));
+        // Outside 0 to 1 there is nothing to display, so the last colour stays.
+        lines[1]->selectAll();
+        QTest::keyClicks(lines[1], QStringLiteral("7"));
+        QCOMPARE(displayed(fixture), QColor(255, 127, 0));
+        lines[1]->selectAll();
+        QTest::keyClicks(lines[1], QStringLiteral("x"));
+        QCOMPARE(displayed(fixture), QColor(255, 0, 0));
+        lines[3]->setText(QStringLiteral("0.5"));
+        QCOMPARE(displayed(fixture).alpha(), 127);
+        EditorFixture::settle();
+        QCOMPARE(EditorFixture::text(field), QStringLiteral("1 0 0 1"));
+        QCOMPARE(fixture.undoStack().count(), 0);
+        // No number counts as 0, and the refresh says so.
+        QTest::keyClick(lines[1], Qt::Key_Return);
+        EditorFixture::settle();
+        QCOMPARE(EditorFixture::text(field), QStringLiteral("1 0 0 0.5"));
+        QCOMPARE(lines[1]->text(), QStringLiteral("0"));
+    }
+
+    void leavingALineAppliesOnlyAnEditedOne()
+    {
+        EditorFixture fixture;
+        KnField* const field = fixture.field("SFColor");
+        EditorFixture::write(field, "0.12345678 0.5 1");
+        fixture.select(field);
+        const auto lines = linesOf(fixture);
+        lines[0]->setFocus();
+        QTest::keyClick(lines[0], Qt::Key_Tab);
+        QCOMPARE(fixture.undoStack().count(), 0);
+        QTest::keyClicks(lines[1], QStringLiteral("0.25"));
+        QTest::keyClick(lines[1], Qt::Key_Tab);
+        EditorFixture::settle();
+        QCOMPARE(fixture.undoStack().count(), 1);
+        QCOMPARE(EditorFixture::text(field), QStringLiteral("0.123457 0.25 1"));
+        fixture.undo();
+        QCOMPARE(EditorFixture::text(field), QStringLiteral("0.12345678 0.5 1"));
+    }
+
+    void anAcceptedDialogWritesTheColour()
+    {
+        EditorFixture fixture;
+        KnField* const field = fixture.field("SFColorRGBA");
+        EditorFixture::write(field, "1 0 0 1");
+        fixture.select(field);
+        inDialog(fixture, [](QColorDialog* dialog) {
+            QCOMPARE(dialog->currentColor(), QColor(255, 0, 0));
+            QVERIFY(dialog->testOption(QColorDialog::ShowAlphaChannel));
+            dialog->setCurrentColor(QColor(128, 0, 255, 51));
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        // Red as the text of its line has it; the others kept or got a round number.
+        QCOMPARE(EditorFixture::text(field), QStringLiteral("0.501961 0 1 0.2"));
+        QCOMPARE(linesShown(fixture, "SFColorRGBALine"), QStringLiteral("0.501961 0 1 0.2"));
+        QCOMPARE(fixture.undoStack().count(), 1);
+        fixture.undo();
+        QCOMPARE(EditorFixture::text(field), QStringLiteral("1 0 0 1"));
+    }
+
+    void aCancelledDialogLeavesEverything()
+    {
+        EditorFixture fixture;
+        KnField* const field = fixture.field("SFColor");
+        EditorFixture::write(field, "0.3 7 0");
+        fixture.select(field);
+        inDialog(fixture, [](QColorDialog* dialog) {
+            QVERIFY(!dialog->testOption(QColorDialog::ShowAlphaChannel));
+            dialog->setCurrentColor(Qt::green);
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        QCOMPARE(EditorFixture::text(field), QStringLiteral("0.3 7 0"));
+        QCOMPARE(linesShown(fixture, "SFColorLine"), QStringLiteral("0.3 7 0"));
+        QCOMPARE(fixture.undoStack().count(), 0);
+    }
+
+    void aColourChosenForOneFieldNeverReachesAnother()
+    {
+        EditorFixture fixture;
+        fixture.select(fixture.field("SFColor"));
+        inDialog(fixture, [&](QColorDialog* dialog) {
+            fixture.select(fixture.otherField("SFColor"));
+            dialog->setCurrentColor(Qt::green);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        QCOMPARE(EditorFixture::text(fixture.field("SFColor")), QStringLiteral("0 0 0"));
+        QCOMPARE(EditorFixture::text(fixture.otherField("SFColor")), QStringLiteral("0 0 0"));
+        QCOMPARE(fixture.undoStack().count(), 0);
+    }
+};
+
+QTEST_MAIN(TestColorEditors)
+#include "test_color_editors.moc"
