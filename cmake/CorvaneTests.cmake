@@ -61,7 +61,7 @@ function(corvane_register_run name)
     endif()
     add_test(NAME ${name} COMMAND ${arg_COMMAND})
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "${environment}" LABELS "${arg_LABELS}" TIMEOUT 600)
+        ENVIRONMENT "${environment}" LABELS "${arg_LABELS}" TIMEOUT 300)
 endfunction()
 
 # corvane_add_test(NAME [XVFB] [TSAN] SOURCES... LIBS libraries...): one Qt Test executable. CTest

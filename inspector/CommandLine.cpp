@@ -88,6 +88,10 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     commandLine.selection = parser.value(parser.selection);
     commandLine.picture = parser.value(parser.picture);
     commandLine.plugins = parser.values(parser.plugin);
+    for (const QLatin1String name : Parser::toolkitOptions()) {
+        if (parser.isSet(name))
+            commandLine.toolkitArguments << QLatin1Char('-') + name << parser.value(name);
+    }
     return commandLine;
 }
 

@@ -38,7 +38,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     header.setSectionResizeMode(QHeaderView::Interactive);
     header.setSectionResizeMode(FieldListModel::ValueColumn, QHeaderView::Stretch);
     header.resizeSection(FieldListModel::NameColumn, character * 20);
-    header.resizeSection(FieldListModel::TypeColumn, character * 17);
+    header.resizeSection(FieldListModel::TypeColumn, character * 20);
     header.resizeSection(FieldListModel::IgnoredColumn, character * 11);
 
     auto* layout = new QVBoxLayout(this);

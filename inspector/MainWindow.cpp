@@ -142,7 +142,7 @@ void MainWindow::showFileName()
     setWindowTitle(QStringLiteral("%1[*] %2 Corvane").arg(shown, QChar(0x2013)));
 }
 
-// Which docks an extension shows follows from profile and selection; of the last session only the
+// Which docks an extension shows follows from profile and selection; of the last time only the
 // places come back, and what the person had closed.
 void MainWindow::restoreLayout()
 {

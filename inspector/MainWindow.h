@@ -17,12 +17,12 @@ class ViewMenu;
 class MainWindow : public QMainWindow, public CrvShell {
     Q_OBJECT
 public:
-    /// `settings` outlives the window; null keeps nothing over sessions.
+    /// `settings` outlives the window; null keeps nothing from one start to the next.
     explicit MainWindow(QSettings* settings, QWidget* parent = nullptr);
     ~MainWindow() override;
 
     SceneDocument& document() { return m_document; }
-    /// Brings the docks into the places of the last session; called when all of them are there.
+    /// Brings the docks into the places of the last time; called when all of them are there.
     void restoreLayout();
 
     void addDockWidget(QDockWidget* dock, int area) override;

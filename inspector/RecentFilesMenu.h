@@ -6,11 +6,11 @@
 
 class QSettings;
 
-/// The scene files used last, newest first, kept over sessions.
+/// The scene files used last, newest first, kept from one start to the next.
 class RecentFilesMenu : public QMenu {
     Q_OBJECT
 public:
-    /// `settings` outlives the menu; null keeps nothing over sessions.
+    /// `settings` outlives the menu; null keeps nothing from one start to the next.
     RecentFilesMenu(QSettings* settings, QWidget* parent);
 
     void addFile(const QString& fileName);

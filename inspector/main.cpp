@@ -9,6 +9,7 @@
 #include <QSettings>
 
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -21,6 +22,29 @@ QStringList argumentList(int argc, char** argv)
         arguments += QString::fromLocal8Bit(argv[i]);
     return arguments;
 }
+
+// The arguments of the application object: it would take "--plugin" for an option of its own.
+class ApplicationArguments {
+public:
+    ApplicationArguments(char* program, const QStringList& arguments)
+        : m_pointers { program }
+    {
+        for (const QString& argument : arguments)
+            m_words += argument.toLocal8Bit();
+        for (QByteArray& word : m_words)
+            m_pointers.push_back(word.data());
+        m_count = static_cast<int>(m_pointers.size());
+        m_pointers.push_back(nullptr);
+    }
+
+    int& count() { return m_count; }
+    char** values() { return m_pointers.data(); }
+
+private:
+    QByteArrayList m_words;
+    std::vector<char*> m_pointers;
+    int m_count;
+};
 
 // The process's own streams: a console dock may have taken over those of C++.
 int fail(const QString& error)
@@ -92,6 +116,7 @@ int main(int argc, char** argv)
 
     if (!commandLine.picture.isEmpty())
         drawOffscreen();
-    const QApplication application(argc, argv);
+    ApplicationArguments arguments(argv[0], commandLine.toolkitArguments);
+    const QApplication application(arguments.count(), arguments.values());
     return run(commandLine);
 }

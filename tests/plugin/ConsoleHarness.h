@@ -11,27 +11,20 @@ class ConsoleHarness {
 public:
     ConsoleHarness()
     {
-        m_shell.window().show();
-        m_console.load();
-        m_console.activate();
+        shell.window().show();
+        console.load();
+        console.activate();
     }
     ~ConsoleHarness()
     {
-        m_console.deactivate();
-        m_console.unload();
-    }
-    ConsoleHarness(const ConsoleHarness&) = delete;
-    ConsoleHarness& operator=(const ConsoleHarness&) = delete;
-
-    CrvConsole& console() { return m_console; }
-    TestShell& shell() { return m_shell; }
-    void click(const char* button)
-    {
-        QTest::mouseClick(
-            m_shell.window().findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
+        console.deactivate();
+        console.unload();
     }
 
-private:
-    TestShell m_shell;
-    CrvConsole m_console;
+    QTextEdit* view() const { return console.m_consoleOutput; }
+    QString text() const { return view()->toPlainText(); }
+    static void click(QPushButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
+
+    TestShell shell;
+    CrvConsole console;
 };

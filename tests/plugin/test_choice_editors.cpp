@@ -51,6 +51,7 @@ private Q_SLOTS:
     {
         EditorFixture fixture;
         fixture.node().SFEnum.setEnums({ { "NONE", 0 }, { umlaut, 7 }, { "none", 2 } });
+        fixture.node().SFEnum.setValue(0);
         fixture.otherNode().SFEnum.setEnums({});
         fixture.select(fixture.field("SFEnum"));
         QCOMPARE(entries(fixture),

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ColorChannels.h"
+#include "DialogInput.h"
 #include "EditorRow.h"
 
 #include <QColorDialog>
@@ -8,7 +9,6 @@
 #include <QLineEdit>
 #include <QMetaMethod>
 #include <QPushButton>
-#include <QTimer>
 #include <QUndoStack>
 
 #include <limits>
@@ -26,26 +26,6 @@ QColor displayed(EditorFixture& fixture)
 QList<QLineEdit*> linesOf(EditorFixture& fixture)
 {
     return fixture.child<QWidget>("m_editionFrame")->findChildren<QLineEdit*>();
-}
-
-/// Clicks the display and lets `act` have the dialog that it opens.
-template <class Act>
-void inDialog(EditorFixture& fixture, Act act)
-{
-    bool found = false;
-    auto* const timer = new QTimer(&fixture.shell().window());
-    QObject::connect(timer, &QTimer::timeout, timer, [&] {
-        auto* const dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible())
-            return;
-        timer->stop();
-        found = true;
-        act(dialog);
-    });
-    timer->start(0);
-    QTest::mouseClick(fixture.child<QPushButton>("m_colorDisp"), Qt::LeftButton);
-    EditorFixture::settle();
-    QVERIFY(found);
 }
 
 } // namespace
@@ -182,12 +162,13 @@ private Q_SLOTS:
         KnField* const field = fixture.field("SFColorRGBA");
         EditorFixture::write(field, "1 0 0 1");
         fixture.select(field);
-        inDialog(fixture, [](QColorDialog* dialog) {
-            QCOMPARE(dialog->currentColor(), QColor(255, 0, 0));
-            QVERIFY(dialog->testOption(QColorDialog::ShowAlphaChannel));
-            dialog->setCurrentColor(QColor(128, 0, 255, 51));
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
+        QVERIFY(inDialog<QColorDialog>(
+            fixture.child<QPushButton>("m_colorDisp"), [](QColorDialog* dialog) {
+                QCOMPARE(dialog->currentColor(), QColor(255, 0, 0));
+                QVERIFY(dialog->testOption(QColorDialog::ShowAlphaChannel));
+                dialog->setCurrentColor(QColor(128, 0, 255, 51));
+                QTest::keyClick(dialog, Qt::Key_Return);
+            }));
         // Red as the text of its line has it; the others kept or got a round number.
         QCOMPARE(EditorFixture::text(field), QStringLiteral("0.501961 0 1 0.2"));
         QCOMPARE(linesShown(fixture, "SFColorRGBALine"), QStringLiteral("0.501961 0 1 0.2"));
@@ -202,11 +183,12 @@ private Q_SLOTS:
         KnField* const field = fixture.field("SFColor");
         EditorFixture::write(field, "0.3 7 0");
         fixture.select(field);
-        inDialog(fixture, [](QColorDialog* dialog) {
-            QVERIFY(!dialog->testOption(QColorDialog::ShowAlphaChannel));
-            dialog->setCurrentColor(Qt::green);
-            QTest::keyClick(dialog, Qt::Key_Escape);
-        });
+        QVERIFY(inDialog<QColorDialog>(
+            fixture.child<QPushButton>("m_colorDisp"), [](QColorDialog* dialog) {
+                QVERIFY(!dialog->testOption(QColorDialog::ShowAlphaChannel));
+                dialog->setCurrentColor(Qt::green);
+                QTest::keyClick(dialog, Qt::Key_Escape);
+            }));
         QCOMPARE(EditorFixture::text(field), QStringLiteral("0.3 7 0"));
         QCOMPARE(linesShown(fixture, "SFColorLine"), QStringLiteral("0.3 7 0"));
         QCOMPARE(fixture.undoStack().count(), 0);
@@ -216,11 +198,12 @@ private Q_SLOTS:
     {
         EditorFixture fixture;
         fixture.select(fixture.field("SFColor"));
-        inDialog(fixture, [&](QColorDialog* dialog) {
-            fixture.select(fixture.otherField("SFColor"));
-            dialog->setCurrentColor(Qt::green);
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
+        QVERIFY(inDialog<QColorDialog>(
+            fixture.child<QPushButton>("m_colorDisp"), [&](QColorDialog* dialog) {
+                fixture.select(fixture.otherField("SFColor"));
+                dialog->setCurrentColor(Qt::green);
+                QTest::keyClick(dialog, Qt::Key_Return);
+            }));
         QCOMPARE(EditorFixture::text(fixture.field("SFColor")), QStringLiteral("0 0 0"));
         QCOMPARE(EditorFixture::text(fixture.otherField("SFColor")), QStringLiteral("0 0 0"));
         QCOMPARE(fixture.undoStack().count(), 0);

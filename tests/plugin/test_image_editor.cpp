@@ -183,7 +183,7 @@ private Q_SLOTS:
         if (how == 0)
             QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, QPoint(3, 3));
         else if (how == 1)
-            QTest::keyClick(&window, Qt::Key_Escape);
+            QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
         else
             images.select(images.otherField("SFImage"));
         EditorFixture::settle();
@@ -197,6 +197,7 @@ private Q_SLOTS:
     {
         Images images(256, 256, 3);
         QWidget& window = images.shell().window();
+        window.resize(400, 60);
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();
         const QPoint target(screen.width() - 30, screen.height() - 60);
         window.move(window.pos() + target - images.thumbnail->mapToGlobal(QPoint()));

@@ -1,143 +1,133 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorFixture.h"
-#include "EditorRow.h"
 #include "KnReadError.h"
 #include "StringConversion.h"
 
 #include <QLineEdit>
 #include <QUndoStack>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-QLineEdit* line(EditorFixture& fixture) { return fixture.child<QLineEdit>("lineEdit"); }
-
-} // namespace
-
+/// The editors that are one line of text.
 class TestLineEditors : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { failOnWarnings(); }
+    void init()
+    {
+        failOnWarnings();
+        m_fixture = std::make_unique<EditorFixture>();
+    }
+    void cleanup() { m_fixture.reset(); }
 
     void aKeystrokeIsTwoCommands()
     {
-        EditorFixture fixture;
-        EditorFixture::write(fixture.field("SFTime"), "12");
-        fixture.select(fixture.field("SFTime"));
-        QTest::keyClick(line(fixture), Qt::Key_3);
-        QCOMPARE(EditorFixture::text(fixture.field("SFTime")), QStringLiteral("312"));
-        QCOMPARE(fixture.undoStack().count(), 2);
+        open("SFTime", "12");
+        QTest::keyClick(line(), Qt::Key_3);
+        QCOMPARE(state(), u"field 312, line 312, 2 commands"_s);
         // Neither Return nor leaving the line adds anything.
-        QTest::keyClick(line(fixture), Qt::Key_Return);
-        line(fixture)->clearFocus();
-        QCOMPARE(fixture.undoStack().count(), 2);
-        fixture.undo();
-        QCOMPARE(EditorFixture::text(fixture.field("SFTime")), QStringLiteral("312"));
-        fixture.undo();
-        QCOMPARE(line(fixture)->text(), QStringLiteral("12"));
+        QTest::keyClick(line(), Qt::Key_Return);
+        line()->clearFocus();
+        QCOMPARE(state(), u"field 312, line 312, 2 commands"_s);
+        m_fixture->undo();
+        QCOMPARE(state(), u"field 312, line 312, 2 commands"_s);
+        m_fixture->undo();
+        QCOMPARE(state(), u"field 12, line 12, 2 commands"_s);
     }
 
     void theCursorStaysThroughARefresh()
     {
-        EditorFixture fixture;
-        EditorFixture::write(fixture.field("SFTime"), "1234");
-        fixture.select(fixture.field("SFTime"));
-        line(fixture)->setFocus();
-        line(fixture)->setCursorPosition(2);
-        QTest::keyClick(line(fixture), Qt::Key_0);
+        open("SFTime", "1234");
+        line()->setFocus();
+        line()->setCursorPosition(2);
+        QTest::keyClick(line(), Qt::Key_0);
         EditorFixture::settle();
-        QCOMPARE(line(fixture)->cursorPosition(), 3);
-        EditorFixture::write(fixture.field("SFTime"), "7");
-        QCOMPARE(line(fixture)->cursorPosition(), 1);
-        EditorFixture::write(fixture.field("SFTime"), "98765");
-        QCOMPARE(line(fixture)->cursorPosition(), 3);
-        QCOMPARE(fixture.undoStack().count(), 2);
+        QCOMPARE(line()->cursorPosition(), 3);
+        EditorFixture::write(m_field, "7");
+        QCOMPARE(line()->cursorPosition(), 1);
+        EditorFixture::write(m_field, "98765");
+        QCOMPARE(line()->cursorPosition(), 3);
+        QCOMPARE(m_fixture->undoStack().count(), 2);
     }
 
     void aRefusedTextStaysUntilTheNextRefresh()
     {
-        EditorFixture fixture;
-        KnField* const field = fixture.field("SFTime");
-        EditorFixture::write(field, "12");
-        fixture.select(field);
+        open("SFTime", "12");
         int refusals = 0;
         const KnErrorCallback handler = KnReadError::getHandlerCallback();
         void* const handlerData = KnReadError::getHandlerData();
         KnReadError::setHandlerCallback(
             [](const KnError*, void* count) { ++*static_cast<int*>(count); }, &refusals);
-        QTest::keyClick(line(fixture), Qt::Key_X);
+        QTest::keyClick(line(), Qt::Key_X);
         KnReadError::setHandlerCallback(handler, handlerData);
         EditorFixture::settle();
-        QCOMPARE(line(fixture)->text(), QStringLiteral("x12"));
-        QCOMPARE(EditorFixture::text(field), QStringLiteral("12"));
         QCOMPARE(refusals, 2);
-        QCOMPARE(fixture.undoStack().count(), 2);
-        fixture.undo();
-        QCOMPARE(line(fixture)->text(), QStringLiteral("12"));
-        QCOMPARE(EditorFixture::text(field), QStringLiteral("12"));
+        QCOMPARE(state(), u"field 12, line x12, 2 commands"_s);
+        m_fixture->undo();
+        QCOMPARE(state(), u"field 12, line 12, 2 commands"_s);
     }
 
     void everyTextSurvives_data()
     {
-        QTest::addColumn<QByteArray>("type");
         QTest::addColumn<QString>("text");
-        const QList<std::pair<const char*, QString>> texts {
-            { "quotes and blanks", QStringLiteral("  \"a\" 'b' \\ \\n  ") },
-            { "beyond the first plane", QStringLiteral(u"\U0001F600\U00010400") },
-            { "combining and right to left", QStringLiteral(u"e\u0301 \u05D0\u05D1 \u0627\u0644") },
-            { "line ends and tabs", QStringLiteral("a\nb\tc\r\u2028d") },
-            { "a zero", QString(QChar(u'\0')) + QStringLiteral("behind it") },
-            { "half a pair", QString(QChar(0xD83D)) + QStringLiteral("x") + QChar(0xDE00) },
-            { "longer than a line's default", QString(100000, QChar(u'\u00FC')) },
-            { "none", QString() },
-        };
-        for (const QByteArray& type : { QByteArray("SFString"), QByteArray("SFName") }) {
-            for (const auto& [name, text] : texts)
-                QTest::addRow("%s, %s", type.constData(), name) << type << text;
-        }
+        QTest::newRow("quotes and blanks") << u"  \"a\" 'b' \\ \\n  "_s;
+        QTest::newRow("beyond the first plane") << u"\U0001F600\U00010400"_s;
+        QTest::newRow("combining and right to left") << u"e\u0301 \u05D0\u05D1 \u0627\u0644"_s;
+        QTest::newRow("line ends and tabs") << u"a\nb\tc\r\u2028d"_s;
+        QTest::newRow("a zero") << u"\0behind it"_s;
+        QTest::newRow("half a pair") << QString(QChar(0xD83D)) + u'x' + QChar(0xDE00);
+        QTest::newRow("longer than a line's default") << QString(100000, u'\u00FC');
+        QTest::newRow("none") << QString();
     }
     void everyTextSurvives()
     {
-        QFETCH(QByteArray, type);
         QFETCH(QString, text);
-        EditorFixture fixture;
-        KnField* const field = fixture.field(type.constData());
-        EditorFixture::write(field, "\"before\"");
-        fixture.select(field);
-        // As pasted: no key says most of these.
-        line(fixture)->setFocus();
-        line(fixture)->selectAll();
-        line(fixture)->insert(text);
-        QTest::keyClick(line(fixture), Qt::Key_Return);
-        EditorFixture::settle();
-        const auto value = [&] {
-            return toQString(type == "SFName" ? fixture.node().SFName.getValue().getString()
-                                              : fixture.node().SFString.getValue());
-        };
-        QCOMPARE(value(), text);
-        QCOMPARE(line(fixture)->text(), text);
-        QCOMPARE(fixture.undoStack().count(), 1);
-        fixture.undo();
-        QCOMPARE(line(fixture)->text(), QStringLiteral("before"));
-        fixture.redo();
-        QCOMPARE(value(), text);
-        // Leaving the line as it stands writes the same value.
-        line(fixture)->clearFocus();
-        EditorFixture::settle();
-        QCOMPARE(value(), text);
-        QCOMPARE(fixture.undoStack().count(), 2);
+        for (const char* const type : { "SFString", "SFName" }) {
+            open(type, "\"before\"");
+            // As pasted: no key says most of these.
+            line()->setFocus();
+            line()->selectAll();
+            line()->insert(text);
+            QTest::keyClick(line(), Qt::Key_Return);
+            EditorFixture::settle();
+            QCOMPARE(value(), text);
+            QCOMPARE(line()->text(), text);
+            QCOMPARE(m_fixture->undoStack().count(), 1);
+            m_fixture->undo();
+            QCOMPARE(line()->text(), u"before"_s);
+            m_fixture->redo();
+            QCOMPARE(value(), text);
+            // Leaving the line as it stands writes the same value.
+            line()->clearFocus();
+            EditorFixture::settle();
+            QCOMPARE(value(), text);
+            QCOMPARE(m_fixture->undoStack().count(), 2);
+        }
     }
 
-    void withoutAFieldTheLineIsEmpty()
+private:
+    /// Selects the field of that type, which holds `text` by then, with nothing to undo.
+    void open(const char* type, const char* text)
     {
-        WfSFStringWidget editor;
-        editor.load();
-        auto* const lineEdit = editor.getFrame()->findChild<QLineEdit*>(QStringLiteral("lineEdit"));
-        lineEdit->setText(QStringLiteral("left over"));
-        editor.updateFromField();
-        QCOMPARE(lineEdit->text(), QString());
-        editor.applyChanges();
-        editor.unload();
+        m_fixture->undoStack().clear();
+        m_field = m_fixture->field(type);
+        m_field->set(text);
+        m_fixture->select(m_field);
     }
+    QLineEdit* line() const { return m_fixture->child<QLineEdit>("lineEdit"); }
+    QString state() const
+    {
+        return u"field %1, line %2, %3 commands"_s.arg(EditorFixture::text(m_field), line()->text())
+            .arg(m_fixture->undoStack().count());
+    }
+    QString value() const
+    {
+        return toQString(m_field == &m_fixture->node().SFName
+                ? m_fixture->node().SFName.getValue().getString()
+                : m_fixture->node().SFString.getValue());
+    }
+
+    std::unique_ptr<EditorFixture> m_fixture;
+    KnField* m_field = nullptr; // the one selected
 };
 
 QTEST_MAIN(TestLineEditors)

@@ -3,11 +3,18 @@
 #include "KnComplexity.h"
 #include "KnDirectionalLight.h"
 #include "SliderInput.h"
+#include "StringConversion.h"
+#include "WfIntSlider.h"
 #include "WfRealSlider.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QUndoStack>
+
+#include <limits>
+#include <tuple>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,80 +36,59 @@ struct Held {
     Node* node = new Node;
 };
 
-QString lineText(EditorFixture& fixture) { return fixture.child<QLineEdit>("m_lineEdit")->text(); }
-
 } // namespace
 
+/// The editors of single numbers, and the sliders that they consist of.
 class TestNumericEditors : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { failOnWarnings(); }
-
-    void aDragAsCommands_data()
+    void init()
     {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QByteArray>("start");
-        QTest::addColumn<bool>("notify");
-        QTest::addColumn<QString>("undone");
-        const auto row = [](const char* type, const char* start, bool notify, const char* undone) {
-            QTest::addRow("%s, %s", type, notify ? "each move" : "release only")
-                << QByteArray(type) << QByteArray(start) << notify << QString::fromLatin1(undone);
-        };
-        row("SFFloat", "2.5", true, "2.5");
-        row("SFFloat", "0.1234567", false, "0.123457"); // as it was shown when it was pressed
-        row("SFDouble", "1e-05", true, "1e-05");
-        row("SFShort", "40", true, "40");
-        row("SFUInt32", "0x28", true, "0x28");
-        row("SFUInt32", "0x28", false, "0x28");
+        failOnWarnings();
+        m_fixture = std::make_unique<EditorFixture>();
     }
+    void cleanup() { m_fixture.reset(); }
+
     void aDragAsCommands()
     {
-        QFETCH(QByteArray, type);
-        QFETCH(QByteArray, start);
-        QFETCH(bool, notify);
-        QFETCH(QString, undone);
-        EditorFixture fixture;
-        KnField* const field = fixture.field(type.constData());
-        field->set(start.constData());
-        fixture.select(field);
-        if (!notify)
-            QTest::mouseClick(fixture.child<QCheckBox>("m_notifyCheckBox"), Qt::LeftButton);
-
-        SliderInput mouse(fixture.child<QSlider>("m_slider"));
-        QStringList texts { undone };
-        mouse.press();
-        for (int i = 0; i < 2; ++i) {
-            mouse.moveBy(8);
+        const std::tuple<const char*, const char*, bool, int, QString> rows[] = {
+            { "SFFloat", "2.5", true, 2, u"2.5"_s },
+            { "SFFloat", "0.1234567", false, 2, u"0.123457"_s }, // as shown when it was pressed
+            { "SFFloat", "5.03", false, 0, u"5.03"_s }, // a press alone falls on the grid
+            { "SFDouble", "1e-05", true, 2, u"1e-05"_s },
+            { "SFShort", "40", true, 2, u"40"_s },
+            { "SFUInt32", "0x28", true, 2, u"0x28"_s },
+            { "SFUInt32", "0x28", false, 2, u"0x28"_s },
+        };
+        for (const auto& [type, start, notify, moves, undone] : rows) {
+            open(type, start);
+            auto* const box = m_fixture->child<QCheckBox>("m_notifyCheckBox");
+            if (box->isChecked() != notify)
+                QTest::mouseClick(box, Qt::LeftButton);
+            SliderInput mouse(scale());
+            QStringList texts { undone };
+            mouse.press();
+            for (int i = 0; i < moves; ++i) {
+                mouse.moveBy(8);
+                EditorFixture::settle();
+                if (notify)
+                    texts << text();
+            }
+            mouse.release();
             EditorFixture::settle();
-            if (notify)
-                texts << EditorFixture::text(field);
-        }
-        QVERIFY(!notify || texts.at(1) != texts.at(2));
-        mouse.release();
-        EditorFixture::settle();
-        texts << EditorFixture::text(field);
-        QVERIFY(texts.last() != texts.first());
-        QUndoStack& stack = fixture.undoStack();
-        QCOMPARE(stack.count(), notify ? 3 : 1);
-
-        for (qsizetype i = texts.size() - 2; i >= 0; --i) {
-            fixture.undo();
-            QCOMPARE(EditorFixture::text(field), texts.at(i));
-        }
-        QCOMPARE(stack.index(), 0);
-        for (qsizetype i = 1; i < texts.size(); ++i) {
-            fixture.redo();
-            QCOMPARE(EditorFixture::text(field), texts.at(i));
+            texts << text();
+            QCOMPARE(QSet<QString>(texts.begin(), texts.end()).size(), notify ? 3 : 2);
+            QCOMPARE(undoAll(), texts.first(texts.size() - 1));
+            for (const QString& redone : texts.sliced(1)) {
+                m_fixture->redo();
+                QCOMPARE(text(), redone);
+            }
         }
     }
 
     void valuesAtTheEndsOfTheirTypes()
     {
-        const struct {
-            const char* type;
-            const char* text;
-            const char* shown;
-        } rows[] = {
+        const char* const rows[][3] = {
             { "SFFloat", "-3.4028235e+38", "-340282346638528859811704183484516925440.000000" },
             { "SFFloat", "inf", "inf" },
             { "SFFloat", "nan", "nan" },
@@ -114,106 +100,196 @@ private Q_SLOTS:
             { "SFShort", "-32768", "-32768" },
             { "SFUInt32", "0xffffffff", "ffffffff" },
         };
-        for (const auto& row : rows) {
-            EditorFixture fixture;
-            KnField* const field = fixture.field(row.type);
-            QVERIFY(field->set(row.text));
-            fixture.select(field);
-            QCOMPARE(lineText(fixture), QString::fromLatin1(row.shown));
-            QCOMPARE(EditorFixture::text(field), QString::fromLatin1(row.text));
-            QCOMPARE(fixture.undoStack().count(), 0);
+        for (const auto& [type, held, shownText] : rows) {
+            open(type, held);
+            QCOMPARE(shown(), QLatin1String(shownText));
+            QCOMPARE(text(), QLatin1String(held));
+            QCOMPARE(m_fixture->undoStack().count(), 0);
             // To both ends of the scale, by keys, and the way back.
-            QTest::keyClick(fixture.child<QSlider>("m_slider"), Qt::Key_Home);
-            QTest::keyClick(fixture.child<QSlider>("m_slider"), Qt::Key_End);
-            QVERIFY(fixture.undoStack().count() > 0);
-            while (fixture.undoStack().canUndo())
-                fixture.undo();
-            QCOMPARE(EditorFixture::text(field), QString::fromLatin1(row.text));
+            QTest::keyClick(scale(), Qt::Key_Home);
+            QTest::keyClick(scale(), Qt::Key_End);
+            QCOMPARE(undoAll().value(0), QLatin1String(held));
         }
     }
 
-    void aDragThatWasCutShortLeavesNothingBehind()
+    void allUnsignedNumbersCanBeReached()
     {
-        EditorFixture fixture;
-        fixture.node().SFInt32.setValue(40);
-        fixture.select(fixture.field("SFInt32"));
-        SliderInput(fixture.child<QSlider>("m_slider")).press();
-        fixture.select(fixture.otherField("SFInt32"));
-        typeInto(fixture.child<QLineEdit>("m_lineEdit"), QStringLiteral("7"));
-        while (fixture.undoStack().canUndo())
-            fixture.undo();
-        QCOMPARE(fixture.otherNode().SFInt32.getValue(), 0);
+        open("SFUInt32", "0xff");
+        slider()->setValue(u"1234"_s); // the first text has decided the base
+        QCOMPARE(shown(), u"34"_s);
+        type("ffffffff");
+        QCOMPARE(scale()->value(), std::numeric_limits<int>::max());
+        QTest::keyClick(scale(), Qt::Key_Left);
+        QCOMPARE(text(), u"0xfffffffe"_s);
+        QTest::keyClick(scale(), Qt::Key_Home);
+        QCOMPARE(text(), u"0x0"_s);
+        QCOMPARE(scale()->value(), std::numeric_limits<int>::min());
+        QCOMPARE(undoAll().value(0), u"0xff"_s);
     }
 
-    void aRatioOpensForWhatItHolds()
+    void textsThatDoNotParse()
+    {
+        const char* const rows[][3] = { { "SFUShort", "many", "42" },
+            { "SFUShort", "70000", "65535" }, { "SFShort", "70000", "42" } };
+        for (const auto& [fieldType, typed, value] : rows) {
+            open(fieldType, "42");
+            type(typed);
+            QCOMPARE(text(), QLatin1String(value));
+            // What undo brings back is the value, not the text that was refused.
+            SliderInput mouse(scale());
+            mouse.press();
+            QCOMPARE(toQString(slider()->m_oldValue), QLatin1String(value));
+            mouse.release();
+        }
+    }
+
+    void stepsWithTheCheckBoxClearWriteNothing()
+    {
+        open("SFInt32", "50");
+        QCOMPARE(scale()->maximum(), 100);
+        for (int round = 0; round < 2; ++round) {
+            const int before = scale()->value();
+            SliderInput(scale()).turnWheel();
+            QTest::keyClick(scale(), Qt::Key_Right);
+            QVERIFY(scale()->value() > before + 1);
+            QCOMPARE(shown(), QString::number(scale()->value()));
+            QCOMPARE(m_fixture->undoStack().count(), 2);
+            QTest::mouseClick(m_fixture->child<QCheckBox>("m_notifyCheckBox"), Qt::LeftButton);
+        }
+    }
+
+    void aRangeOpensForWhatTheFieldHolds()
     {
         Held<KnDirectionalLight> light;
         light.node->intensity.setValue(1.5F);
-        EditorFixture fixture;
-        fixture.select(&light.node->intensity);
-        auto* const slider = fixture.child<WfRealSlider>("WfSliderFrame");
-        QVERIFY(slider->isBounded());
-        QCOMPARE(slider->getMaximum(), 1.5);
+        m_fixture->select(&light.node->intensity);
+        auto* const real = static_cast<WfRealSlider*>(slider());
+        const auto range = [real] {
+            return u"%1 to %2, %3"_s.arg(real->getMinimum())
+                .arg(real->getMaximum())
+                .arg(QLatin1String(real->isBounded() ? "bounded" : "free"));
+        };
+        QCOMPARE(range(), u"0 to 1.5, bounded"_s);
         EditorFixture::write(&light.node->intensity, "-0.5");
-        QCOMPARE(slider->getMinimum(), -0.5);
-        QCOMPARE(slider->getValue(), -0.5);
+        QCOMPARE(range(), u"-0.5 to 1.5, bounded"_s);
+        QCOMPARE(real->getValue(), -0.5);
 
         // Another node's field has its own range, and all numbers can be typed again.
-        fixture.node().SFFloat.setValue(-3.0F);
-        fixture.select(fixture.field("SFFloat"));
-        QVERIFY(!slider->isBounded());
-        QCOMPARE(slider->getMinimum(), -3.0);
-        QCOMPARE(slider->getMaximum(), 10.0);
-        typeInto(slider->m_lineEdit, QStringLiteral("-1234.5"));
-        QCOMPARE(fixture.node().SFFloat.getValue(), -1234.5F);
+        open("SFFloat", "-3");
+        QCOMPARE(range(), u"-3 to 10, free"_s);
+        type("25");
+        QCOMPARE(range(), u"-3 to 25, free"_s);
+        QCOMPARE(scale()->value(), 100);
+        type("-1234.5");
+        QCOMPARE(text(), u"-1234.5"_s);
         QCOMPARE(light.node->intensity.getValue(), -0.5F);
-        fixture.select(nullptr);
+
+        real->setRange(-5, 0, false);
+        real->setValue(-1);
+        QCOMPARE(scale()->value(), 80);
+        real->setRange(0, 1, true);
+        real->setValue(7);
+        QCOMPARE(real->getValue(), 1.0);
+
+        KnSFFloat ofNoNode;
+        m_fixture->select(&ofNoNode);
+        QCOMPARE(range(), u"0 to 10, free"_s);
+
+        open("SFInt32", "250");
+        m_fixture->select(m_fixture->otherField("SFInt32"));
+        QCOMPARE(scale()->maximum(), 250); // one range for all fields
+        QCOMPARE(m_fixture->otherNode().SFInt32.getValue(), 0);
     }
 
     void aDoubleOfARatioNodeIsUsable()
     {
         Held<KnDoubleRatio> ratio;
-        EditorFixture fixture;
-        fixture.node().SFDouble.setValue(5.0);
-        fixture.select(fixture.field("SFDouble"));
+        open("SFDouble", "5");
+        QCOMPARE(static_cast<WfRealSlider*>(slider())->getMaximum(), 10.0);
         // The scale stands in its middle: the empty range pushes it, which is nobody's edit.
-        fixture.select(&ratio.node->ratio);
-        QCOMPARE(lineText(fixture), QStringLiteral("0"));
-        fixture.select(fixture.field("SFDouble"));
-        QCOMPARE(fixture.node().SFDouble.getValue(), 5.0);
-        QCOMPARE(fixture.undoStack().count(), 0);
+        m_fixture->select(&ratio.node->ratio);
+        QTest::keyClick(scale(), Qt::Key_Right);
+        SliderInput(scale()).press();
+        QCOMPARE(shown(), u"0"_s);
+        m_fixture->select(m_field);
+        QCOMPARE(text(), u"5"_s);
+        QCOMPARE(m_fixture->undoStack().count(), 0);
 
         ratio.node->ratio.setValue(2.5);
-        fixture.select(&ratio.node->ratio);
-        QCOMPARE(lineText(fixture), QStringLiteral("2.5"));
-        typeInto(fixture.child<QLineEdit>("m_lineEdit"), QStringLiteral("1.25"));
+        m_fixture->select(&ratio.node->ratio);
+        QCOMPARE(shown(), u"2.5"_s);
+        type("1.25");
         QCOMPARE(ratio.node->ratio.getValue(), 1.25);
-        EditorFixture::settle();
-        typeInto(fixture.child<QLineEdit>("m_lineEdit"), QStringLiteral("3"));
+        type("3");
         QCOMPARE(ratio.node->ratio.getValue(), 1.25);
-        fixture.select(nullptr);
     }
 
-    void anIntegerRangeThatHasGrownStays()
+    void aDragThatWasCutShortLeavesNothingBehind()
     {
-        EditorFixture fixture;
-        fixture.node().SFInt32.setValue(250);
-        fixture.select(fixture.field("SFInt32"));
-        fixture.select(fixture.otherField("SFInt32"));
-        QCOMPARE(fixture.child<QSlider>("m_slider")->maximum(), 250);
-        QCOMPARE(fixture.otherNode().SFInt32.getValue(), 0);
+        open("SFInt32", "40");
+        SliderInput(scale()).press();
+        m_fixture->select(m_fixture->otherField("SFInt32"));
+        type("7");
+        while (m_fixture->undoStack().canUndo())
+            m_fixture->undo();
+        QCOMPARE(m_fixture->otherNode().SFInt32.getValue(), 0);
     }
 
     void aTypedTextIsKeptWhenTheSelectionMoves()
     {
-        EditorFixture fixture;
-        fixture.select(fixture.field("SFInt32"));
-        QTest::mouseDClick(fixture.child<QLineEdit>("m_lineEdit"), Qt::LeftButton);
-        QTest::keyClicks(fixture.child<QLineEdit>("m_lineEdit"), QStringLiteral("77"));
-        fixture.select(fixture.otherField("SFInt32"));
-        QCOMPARE(fixture.node().SFInt32.getValue(), 77);
-        QCOMPARE(fixture.otherNode().SFInt32.getValue(), 0);
+        open("SFInt32", "0");
+        QTest::mouseDClick(m_fixture->child<QLineEdit>("m_lineEdit"), Qt::LeftButton);
+        QTest::keyClicks(m_fixture->child<QLineEdit>("m_lineEdit"), u"77"_s);
+        m_fixture->select(m_fixture->otherField("SFInt32"));
+        QCOMPARE(text(), u"77"_s);
+        QCOMPARE(m_fixture->otherNode().SFInt32.getValue(), 0);
     }
+
+    void aSliderThatHasNoOwner()
+    {
+        WfIntSlider octal(WfIntSlider::Int32, 0, nullptr, nullptr, 0, 0);
+        octal.setRange(50, 60, true); // pushes the scale, before there is a value to tell of
+        QCOMPARE(octal.getValue(), 50);
+        octal.setRange(40, 60, true);
+        QCOMPARE(octal.getMinimum(), 50); // a bounded range only narrows
+        octal.setValue(u"07"_s);
+        octal.setValue(u"070"_s);
+        QCOMPARE(octal.getValue(), 56);
+        octal.setValue(u"many"_s);
+        QCOMPARE(octal.getValue(), 50);
+    }
+
+private:
+    /// Selects the field of that type, which holds `text` by then, with nothing to undo.
+    void open(const char* type, const char* text)
+    {
+        m_fixture->select(nullptr);
+        m_fixture->undoStack().clear();
+        m_field = m_fixture->field(type);
+        m_field->set(text);
+        m_fixture->select(m_field);
+    }
+    QString text() const { return EditorFixture::text(m_field); }
+    /// What the field holds after each step that is undone, in the order of the edits.
+    QStringList undoAll()
+    {
+        QStringList texts;
+        while (m_fixture->undoStack().canUndo()) {
+            m_fixture->undo();
+            texts.prepend(text());
+        }
+        return texts;
+    }
+    void type(const char* text)
+    {
+        typeInto(m_fixture->child<QLineEdit>("m_lineEdit"), QString::fromLatin1(text));
+    }
+    QString shown() const { return m_fixture->child<QLineEdit>("m_lineEdit")->text(); }
+    QSlider* scale() const { return m_fixture->child<QSlider>("m_slider"); }
+    WfSlider* slider() const { return m_fixture->child<WfSlider>("WfSliderFrame"); }
+
+    std::unique_ptr<EditorFixture> m_fixture;
+    KnField* m_field = nullptr; // the one opened
 };
 
 QTEST_MAIN(TestNumericEditors)

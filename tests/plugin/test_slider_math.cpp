@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "QUIntValidator.h"
+#include "QULongValidator.h"
 #include "SliderMath.h"
 
 #include <QTest>
 
 #include <cmath>
 #include <limits>
+#include <tuple>
 
+using namespace Qt::StringLiterals;
 using namespace SliderMath;
 
 namespace {
@@ -18,53 +22,45 @@ constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 
 } // namespace
 
+/// What is behind the input of a number, without its widgets.
 class TestSliderMath : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void theBaseOfAText()
     {
-        const struct {
-            QString text;
-            int base;
-            QString digits;
-        } rows[] = {
-            { QStringLiteral("0x1f"), 16, QStringLiteral("1f") },
-            { QStringLiteral("0x1"), 16, QStringLiteral("1") },
-            { QStringLiteral("07"), 8, QStringLiteral("7") },
-            { QStringLiteral("0x"), 8, QStringLiteral("x") },
-            { QStringLiteral("017"), 10, QStringLiteral("017") },
-            { QStringLiteral("0"), 10, QStringLiteral("0") },
-            { QStringLiteral("-1"), 10, QStringLiteral("-1") },
+        const std::tuple<QString, int, QString> rows[] = {
+            { u"0x1f"_s, 16, u"1f"_s },
+            { u"0x1"_s, 16, u"1"_s },
+            { u"07"_s, 8, u"7"_s },
+            { u"0x"_s, 8, u"x"_s },
+            { u"017"_s, 10, u"017"_s },
+            { u"0"_s, 10, u"0"_s },
+            { u"-1"_s, 10, u"-1"_s },
             { QString(), 10, QString() },
         };
-        for (const auto& row : rows) {
-            QCOMPARE(detectBase(row.text), row.base);
-            QCOMPARE(withoutPrefix(row.text, row.base), row.digits);
-            QCOMPARE(withPrefix(row.digits, row.base), row.text);
+        for (const auto& [text, base, digits] : rows) {
+            QCOMPARE(detectBase(text), base);
+            QCOMPARE(withoutPrefix(text, base), digits);
+            QCOMPARE(withPrefix(digits, base), text);
         }
-        QCOMPARE(withPrefix(QStringLiteral("0XfF"), 16), QStringLiteral("0xfF"));
-        QCOMPARE(withoutPrefix(QStringLiteral("77"), 16), QString());
+        QCOMPARE(withPrefix(u"0XfF"_s, 16), u"0xfF"_s);
+        QCOMPARE(withoutPrefix(u"77"_s, 16), QString());
     }
 
     void unsignedValuesKeepTheirOrder()
     {
-        const unsigned int values[] = { 0, 1, 0x7fffffff, 0x80000000, 0xfffffffe, 0xffffffff };
-        QCOMPARE(unsignedPosition(values[0]), std::numeric_limits<int>::min());
-        QCOMPARE(unsignedPosition(values[5]), std::numeric_limits<int>::max());
-        for (int i = 0; i < 6; ++i) {
-            QCOMPARE(unsignedValue(unsignedPosition(values[i])), values[i]);
-            QVERIFY(i == 0 || unsignedPosition(values[i]) > unsignedPosition(values[i - 1]));
+        using Limits = std::numeric_limits<int>;
+        const std::pair<unsigned int, int> rows[] = { { 0, Limits::min() }, { 0x7fffffff, -1 },
+            { 0x80000000, 0 }, { 0xffffffff, Limits::max() } };
+        for (const auto& [value, position] : rows) {
+            QCOMPARE(unsignedPosition(value), position);
+            QCOMPARE(unsignedValue(position), value);
         }
     }
 
     void positionsOfReals()
     {
-        const struct {
-            double value, minimum, maximum;
-            int position;
-        } rows[] = {
-            { 0, 0, 10, 0 },
-            { 10, 0, 10, 100 },
+        const std::tuple<double, double, double, int> rows[] = {
             { 0.5, 0, 100, 1 },
             { 0.4, 0, 100, 0 },
             { -DoubleMax, 0, 1, 0 },
@@ -75,16 +71,15 @@ private Q_SLOTS:
             { 5, NoNumber, NoNumber, 0 },
             { DoubleMax / 2, -DoubleMax, DoubleMax, 75 },
             { -FloatMax / 2, -FloatMax, FloatMax, 25 },
-            { 0, -Infinity, Infinity, 50 },
             { 3 * Smallest, 0, 4 * Smallest, 75 },
         };
-        for (const auto& row : rows)
-            QCOMPARE(realPosition(row.value, row.minimum, row.maximum), row.position);
+        for (const auto& [value, minimum, maximum, position] : rows)
+            QCOMPARE(realPosition(value, minimum, maximum), position);
     }
 
     void everyPositionOfARealComesBack()
     {
-        const double ranges[][2] = { { 0.0, 1.0 }, { -3.1, -0.1 }, { 1e15, 1e15 + 1000 },
+        const double ranges[][2] = { { 0, 1 }, { -3.1, -0.1 }, { 1e15, 1e15 + 1000 },
             { -FloatMax, FloatMax }, { -DoubleMax, DoubleMax }, { -Infinity, Infinity } };
         for (const auto& [minimum, maximum] : ranges) {
             for (int position = 0; position <= 100; ++position) {
@@ -95,40 +90,30 @@ private Q_SLOTS:
             QCOMPARE(realValue(0, minimum, maximum), finite(minimum, false));
             QCOMPARE(realValue(100, minimum, maximum), finite(maximum, false));
         }
-        QCOMPARE(realValue(99, 5.0, 5.0), 5.0);
+        QCOMPARE(realValue(99, 5, 5), 5.0);
     }
 
     void textsOfReals()
     {
-        const struct {
-            double value;
-            bool isFloat;
-            const char* text;
-            double read;
-        } rows[] = {
-            { 0.1234567, true, "0.123457", 0.123457 },
-            { 1e-10, true, "0.000000", 0.0 },
-            { FloatMax, true, "340282346638528859811704183484516925440.000000", FloatMax },
-            { 1.0 / 3, false, "0.333333333333333", 0.333333333333333 },
-            { 1e15, false, "1e+15", 1e15 },
-            { Smallest, false, "4.94065645841247e-324", Smallest },
-            { DoubleMax, false, "1.79769313486231e+308", 1.79769313486231e+308 },
-            { -DoubleMax, false, "-1.79769313486231e+308", -1.79769313486231e+308 },
-            { -Infinity, true, "-inf", -Infinity },
+        const std::tuple<double, bool, QString, double> rows[] = {
+            { 0.1234567, true, u"0.123457"_s, 0.123457 },
+            { 1e-10, true, u"0.000000"_s, 0 },
+            { 1.0 / 3, false, u"0.333333333333333"_s, 0.333333333333333 },
+            { 1e15, false, u"1e+15"_s, 1e15 },
+            { Smallest, false, u"4.94065645841247e-324"_s, Smallest },
+            { DoubleMax, false, u"1.79769313486231e+308"_s, 1.79769313486231e+308 },
+            { -DoubleMax, false, u"-1.79769313486231e+308"_s, -1.79769313486231e+308 },
+            { -Infinity, true, u"-inf"_s, -Infinity },
         };
-        for (const auto& row : rows) {
-            QCOMPARE(realText(row.value, row.isFloat), QString::fromLatin1(row.text));
-            QCOMPARE(realFromText(QString::fromLatin1(row.text), row.isFloat), row.read);
+        for (const auto& [value, isFloat, text, read] : rows) {
+            QCOMPARE(realText(value, isFloat), text);
+            QCOMPARE(realFromText(text, isFloat), read);
         }
         QVERIFY(std::isnan(realFromText(realText(NoNumber, false), false)));
-    }
-
-    void textsThatSayNoNumber()
-    {
-        QCOMPARE(realFromText(QStringLiteral("one"), false), 0.0);
+        QCOMPARE(realFromText(u"one"_s, false), 0.0);
         QCOMPARE(realFromText(QString(), true), 0.0);
-        QCOMPARE(realFromText(QStringLiteral("1e999"), false), DoubleMax);
-        QCOMPARE(realFromText(QStringLiteral("-1e999"), true), -FloatMax);
+        QCOMPARE(realFromText(u"1e999"_s, false), DoubleMax);
+        QCOMPARE(realFromText(u"-1e999"_s, true), -FloatMax);
     }
 
     void numbersStayInTheirType()
@@ -136,9 +121,31 @@ private Q_SLOTS:
         QCOMPARE(double(toFloat(DoubleMax)), FloatMax);
         QCOMPARE(double(toFloat(-DoubleMax)), -FloatMax);
         QVERIFY(std::isinf(toFloat(Infinity)) && std::isnan(toFloat(NoNumber)));
-        QCOMPARE(limited(7, 0, 5), 5);
         QCOMPARE(limited(7, 50, 10), 50);
         QVERIFY(std::isnan(limited(NoNumber, 0.0, 1.0)));
+    }
+
+    void unsignedTextsInARange()
+    {
+        const std::tuple<unsigned int, unsigned int, QString, QValidator::State> rows[] = {
+            { 10, 20, QString(), QValidator::Acceptable },
+            { 10, 20, u"10"_s, QValidator::Acceptable },
+            { 10, 20, u"20"_s, QValidator::Acceptable },
+            { 10, 20, u"5"_s, QValidator::Intermediate },
+            { 10, 20, u"25"_s, QValidator::Intermediate },
+            { 10, 20, u"x"_s, QValidator::Invalid },
+            { 10, 20, u"-1"_s, QValidator::Invalid },
+            { 0, 4294967295, u"4294967295"_s, QValidator::Acceptable },
+            { 0, 4294967295, u"4294967296"_s, QValidator::Invalid },
+            { 20, 10, u"15"_s, QValidator::Intermediate },
+        };
+        for (auto [bottom, top, text, state] : rows) {
+            int position = 0;
+            QCOMPARE(QUIntValidator(bottom, top, nullptr).validate(text, position), state);
+            QULongValidator moved(0, 0, nullptr);
+            moved.setRange(bottom, top);
+            QCOMPARE(moved.validate(text, position), state);
+        }
     }
 };
 

@@ -2,14 +2,11 @@
 #include "WfPopupWidget.h"
 
 #include "ComponentValidator.h"
-#include "FittedFont.h"
-#include "LayoutMetrics.h"
 #include "Pixmaps.h"
-#include "PopupCloser.h"
+#include "PopupGrid.h"
 #include "PopupPlacement.h"
 
 #include <QFrame>
-#include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -37,28 +34,11 @@ void WfPopupWidget::load()
     connect(m_editButton, &QPushButton::clicked, this, &WfPopupWidget::managePopFramePos);
     m_lineEdit->setEnabled(false);
 
-    m_popupFrame = new QFrame(getFrame(), Qt::Popup);
-    m_popupFrame->setObjectName(QStringLiteral("m_popupFrame"));
-    m_popupFrame->resize(layoutMetric(QStringLiteral("PopupFrameWidth")),
-        layoutMetric(QStringLiteral("PopupFrameHeight")));
-    m_popupFrame->setFrameShape(QFrame::StyledPanel);
-    m_popupFrame->setFrameShadow(QFrame::Raised);
-    new PopupCloser(m_popupFrame, getFrame(), m_editButton);
-
-    auto* const grid = new QGridLayout(m_popupFrame);
-    const int margin = layoutMetric(QStringLiteral("PopupLayoutMargin"));
-    const int spacing = layoutMetric(QStringLiteral("PopupLayoutSpacing"));
-    grid->setContentsMargins(margin, margin, margin, margin);
-    grid->setSpacing(spacing);
-    grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
-    const int cellWidth
-        = (m_popupFrame->width() - 2 * margin - (m_columns - 1) * spacing) / m_columns;
+    m_popupFrame = makePopupFrame(getFrame(), m_editButton);
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column) {
             auto* const line = new QLineEdit(m_popupFrame);
-            line->setObjectName(QStringLiteral("m_lineEdits"));
-            fitNumberLine(line, QSize(cellWidth, line->sizeHint().height()));
-            grid->addWidget(line, row, column);
+            addPopupLine(m_popupFrame, line, row, column, m_columns);
             m_lineEdits.push_back(line);
             connect(line, &QLineEdit::editingFinished, this, &WfPopupWidget::setFocusLeaveEvent);
             connect(
@@ -91,9 +71,7 @@ void WfPopupWidget::managePopFramePos()
         m_popupFrame->hide();
         return;
     }
-    // Before it was ever shown the frame doesn't know yet how much its lines need.
-    m_popupFrame->ensurePolished();
-    m_popupFrame->layout()->activate();
+    settlePopupSize(m_popupFrame);
     const QPoint corner = getFrame()->mapToGlobal(m_editButton->geometry().bottomRight());
     m_popupFrame->move(popupPosition(corner, QGuiApplication::primaryScreen()->availableSize(),
         m_popupFrame->size() + m_editButton->size()));

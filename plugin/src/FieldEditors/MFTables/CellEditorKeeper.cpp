@@ -50,12 +50,17 @@ void finish(WfSlider* slider)
     silence(slider);
 }
 
-bool isBusy(const QWidget* editor)
+QLineEdit* lineOf(QWidget* editor)
 {
-    if (const auto* const slider = qobject_cast<const WfSlider*>(editor))
-        return slider->isModified() || isDragged(slider);
-    const auto* const line = qobject_cast<const QLineEdit*>(editor);
-    return line && line->isModified();
+    const auto* const slider = qobject_cast<WfSlider*>(editor);
+    return slider ? slider->m_lineEdit : qobject_cast<QLineEdit*>(editor);
+}
+
+bool isBusy(QWidget* editor)
+{
+    const auto* const slider = qobject_cast<WfSlider*>(editor);
+    const QLineEdit* const line = lineOf(editor);
+    return (slider && isDragged(slider)) || (line && line->isModified());
 }
 
 } // namespace
@@ -141,10 +146,18 @@ void CellEditorKeeper::fieldChanged(bool countChanged)
     if (text == m_text)
         return;
     m_text = text;
-    if (countChanged)
+    if (countChanged) {
         drop();
-    else if (!isBusy(editor))
-        m_table->itemDelegate()->setEditorData(editor, m_index);
+        return;
+    }
+    if (isBusy(editor))
+        return;
+    QLineEdit* const line = lineOf(editor);
+    const bool wasSelected = line && line->hasSelectedText();
+    m_table->itemDelegate()->setEditorData(editor, m_index);
+    // As when it was opened, so that typing replaces it.
+    if (wasSelected)
+        line->selectAll();
 }
 
 bool CellEditorKeeper::eventFilter(QObject* watched, QEvent* event)

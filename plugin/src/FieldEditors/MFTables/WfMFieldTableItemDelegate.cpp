@@ -92,12 +92,23 @@ void WfMFieldTableItemDelegate::paint(
         painter->fillRect(option.rect, option.palette.highlight());
     painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
 
-    const QFontMetrics metrics = painter->fontMetrics();
     const QString text = m_widget->getCellText(index.row(), index.column());
     painter->drawText(option.rect, Qt::AlignCenter,
-        cellText(text, option.rect.width() - CellPadding,
-            [&metrics](const QString& part) { return metrics.horizontalAdvance(part); }));
+        shownText(text, option.rect.width() - CellPadding, painter->fontMetrics()));
     painter->restore();
+}
+
+/// What a cell of `available` pixels shows of a text. Cells that follow each other often show the
+/// same, those of a long text above all, which costs the most to cut.
+QString WfMFieldTableItemDelegate::shownText(
+    const QString& text, int available, const QFontMetrics& metrics) const
+{
+    if (m_cut.text != text || m_cut.available != available || m_cut.metrics != metrics) {
+        m_cut = { text, available, metrics,
+            cellText(text, available,
+                [&metrics](const QString& part) { return metrics.horizontalAdvance(part); }) };
+    }
+    return m_cut.shown;
 }
 
 QWidget* WfMFieldTableItemDelegate::createEditor(

@@ -3,6 +3,7 @@
 
 #include "EditorKind.h"
 
+#include <QFontMetrics>
 #include <QItemDelegate>
 
 class QLineEdit;
@@ -46,6 +47,15 @@ protected:
     WfMFieldWidget* m_widget; // not owned
 
 private:
+    /// A text and what was shown of it last.
+    struct CutText {
+        QString text;
+        int available = 0; // pixels
+        QFontMetrics metrics { QFont() };
+        QString shown;
+    };
+
+    QString shownText(const QString& text, int available, const QFontMetrics& metrics) const;
     QWidget* makeSlider(QWidget* parent, int row, int column) const;
     QWidget* makeLineEdit(QWidget* parent) const;
 
@@ -56,4 +66,5 @@ private:
     double m_realMax = 10.0;
     double m_realMin = 0.0;
     bool m_bounded = false;
+    mutable CutText m_cut;
 };

@@ -5,15 +5,15 @@
 #include "LayoutMetrics.h"
 #include "PanelParts.h"
 #include "Pixmaps.h"
-#include "PopupCloser.h"
+#include "PopupGrid.h"
 #include "PopupPlacement.h"
 #include "ValueComponents.h"
 #include "WfMFieldTable.h"
 #include "WfTablePopupLineEdit.h"
 
 #include <QFrame>
-#include <QGridLayout>
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
 #include <QSignalBlocker>
@@ -47,24 +47,13 @@ void WfTablePopupWidget::load()
 
 void WfTablePopupWidget::buildPopup()
 {
-    m_popupFrame = new QFrame(getFrame(), Qt::Popup);
-    m_popupFrame->setObjectName(QStringLiteral("m_popupFrame"));
-    m_popupFrame->resize(layoutMetric(QStringLiteral("PopupFrameWidth")),
-        layoutMetric(QStringLiteral("PopupFrameHeight")));
-    m_popupFrame->setFrameShape(QFrame::StyledPanel);
-    m_popupFrame->setFrameShadow(QFrame::Raised);
-    new PopupCloser(m_popupFrame, getFrame(), m_editButton);
-
-    auto* const grid = new QGridLayout(m_popupFrame);
-    setMargins(grid, layoutMetric(QStringLiteral("PopupLayoutMargin")));
-    grid->setSpacing(layoutMetric(QStringLiteral("PopupLayoutSpacing")));
-    grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
+    m_popupFrame = makePopupFrame(getFrame(), m_editButton);
     m_lineEdits.resize(static_cast<std::size_t>(m_rows * m_columns));
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column) {
             const int index = row + column * m_columns;
             auto* const line = new WfTablePopupLineEdit(index, this, m_popupFrame, "m_lineEdits");
-            grid->addWidget(line, row, column);
+            addPopupLine(m_popupFrame, line, row, column, m_columns);
             m_lineEdits[static_cast<std::size_t>(index)] = line;
             connect(line, &QLineEdit::textChanged, line, &WfTablePopupLineEdit::setCurrentValue);
         }
@@ -81,9 +70,15 @@ QString WfTablePopupWidget::getPopupCellText(int, int) { return QString(); }
 
 void WfTablePopupWidget::updateFromField()
 {
+    const int row = m_table->currentRow();
     WfMFieldWidget::updateFromField();
-    if (m_popupFrame && m_popupFrame->isVisible())
+    if (!m_popupFrame || !m_popupFrame->isVisible())
+        return;
+    // What is being typed is meant for the row that the popup was opened for.
+    if (m_table->currentRow() == row)
         fill(true);
+    else
+        m_popupFrame->hide();
 }
 
 /// Shows the current row. With `keepTyped` a line whose text stands for what the row holds keeps
@@ -112,9 +107,7 @@ void WfTablePopupWidget::fill(bool keepTyped)
 
 void WfTablePopupWidget::placePopup()
 {
-    // Before it was ever shown the frame doesn't know yet how much its lines need.
-    m_popupFrame->ensurePolished();
-    m_popupFrame->layout()->activate();
+    settlePopupSize(m_popupFrame);
     const QFrame* const frame = getFrame();
     const QPoint wanted = popupPositionLeftOf(
         frame->mapToGlobal(frame->geometry().topLeft()), m_popupFrame->width());

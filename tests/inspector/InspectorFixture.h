@@ -13,10 +13,10 @@ class QTreeView;
 
 /// The program as a person meets it: the window with the built plug-ins loaded, shown and active,
 /// on a copy of the sample scene, with settings of its own.
-class InspectorSession {
+class InspectorFixture {
 public:
-    /// `folder` holds scene and settings; a second session in the same one is the next day.
-    explicit InspectorSession(const QTemporaryDir& folder, const QString& profile = {});
+    /// `folder` holds scene and settings; a second fixture in the same one is the next start.
+    explicit InspectorFixture(const QTemporaryDir& folder, const QString& profile = {});
 
     QString sceneFile() const;
     /// What the scene file says of a field, by the reader.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "InspectorSession.h"
+#include "InspectorFixture.h"
 
 #include "CommandLine.h"
 #include "CrvPluginsManager.h"
@@ -28,7 +28,7 @@ QString textIn(KnFieldContainer* root, const QString& nodeAndField)
 
 } // namespace
 
-InspectorSession::InspectorSession(const QTemporaryDir& folder, const QString& profile)
+InspectorFixture::InspectorFixture(const QTemporaryDir& folder, const QString& profile)
     : m_folder(folder)
     , m_settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat)
     , window(&m_settings)
@@ -50,12 +50,12 @@ InspectorSession::InspectorSession(const QTemporaryDir& folder, const QString& p
         qFatal("the window isn't active");
 }
 
-QString InspectorSession::sceneFile() const
+QString InspectorFixture::sceneFile() const
 {
     return m_folder.filePath(QStringLiteral("scene.json"));
 }
 
-QString InspectorSession::savedText(const QString& nodeAndField) const
+QString InspectorFixture::savedText(const QString& nodeAndField) const
 {
     SceneReader reader;
     const NodePtr root = reader.readFile(sceneFile());
@@ -64,29 +64,29 @@ QString InspectorSession::savedText(const QString& nodeAndField) const
     return textIn(root.get(), nodeAndField);
 }
 
-KnField* InspectorSession::field(const QString& nodeAndField) const
+KnField* InspectorFixture::field(const QString& nodeAndField) const
 {
     SceneSearch search;
     search.find(const_cast<MainWindow&>(window).document().root().get(), nodeAndField);
     return search.field();
 }
 
-QString InspectorSession::text(const QString& nodeAndField) const
+QString InspectorFixture::text(const QString& nodeAndField) const
 {
     return textIn(field(nodeAndField)->getContainer(), nodeAndField);
 }
 
-void InspectorSession::clickNode(const QString& name)
+void InspectorFixture::clickNode(const QString& name)
 {
     clickRow(QStringLiteral("sceneTree"), name);
 }
 
-void InspectorSession::clickField(const QString& name)
+void InspectorFixture::clickField(const QString& name)
 {
     clickRow(QStringLiteral("fieldList"), name);
 }
 
-void InspectorSession::clickRow(const QString& view, const QString& name)
+void InspectorFixture::clickRow(const QString& view, const QString& name)
 {
     auto* const tree = window.findChild<QTreeView*>(view);
     const QModelIndexList found = tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole,
@@ -99,7 +99,7 @@ void InspectorSession::clickRow(const QString& view, const QString& name)
     QCoreApplication::processEvents();
 }
 
-QAction* InspectorSession::action(const QString& menu, const QString& entry) const
+QAction* InspectorFixture::action(const QString& menu, const QString& entry) const
 {
     for (QAction* candidate : window.findChild<QMenu*>(menu)->actions()) {
         if (candidate->objectName() == entry)
@@ -108,7 +108,7 @@ QAction* InspectorSession::action(const QString& menu, const QString& entry) con
     return nullptr;
 }
 
-void InspectorSession::choose(const QString& menu, const QString& entry)
+void InspectorFixture::choose(const QString& menu, const QString& entry)
 {
     auto* const popup = window.findChild<QMenu*>(menu);
     popup->popup(QPoint());
@@ -117,7 +117,7 @@ void InspectorSession::choose(const QString& menu, const QString& entry)
     QCoreApplication::processEvents();
 }
 
-QDockWidget* InspectorSession::dock(const QString& title) const
+QDockWidget* InspectorFixture::dock(const QString& title) const
 {
     for (QDockWidget* dock : window.findChildren<QDockWidget*>()) {
         if (dock->windowTitle() == title)
@@ -126,14 +126,14 @@ QDockWidget* InspectorSession::dock(const QString& title) const
     return nullptr;
 }
 
-void InspectorSession::press(const QKeySequence& keys)
+void InspectorFixture::press(const QKeySequence& keys)
 {
     QWidget* const focus = window.focusWidget();
     QTest::keySequence(focus ? focus : &window, keys);
     QCoreApplication::processEvents();
 }
 
-void InspectorSession::answerNextQuestion(QMessageBox::StandardButton button)
+void InspectorFixture::answerNextQuestion(QMessageBox::StandardButton button)
 {
     auto* const timer = new QTimer(&window);
     QObject::connect(timer, &QTimer::timeout, timer, [timer, button] {

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "PopupGrid.h"
+
+#include "FittedFont.h"
+#include "LayoutMetrics.h"
+#include "PanelParts.h"
+#include "PopupCloser.h"
+
+#include <QAbstractButton>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLineEdit>
+
+QFrame* makePopupFrame(QWidget* panel, QAbstractButton* button)
+{
+    auto* const popup = new QFrame(panel, Qt::Popup);
+    popup->setObjectName(QStringLiteral("m_popupFrame"));
+    popup->resize(layoutMetric(QStringLiteral("PopupFrameWidth")),
+        layoutMetric(QStringLiteral("PopupFrameHeight")));
+    popup->setFrameShape(QFrame::StyledPanel);
+    popup->setFrameShadow(QFrame::Raised);
+    new PopupCloser(popup, panel, button);
+
+    auto* const grid = new QGridLayout(popup);
+    setMargins(grid, layoutMetric(QStringLiteral("PopupLayoutMargin")));
+    grid->setSpacing(layoutMetric(QStringLiteral("PopupLayoutSpacing")));
+    grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
+    return popup;
+}
+
+void addPopupLine(QFrame* popup, QLineEdit* line, int row, int column, int columns)
+{
+    line->setObjectName(QStringLiteral("m_lineEdits"));
+    const int gaps = 2 * layoutMetric(QStringLiteral("PopupLayoutMargin"))
+        + (columns - 1) * layoutMetric(QStringLiteral("PopupLayoutSpacing"));
+    const int width = (layoutMetric(QStringLiteral("PopupFrameWidth")) - gaps) / columns;
+    fitNumberLine(line, QSize(width, line->sizeHint().height()));
+    static_cast<QGridLayout*>(popup->layout())->addWidget(line, row, column);
+}
+
+void settlePopupSize(QFrame* popup)
+{
+    popup->ensurePolished();
+    popup->layout()->activate();
+}

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "EditorFixture.h"
+
+#include <QTimer>
+
+/// Clicks a button that opens a modal `Dialog` and lets `act` use it, as a person would, until it
+/// is closed. False if none came up, or if it was left open.
+template <class Dialog, class Act>
+bool inDialog(QWidget* button, Act act)
+{
+    bool closed = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            return;
+        timer.stop();
+        act(dialog);
+        closed = !dialog->isVisible();
+        dialog->reject();
+    });
+    timer.start(0);
+    QTest::mouseClick(button, Qt::LeftButton);
+    EditorFixture::settle();
+    return closed;
+}
