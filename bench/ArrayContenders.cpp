@@ -3,7 +3,10 @@
 
 #include "KnMFields.h"
 #include "KnSensorQueue.h"
+#include "WfMFColorWidget.h"
 #include "WfMFFloatWidget.h"
+#include "WfMFMatrixWidget.h"
+#include "WfMFVec3fWidget.h"
 
 #include <QApplication>
 #include <QFrame>
@@ -14,9 +17,12 @@ namespace {
 
 constexpr QSize WindowSize(400, 600); // pixels
 
+/// The editor of a field class.
+template <class Editor, class Field>
 class EditorContender : public ArrayContender {
 public:
-    EditorContender()
+    explicit EditorContender(const char* name)
+        : m_name(name)
     {
         m_editor.load();
         m_table = m_editor.getFrame()->findChild<WfMFieldTable*>();
@@ -28,14 +34,12 @@ public:
         m_editor.unload();
     }
 
-    const char* name() const override { return "editor"; }
+    const char* name() const override { return m_name; }
     QTableView* view() const override { return m_table; }
     void prepare(int rows) override
     {
         m_next = m_next == &m_fields[0] ? &m_fields[1] : &m_fields[0];
-        const std::vector<float> values(static_cast<std::size_t>(rows), 0.5F);
         m_next->setNum(rows);
-        m_next->setValues(0, rows, values.data());
     }
 
     void select() override
@@ -46,13 +50,13 @@ public:
     }
     void refresh() override
     {
-        m_next->set1Value(0, 1.5F);
+        m_next->set1Value(0, (*m_next)[1]);
         KnSensorQueue::getInstance().process();
     }
     void jump(int row) override { m_accessBox->setValue(row + 1); }
     void edit(int row) override
     {
-        m_editor.setFieldValue(row, 0, QStringLiteral("2.5"));
+        m_editor.setFieldValue(row, 0, QStringLiteral("0.25"));
         KnSensorQueue::getInstance().process();
     }
     void add() override
@@ -67,9 +71,10 @@ public:
     }
 
 private:
-    KnMFFloat m_fields[2];
-    KnMFFloat* m_next = nullptr; // one of them: shown since the last select
-    WfMFFloatWidget m_editor;
+    const char* m_name;
+    Field m_fields[2];
+    Field* m_next = nullptr; // one of them: shown since the last select
+    Editor m_editor;
     WfMFieldTable* m_table; // of the editor
     QSpinBox* m_accessBox; // of the editor
 };
@@ -77,9 +82,9 @@ private:
 /// A table widget that is told how many rows there are and nothing of what they hold.
 class BareContender : public ArrayContender {
 public:
-    BareContender()
+    explicit BareContender(int columns = 1)
     {
-        m_table.setColumnCount(1);
+        m_table.setColumnCount(columns);
         m_table.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     }
 
@@ -218,9 +223,19 @@ void ArrayContender::show() const
 std::vector<std::unique_ptr<ArrayContender>> makeContenders()
 {
     std::vector<std::unique_ptr<ArrayContender>> all;
-    all.push_back(std::make_unique<EditorContender>());
+    all.push_back(std::make_unique<EditorContender<WfMFFloatWidget, KnMFFloat>>("editor"));
     all.push_back(std::make_unique<BareContender>());
     all.push_back(std::make_unique<ModelContender>());
     all.push_back(std::make_unique<FilledContender>());
+    return all;
+}
+
+std::vector<std::unique_ptr<ArrayContender>> makeEditors()
+{
+    std::vector<std::unique_ptr<ArrayContender>> all;
+    all.push_back(std::make_unique<BareContender>(4));
+    all.push_back(std::make_unique<EditorContender<WfMFVec3fWidget, KnMFVec3f>>("MFVec3f"));
+    all.push_back(std::make_unique<EditorContender<WfMFColorWidget, KnMFColor>>("MFColor"));
+    all.push_back(std::make_unique<EditorContender<WfMFMatrixWidget, KnMFMatrix>>("MFMatrix"));
     return all;
 }

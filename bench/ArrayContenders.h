@@ -6,7 +6,7 @@
 
 class QTableView;
 
-/// One way to show an array of floats in a table, in a window of its own.
+/// One way to show an array in a table, in a window of its own.
 class ArrayContender {
 public:
     virtual ~ArrayContender() = default;
@@ -34,3 +34,7 @@ public:
 
 /// The editor of KnMFFloat, the bare table, the hand-made model and the filled table.
 std::vector<std::unique_ptr<ArrayContender>> makeContenders();
+
+/// The bare table with four columns, and the editors of values of several numbers: three columns,
+/// four with the swatch, and the overview of matrices.
+std::vector<std::unique_ptr<ArrayContender>> makeEditors();

@@ -107,17 +107,17 @@ using Contenders = std::vector<std::unique_ptr<ArrayContender>>;
 void printTimes(const Contenders& tables, int rows)
 {
     std::printf(
-        "\n%d rows: milliseconds, and in brackets how many times the editor's\n%-26s", rows, "");
+        "\n%d rows: milliseconds, and in brackets how many times the first\n%-26s", rows, "");
     for (const auto& table : tables)
         std::printf("%20s", table->name());
     std::printf("\n");
     for (const Measurement& measurement : Measurements) {
         std::printf("%-26s", measurement.name);
-        double editor = 0;
+        double first = 0;
         for (const auto& table : tables) {
             const double time = measurement.measure(*table, rows);
-            editor = editor == 0 ? time : editor;
-            std::printf("%11.3f (%6.2f)", time, time / editor);
+            first = first == 0 ? time : first;
+            std::printf("%11.3f (%6.2f)", time, time / first);
             std::fflush(stdout);
         }
         std::printf("\n");
@@ -130,10 +130,10 @@ double heapInUse()
     return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
-void printMemory(int rows)
+void printMemory(const Contenders& tables, int rows)
 {
     std::printf("\nbytes a row, beyond the values, at %d rows\n", rows);
-    for (const auto& table : makeContenders()) {
+    for (const auto& table : tables) {
         table->show();
         show(*table, 3);
         table->paint();
@@ -151,13 +151,15 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     std::printf("Qt %s\n", qVersion());
-    {
-        const Contenders tables = makeContenders();
-        for (const auto& table : tables)
-            table->show();
-        for (const int rows : RowCounts)
-            printTimes(tables, rows);
+    for (const auto make : { &makeContenders, &makeEditors }) {
+        {
+            const Contenders tables = make();
+            for (const auto& table : tables)
+                table->show();
+            for (const int rows : RowCounts)
+                printTimes(tables, rows);
+        }
+        printMemory(make(), RowCounts[2]);
     }
-    printMemory(RowCounts[2]);
     return 0;
 }

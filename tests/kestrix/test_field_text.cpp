@@ -60,7 +60,7 @@ const Row rows[] = {
     { "SFString", R"("a \"b\" \\ c\nd, [e]")", nullptr },
     { "SFString", "bare,[word]\\n", R"("bare,[word]\\n")" },
     { "SFString", "\"\xc3\xa4 \xf0\x9f\x98\x80 \xed\xa0\x80 \t\x01\"", nullptr },
-    { "SFFilePathString", "/tmp/a.png", R"("/tmp/a.png")" },
+    { "SFFilePathString", "/home/a.png", R"("/home/a.png")" },
     { "SFName", "\"left wing\"", nullptr },
     { "SFEnum", "B", nullptr },
     { "SFEnum", " AB ", "AB" },

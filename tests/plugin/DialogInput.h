@@ -19,7 +19,8 @@ bool inDialog(QWidget* button, Act act)
         timer.stop();
         act(dialog);
         closed = !dialog->isVisible();
-        dialog->reject();
+        if (!closed)
+            dialog->reject();
     });
     timer.start(0);
     QTest::mouseClick(button, Qt::LeftButton);

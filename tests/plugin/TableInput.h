@@ -7,11 +7,15 @@
 
 #include <QLineEdit>
 
-/// The table of the array editor shown, used as a person does.
+/// A table, by default that of the array editor shown, used as a person does.
 class TableInput {
 public:
     explicit TableInput(const EditorFixture& fixture)
-        : m_table(fixture.child<WfMFieldTable>("m_table"))
+        : TableInput(fixture.child<WfMFieldTable>("m_table"))
+    {
+    }
+    explicit TableInput(WfMFieldTable* table)
+        : m_table(table)
     {
     }
 

@@ -271,6 +271,41 @@ private Q_SLOTS:
         QVERIFY(!EditorFixture::text(field).contains(u'5'));
     }
 
+    void anEditorThatNeverHadTheFocusEndsToo()
+    {
+        KnMFInt32 first;
+        KnMFInt32 second;
+        for (KnMFInt32* field : { &first, &second })
+            field->set("[ 1, 2, 3 ]");
+        WfMFInt32Widget editor;
+        editor.load();
+        editor.getFrame()->setAttribute(Qt::WA_ShowWithoutActivating);
+        const TableInput cells(editor.getFrame()->findChild<WfMFieldTable*>());
+        editor.setEditedObject(&first);
+        editor.activate();
+        QVERIFY(QTest::qWaitForWindowExposed(editor.getFrame()));
+        const auto typeUnfocused = [&cells](int row, const char* text) {
+            cells->edit(cells->model()->index(row, 0));
+            QLineEdit* const line = TableInput::line(cells.openEditor());
+            QVERIFY(!line->hasFocus());
+            QTest::keyClicks(line, QLatin1String(text));
+        };
+        typeUnfocused(0, "7");
+        editor.deactivate();
+        QCOMPARE(first[0], 7);
+        // A field that comes without a word to the one before is not written for it.
+        editor.activate();
+        typeUnfocused(1, "8");
+        editor.setEditedObject(&second);
+        editor.activate();
+        QVERIFY(!cells.openEditor());
+        EditorFixture::settle();
+        QCOMPARE(EditorFixture::text(&first), QStringLiteral("[ 7, 2, 3 ]"));
+        QCOMPARE(EditorFixture::text(&second), QStringLiteral("[ 1, 2, 3 ]"));
+        editor.deactivate();
+        editor.unload();
+    }
+
     void everythingThatUnicodeHoldsSurvives()
     {
         KnMFString& field = m_fixture->node().MFString;

@@ -94,8 +94,8 @@ private Q_SLOTS:
         clickThroughWindow(matrices.button);
         matrices.goTo(2);
         QVERIFY(matrices.open());
-        QCOMPARE(
-            matrices.linesShown(), QStringLiteral("0.123457 0 0 1.23457e+06 0 1 0 0 0 0 1 0 0 0 0 1"));
+        QCOMPARE(matrices.linesShown(),
+            QStringLiteral("0.123457 0 0 1.23457e+06 0 1 0 0 0 0 1 0 0 0 0 1"));
         clickThroughWindow(matrices.button);
         matrices.goTo(3);
         QVERIFY(matrices.open());
@@ -143,7 +143,8 @@ private Q_SLOTS:
             QCOMPARE(line->text(), QLatin1String(typed[i]));
             QCOMPARE(matrices.text(),
                 array({ QLatin1String(Counted), QLatin1String(Long),
-                    QStringLiteral("1 0 0 0 0 1 0 0 0 0 1 0 %1 0 0 1").arg(QLatin1String(element[i])) }));
+                    QStringLiteral("1 0 0 0 0 1 0 0 0 0 1 0 %1 0 0 1")
+                        .arg(QLatin1String(element[i])) }));
             QCOMPARE(matrices.undoStack().count(), i + 1);
         }
         QTest::keyClick(line, Qt::Key_Comma);
@@ -161,8 +162,8 @@ private Q_SLOTS:
         QVERIFY(matrices.open());
         matrices.type(matrices.line(0, 0), "2.500");
         const int commands = matrices.undoStack().count();
-        EditorFixture::write(matrices.field("MFMatrix"),
-            "[ \"\", \"\", 2.5 0 0 0 0 1 0 0 0 0 1 0 8 9 10 11 ]");
+        EditorFixture::write(
+            matrices.field("MFMatrix"), "[ \"\", \"\", 2.5 0 0 0 0 1 0 0 0 0 1 0 8 9 10 11 ]");
         QCOMPARE(matrices.linesShown(), QStringLiteral("2.500 0 0 8 0 1 0 9 0 0 1 10 0 0 0 11"));
         QCOMPARE(matrices.undoStack().count(), commands);
     }

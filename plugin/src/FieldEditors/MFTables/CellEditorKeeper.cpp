@@ -215,11 +215,6 @@ bool CellEditorKeeper::filterKey(const QWidget* part, const QKeyEvent& event)
 
 void CellEditorKeeper::focusLeft(WfSlider* slider)
 {
-    if (slider->isHidden()) {
-        // The table gave it up, with its row: there is nothing left that it may write.
-        silence(slider);
-        return;
-    }
     if (!hasFocusInside(slider))
         commit();
     else if (slider->isModified())

@@ -1,0 +1,382 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "EditorRow.h"
+#include "KnComplexity.h"
+#include "KnDirectionalLight.h"
+#include "KnReadError.h"
+#include "SliderInput.h"
+#include "StringConversion.h"
+#include "WfIntSlider.h"
+#include "WfRealSlider.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QUndoStack>
+
+#include <limits>
+#include <tuple>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A ratio node with a field of doubles, which has no limits of its own in the table of ranges.
+class KnDoubleRatio : public KnComplexity {
+    KN_NODE(KnDoubleRatio)
+    KnSFDouble ratio;
+};
+
+KN_NODE_SOURCE(KnDoubleRatio, KnComplexity)
+
+KnDoubleRatio::KnDoubleRatio() { KN_FIELD(ratio); }
+
+/// A node for the length of a test.
+template <class Node>
+struct Held {
+    Held() { node->ref(); }
+    ~Held() { node->unref(); }
+    Node* node = new Node;
+};
+
+} // namespace
+
+/// The editors that are one slider or one line.
+class TestSingleValueEditors : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        failOnWarnings();
+        m_fixture = std::make_unique<EditorFixture>();
+    }
+    void cleanup() { m_fixture.reset(); }
+
+    void aDragAsCommands()
+    {
+        const std::tuple<const char*, const char*, bool, int, QString> rows[] = {
+            { "SFFloat", "2.5", true, 2, u"2.5"_s },
+            { "SFFloat", "0.1234567", false, 2, u"0.123457"_s }, // as shown when it was pressed
+            { "SFFloat", "5.03", false, 0, u"5.03"_s }, // a press alone falls on the grid
+            { "SFDouble", "1e-05", true, 2, u"1e-05"_s },
+            { "SFShort", "40", true, 2, u"40"_s },
+            { "SFUInt32", "0x28", true, 2, u"0x28"_s },
+            { "SFUInt32", "0x28", false, 2, u"0x28"_s },
+        };
+        for (const auto& [type, start, notify, moves, undone] : rows) {
+            open(type, start);
+            auto* const box = m_fixture->child<QCheckBox>("m_notifyCheckBox");
+            if (box->isChecked() != notify)
+                QTest::mouseClick(box, Qt::LeftButton);
+            SliderInput mouse(scale());
+            QStringList texts { undone };
+            mouse.press();
+            for (int i = 0; i < moves; ++i) {
+                mouse.moveBy(8);
+                EditorFixture::settle();
+                if (notify)
+                    texts << text();
+            }
+            mouse.release();
+            EditorFixture::settle();
+            texts << text();
+            QCOMPARE(QSet<QString>(texts.begin(), texts.end()).size(), notify ? 3 : 2);
+            QCOMPARE(undoAll(), texts.first(texts.size() - 1));
+            for (const QString& redone : texts.sliced(1)) {
+                m_fixture->redo();
+                QCOMPARE(text(), redone);
+            }
+        }
+    }
+
+    void valuesAtTheEndsOfTheirTypes()
+    {
+        const char* const rows[][3] = {
+            { "SFFloat", "-3.4028235e+38", "-340282346638528859811704183484516925440.000000" },
+            { "SFFloat", "inf", "inf" },
+            { "SFFloat", "nan", "nan" },
+            { "SFDouble", "1.7976931348623157e+308", "1.79769313486231e+308" },
+            { "SFDouble", "5e-324", "4.94065645841247e-324" },
+            { "SFDouble", "-inf", "-inf" },
+            { "SFInt32", "-2147483648", "-2147483648" },
+            { "SFInt32", "2147483647", "2147483647" },
+            { "SFShort", "-32768", "-32768" },
+            { "SFUInt32", "0xffffffff", "ffffffff" },
+        };
+        for (const auto& [type, held, shownText] : rows) {
+            open(type, held);
+            QCOMPARE(line()->text(), QLatin1String(shownText));
+            QCOMPARE(text(), QLatin1String(held));
+            QCOMPARE(m_fixture->undoStack().count(), 0);
+            // To both ends of the scale, by keys, and the way back.
+            QTest::keyClick(scale(), Qt::Key_Home);
+            QTest::keyClick(scale(), Qt::Key_End);
+            QCOMPARE(undoAll().value(0), QLatin1String(held));
+        }
+    }
+
+    void allUnsignedNumbersCanBeReached()
+    {
+        open("SFUInt32", "0xff");
+        slider()->setValue(u"1234"_s); // the first text has decided the base
+        QCOMPARE(line()->text(), u"34"_s);
+        type("ffffffff");
+        QCOMPARE(scale()->value(), std::numeric_limits<int>::max());
+        QTest::keyClick(scale(), Qt::Key_Left);
+        QCOMPARE(text(), u"0xfffffffe"_s);
+        QTest::keyClick(scale(), Qt::Key_Home);
+        QCOMPARE(text(), u"0x0"_s);
+        QCOMPARE(scale()->value(), std::numeric_limits<int>::min());
+        QCOMPARE(undoAll().value(0), u"0xff"_s);
+    }
+
+    void textsThatDoNotParse()
+    {
+        const char* const rows[][3] = { { "SFUShort", "many", "42" },
+            { "SFUShort", "70000", "65535" }, { "SFShort", "70000", "42" } };
+        for (const auto& [fieldType, typed, value] : rows) {
+            open(fieldType, "42");
+            type(typed);
+            QCOMPARE(text(), QLatin1String(value));
+            // What undo brings back is the value, not the text that was refused.
+            SliderInput mouse(scale());
+            mouse.press();
+            QCOMPARE(toQString(slider()->m_oldValue), QLatin1String(value));
+            mouse.release();
+        }
+    }
+
+    void stepsWithTheCheckBoxClearWriteNothing()
+    {
+        open("SFInt32", "50");
+        QCOMPARE(scale()->maximum(), 100);
+        for (int round = 0; round < 2; ++round) {
+            const int before = scale()->value();
+            SliderInput(scale()).turnWheel();
+            QTest::keyClick(scale(), Qt::Key_Right);
+            QVERIFY(scale()->value() > before + 1);
+            QCOMPARE(line()->text(), QString::number(scale()->value()));
+            QCOMPARE(m_fixture->undoStack().count(), 2);
+            QTest::mouseClick(m_fixture->child<QCheckBox>("m_notifyCheckBox"), Qt::LeftButton);
+        }
+    }
+
+    void aRangeOpensForWhatTheFieldHolds()
+    {
+        Held<KnDirectionalLight> light;
+        light.node->intensity.setValue(1.5F);
+        m_fixture->select(&light.node->intensity);
+        auto* const real = static_cast<WfRealSlider*>(slider());
+        const auto range = [real] {
+            return u"%1 to %2, %3"_s.arg(real->getMinimum())
+                .arg(real->getMaximum())
+                .arg(QLatin1String(real->isBounded() ? "bounded" : "free"));
+        };
+        QCOMPARE(range(), u"0 to 1.5, bounded"_s);
+        EditorFixture::write(&light.node->intensity, "-0.5");
+        QCOMPARE(range(), u"-0.5 to 1.5, bounded"_s);
+        QCOMPARE(real->getValue(), -0.5);
+
+        // Another node's field has its own range, and all numbers can be typed again.
+        open("SFFloat", "-3");
+        QCOMPARE(range(), u"-3 to 10, free"_s);
+        type("25");
+        QCOMPARE(range(), u"-3 to 25, free"_s);
+        QCOMPARE(scale()->value(), 100);
+        type("-1234.5");
+        QCOMPARE(text(), u"-1234.5"_s);
+        QCOMPARE(light.node->intensity.getValue(), -0.5F);
+
+        real->setRange(-5, 0, false);
+        real->setValue(-1);
+        QCOMPARE(scale()->value(), 80);
+
+        KnSFFloat ofNoNode;
+        m_fixture->select(&ofNoNode);
+        QCOMPARE(range(), u"0 to 10, free"_s);
+
+        open("SFInt32", "250");
+        m_fixture->select(m_fixture->otherField("SFInt32"));
+        QCOMPARE(scale()->maximum(), 250); // one range for all fields
+        QCOMPARE(m_fixture->otherNode().SFInt32.getValue(), 0);
+    }
+
+    void aDoubleOfARatioNodeIsUsable()
+    {
+        Held<KnDoubleRatio> ratio;
+        open("SFDouble", "5");
+        QCOMPARE(static_cast<WfRealSlider*>(slider())->getMaximum(), 10.0);
+        // The scale stands in its middle: the empty range pushes it, which is nobody's edit.
+        m_fixture->select(&ratio.node->ratio);
+        QTest::keyClick(scale(), Qt::Key_Right);
+        SliderInput(scale()).press();
+        QCOMPARE(line()->text(), u"0"_s);
+        m_fixture->select(m_field);
+        QCOMPARE(text(), u"5"_s);
+        QCOMPARE(m_fixture->undoStack().count(), 0);
+
+        ratio.node->ratio.setValue(2.5);
+        m_fixture->select(&ratio.node->ratio);
+        QCOMPARE(line()->text(), u"2.5"_s);
+        type("1.25");
+        QCOMPARE(ratio.node->ratio.getValue(), 1.25);
+        type("3");
+        QCOMPARE(ratio.node->ratio.getValue(), 1.25);
+    }
+
+    void aDragThatWasCutShortLeavesNothingBehind()
+    {
+        open("SFInt32", "40");
+        SliderInput(scale()).press();
+        m_fixture->select(m_field = m_fixture->otherField("SFInt32"));
+        type("7");
+        QCOMPARE(undoAll().value(0), u"0"_s);
+    }
+
+    void aTypedTextIsKeptWhenTheSelectionMoves()
+    {
+        open("SFInt32", "0");
+        QTest::mouseDClick(line(), Qt::LeftButton);
+        QTest::keyClicks(line(), u"77"_s);
+        m_fixture->select(m_fixture->otherField("SFInt32"));
+        QCOMPARE(text(), u"77"_s);
+        QCOMPARE(m_fixture->otherNode().SFInt32.getValue(), 0);
+    }
+
+    void aSliderThatHasNoOwner()
+    {
+        WfIntSlider octal(WfIntSlider::Int32, 0, nullptr, nullptr, 0, 0);
+        octal.setRange(50, 60, true); // pushes the scale, before there is a value to tell of
+        QCOMPARE(octal.getValue(), 50);
+        octal.setRange(40, 60, true);
+        QCOMPARE(octal.getMinimum(), 50); // a bounded range only narrows
+        octal.setValue(u"07"_s);
+        octal.setValue(u"070"_s);
+        QCOMPARE(octal.getValue(), 56);
+        octal.setValue(u"many"_s);
+        QCOMPARE(octal.getValue(), 50);
+    }
+
+    void aKeystrokeIsTwoCommands()
+    {
+        open("SFTime", "12");
+        QTest::keyClick(line(), Qt::Key_3);
+        QCOMPARE(state(), u"field 312, line 312, 2 commands"_s);
+        // Neither Return nor leaving the line adds anything.
+        QTest::keyClick(line(), Qt::Key_Return);
+        line()->clearFocus();
+        QCOMPARE(state(), u"field 312, line 312, 2 commands"_s);
+        m_fixture->undo();
+        QCOMPARE(state(), u"field 312, line 312, 2 commands"_s);
+        m_fixture->undo();
+        QCOMPARE(state(), u"field 12, line 12, 2 commands"_s);
+    }
+
+    void theCursorStaysThroughARefresh()
+    {
+        open("SFTime", "1234");
+        line()->setFocus();
+        line()->setCursorPosition(2);
+        QTest::keyClick(line(), Qt::Key_0);
+        EditorFixture::settle();
+        QCOMPARE(line()->cursorPosition(), 3);
+        EditorFixture::write(m_field, "7");
+        QCOMPARE(line()->cursorPosition(), 1);
+        EditorFixture::write(m_field, "98765");
+        QCOMPARE(line()->cursorPosition(), 3);
+        QCOMPARE(m_fixture->undoStack().count(), 2);
+    }
+
+    void aRefusedTextStaysUntilTheNextRefresh()
+    {
+        open("SFTime", "12");
+        int refusals = 0;
+        const KnErrorCallback handler = KnReadError::getHandlerCallback();
+        void* const handlerData = KnReadError::getHandlerData();
+        KnReadError::setHandlerCallback(
+            [](const KnError*, void* count) { ++*static_cast<int*>(count); }, &refusals);
+        QTest::keyClick(line(), Qt::Key_X);
+        KnReadError::setHandlerCallback(handler, handlerData);
+        EditorFixture::settle();
+        QCOMPARE(refusals, 2);
+        QCOMPARE(state(), u"field 12, line x12, 2 commands"_s);
+        m_fixture->undo();
+        QCOMPARE(state(), u"field 12, line 12, 2 commands"_s);
+    }
+
+    void everyTextSurvives()
+    {
+        const QString texts[] = {
+            u"  \"quotes\" 'and' \\ \\n blanks  "_s,
+            u"beyond the first plane \U0001F600\U00010400"_s,
+            u"combining e\u0301 and right to left \u05D0\u05D1 \u0627\u0644"_s,
+            u"line ends\nand\ttabs\r\u2028d"_s,
+            u"\0a zero"_s,
+            QString(QChar(0xD83D)) + u"half a pair"_s + QChar(0xDE00),
+            QString(100000, u'\u00FC'), // longer than a line's default
+            QString(),
+        };
+        for (int i = 0; i < 16; ++i) {
+            const QString& text = texts[i / 2];
+            open(i % 2 == 0 ? "SFString" : "SFName", "\"before\"");
+            const auto value = [this, i] {
+                return toQString(i % 2 == 0 ? m_fixture->node().SFString.getValue()
+                                            : m_fixture->node().SFName.getValue().getString());
+            };
+            // As pasted: no key says most of these.
+            line()->setFocus();
+            line()->selectAll();
+            line()->insert(text);
+            QTest::keyClick(line(), Qt::Key_Return);
+            EditorFixture::settle();
+            QCOMPARE(value(), text);
+            QCOMPARE(line()->text(), text);
+            QCOMPARE(m_fixture->undoStack().count(), 1);
+            m_fixture->undo();
+            QCOMPARE(line()->text(), u"before"_s);
+            m_fixture->redo();
+            QCOMPARE(value(), text);
+            // Leaving the line as it stands writes the same value.
+            line()->clearFocus();
+            EditorFixture::settle();
+            QCOMPARE(value(), text);
+            QCOMPARE(m_fixture->undoStack().count(), 2);
+        }
+    }
+
+private:
+    /// Selects the field of that type, which holds `text` by then, with nothing to undo.
+    void open(const char* type, const char* text)
+    {
+        m_fixture->select(nullptr);
+        m_fixture->undoStack().clear();
+        m_field = m_fixture->field(type);
+        m_field->set(text);
+        m_fixture->select(m_field);
+    }
+    QString text() const { return EditorFixture::text(m_field); }
+    /// What the field holds after each step that is undone, in the order of the edits.
+    QStringList undoAll()
+    {
+        QStringList texts;
+        while (m_fixture->undoStack().canUndo()) {
+            m_fixture->undo();
+            texts.prepend(text());
+        }
+        return texts;
+    }
+    void type(const char* text) { typeInto(line(), QString::fromLatin1(text)); }
+    QLineEdit* line() const { return m_fixture->editor()->getFrame()->findChild<QLineEdit*>(); }
+    /// After what has been typed into the one line of text of a field of time.
+    QString state() const
+    {
+        return u"field %1, line %2, %3 commands"_s.arg(text(), line()->text())
+            .arg(m_fixture->undoStack().count());
+    }
+    QSlider* scale() const { return m_fixture->child<QSlider>("m_slider"); }
+    WfSlider* slider() const { return m_fixture->child<WfSlider>("WfSliderFrame"); }
+
+    std::unique_ptr<EditorFixture> m_fixture;
+    KnField* m_field = nullptr; // the one opened
+};
+
+QTEST_MAIN(TestSingleValueEditors)
+#include "test_single_value_editors.moc"
