@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ArrayContenders.h"
 
+#include "CrvServices.h"
 #include "KnMFields.h"
 #include "KnSensorQueue.h"
 #include "WfMFColorWidget.h"
@@ -10,8 +11,10 @@
 
 #include <QApplication>
 #include <QFrame>
+#include <QMainWindow>
 #include <QSpinBox>
 #include <QTableWidget>
+#include <QUndoStack>
 
 namespace {
 
@@ -25,19 +28,24 @@ public:
         : m_name(name)
     {
         m_editor.load();
-        m_table = m_editor.getFrame()->findChild<WfMFieldTable*>();
-        m_accessBox = m_editor.getFrame()->findChild<QSpinBox*>(QStringLiteral("m_accessBox"));
+        const QFrame* const frame = m_editor.getFrame();
+        m_table = frame->findChild<WfMFieldTable*>();
+        m_accessBox = frame->findChild<QSpinBox*>(QStringLiteral("m_accessBox"));
     }
     ~EditorContender() override
     {
+        undoStack().clear();
         m_editor.deactivate();
         m_editor.unload();
+        // It belongs to the editor, as after a stay in a dock.
+        m_window.takeCentralWidget();
     }
 
     const char* name() const override { return m_name; }
     QTableView* view() const override { return m_table; }
     void prepare(int rows) override
     {
+        undoStack().clear();
         m_next = m_next == &m_fields[0] ? &m_fields[1] : &m_fields[0];
         m_next->setNum(rows);
     }
@@ -59,6 +67,11 @@ public:
         m_editor.setFieldValue(row, 0, QStringLiteral("0.25"));
         KnSensorQueue::getInstance().process();
     }
+    void undo() override
+    {
+        undoStack().undo();
+        KnSensorQueue::getInstance().process();
+    }
     void add() override
     {
         m_table->addRow();
@@ -71,10 +84,13 @@ public:
     }
 
 private:
+    static QUndoStack& undoStack() { return *CrvServices::getInstance()->getUndoStack(); }
+
     const char* m_name;
     Field m_fields[2];
     Field* m_next = nullptr; // one of them: shown since the last select
     Editor m_editor;
+    QMainWindow m_window;
     WfMFieldTable* m_table; // of the editor
     QSpinBox* m_accessBox; // of the editor
 };
@@ -223,8 +239,8 @@ void ArrayContender::show() const
 std::vector<std::unique_ptr<ArrayContender>> makeContenders()
 {
     std::vector<std::unique_ptr<ArrayContender>> all;
-    all.push_back(std::make_unique<EditorContender<WfMFFloatWidget, KnMFFloat>>("editor"));
     all.push_back(std::make_unique<BareContender>());
+    all.push_back(std::make_unique<EditorContender<WfMFFloatWidget, KnMFFloat>>("MFFloat"));
     all.push_back(std::make_unique<ModelContender>());
     all.push_back(std::make_unique<FilledContender>());
     return all;

@@ -22,6 +22,8 @@ public:
     virtual void refresh() = 0;
     virtual void jump(int row);
     virtual void edit(int row) = 0;
+    /// Takes the last edit back, where that isn't an edit as any other.
+    virtual void undo() { }
     /// Behind the current row.
     virtual void add() = 0;
     /// The current row.
@@ -32,7 +34,7 @@ public:
     void show() const;
 };
 
-/// The editor of KnMFFloat, the bare table, the hand-made model and the filled table.
+/// The bare table, the editor of KnMFFloat, the hand-made model and the filled table.
 std::vector<std::unique_ptr<ArrayContender>> makeContenders();
 
 /// The bare table with four columns, and the editors of values of several numbers: three columns,

@@ -80,6 +80,16 @@ constexpr Measurement Measurements[] = {
             return median(
                 table, [] {}, [&] { table.edit(rows / 2); });
         } },
+    { "edit one cell and undo",
+        [](ArrayContender& table, int rows) {
+            const auto editAndUndo = [&] {
+                table.edit(rows / 2);
+                table.paint();
+                table.undo();
+            };
+            return median(
+                table, [] {}, editAndUndo);
+        } },
     { "add in front",
         [](ArrayContender& table, int) {
             return median(
@@ -106,8 +116,8 @@ using Contenders = std::vector<std::unique_ptr<ArrayContender>>;
 
 void printTimes(const Contenders& tables, int rows)
 {
-    std::printf(
-        "\n%d rows: milliseconds, and in brackets how many times the first\n%-26s", rows, "");
+    std::printf("\n%d rows: milliseconds, and in brackets how many times the bare table's\n%-26s",
+        rows, "");
     for (const auto& table : tables)
         std::printf("%20s", table->name());
     std::printf("\n");

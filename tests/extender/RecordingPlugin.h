@@ -12,7 +12,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <utility>
 
 /// Notes a call. The list is kept by the application object, so that modules write to it too; the
 /// text is copied, since a module and its literals go away.
@@ -45,48 +44,33 @@ class Recording : public Base {
 public:
     explicit Recording(const char* name) { this->m_name = KbString(name); }
 
-    std::function<void()> inActivate;
+    std::function<void()> inActivate = [] {};
 
-    void load() override { noteCall("load"); }
-    void unload() override { noteCall("unload"); }
+    void load() override { note(this->m_name.toUtf8() + " load"); }
+    void unload() override { note(this->m_name.toUtf8() + " unload"); }
     void activate() override
     {
-        Base::activate();
-        noteCall("on");
-        if (inActivate)
-            inActivate();
+        note(this->m_name.toUtf8() + " on");
+        inActivate();
     }
-    void deactivate() override
-    {
-        Base::deactivate();
-        noteCall("off");
-    }
-
-private:
-    void noteCall(const char* call) { note(this->m_name.toUtf8() + ' ' + call); }
+    void deactivate() override { note(this->m_name.toUtf8() + " off"); }
 };
 
-using RecordingExtension = Recording<CrvExtension>;
-using RecordingEditor = Recording<CrvEditor>;
-
-/// Owns its extensions and registers them in the order in which they were added.
+/// Owns its extensions, which are registered in the order in which they were added.
 class RecordingPlugin : public CrvPlugin {
 public:
     ~RecordingPlugin() override { note("destroyed"); }
 
-    template <class Extension>
-    Extension* add(const char* name)
+    /// The last one added.
+    template <class Base = CrvExtension>
+    Recording<Base>* add(std::initializer_list<const char*> names)
     {
-        auto* const added = new Extension(name);
-        m_owned.emplace_back(added);
+        Recording<Base>* added = nullptr;
+        for (const char* const name : names) {
+            m_owned.emplace_back(added = new Recording<Base>(name));
+            addExtension(added);
+        }
         return added;
-    }
-
-    void load() override
-    {
-        for (const auto& extension : m_owned)
-            addExtension(extension.get());
-        CrvPlugin::load();
     }
 
     void unload() override

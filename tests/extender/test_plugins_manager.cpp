@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvPluginsManager.h"
+#include "CrvProfile.h"
 #include "CrvServices.h"
 #include "KnMaterial.h"
 #include "RecordingPlugin.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
-#include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QUndoStack>
 
@@ -17,135 +17,258 @@ namespace {
 
 QString modulePath(const char* name)
 {
-    return QLatin1String(CORVANE_TEST_MODULES "/") + QLatin1String(name)
-        + QLatin1String(CORVANE_MODULE_SUFFIX);
+    return QLatin1String(CORVANE_TEST_MODULES "/%1" CORVANE_MODULE_SUFFIX).arg(QLatin1String(name));
 }
+
+/// The places of the built-in profiles.
+enum { Everything, Fields, Console };
+
+QString toQString(const KbString& text) { return QString::fromStdString(text.toUtf8()); }
 
 } // namespace
 
+/// Plug-ins and profiles, from their files to the calls that extensions get.
 class PluginsManagerTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase()
+    {
+        connect(CrvServices::getInstance(), &CrvServices::selectedFieldChanged, this,
+            [](const KnField* field) { note(field ? "field" : "no field"); });
+        connect(m_manager, &CrvPluginsManager::activeProfileChanged, this, [] { note("changed"); });
+        connect(m_manager, &CrvPluginsManager::profilesChanged, this, [] { note("replaced"); });
+    }
+
     void init()
     {
         QTest::failOnWarning(QRegularExpression(u".?"_s));
+        m_plugin = std::make_unique<RecordingPlugin>();
+        m_plugin->add({ "Profile Selector" });
+        m_console = m_plugin->add({ "Console" });
+        m_plugin->add<CrvEditor>({ "MField", "SFBool" });
+        m_plugin->add({ "Field Editor", "Node Editor", "Foreign" });
+        m_plugin->add<CrvEditor>({ "SFBool" }); // as a second plug-in may bring it
         takeCalls();
     }
 
-    void cleanup() { m_manager->unloadAll(); }
-    void refusals_data()
+    void cleanup()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("missing") << u"nowhere/plugin.so"_s << u"there is no such file"_s;
-        QTest::newRow("empty name") << QString() << u"there is no such file"_s;
-        QTest::newRow("directory") << QDir::tempPath() << u"this is not a file"_s;
-        QTest::newRow("text") << u"text.so"_s << u"not a library that can be loaded: .+text\\.so"_s;
-        QTest::newRow("no functions")
-            << modulePath("bare_module") << u"it lacks loadPlugin, unloadPlugin$"_s;
-        QTest::newRow("one function") << modulePath("half_module") << u"it lacks unloadPlugin$"_s;
-        QTest::newRow("null") << modulePath("null_module") << u"loadPlugin gave no plug-in$"_s;
+        m_manager->unloadAll();
+        m_manager->useBuiltInProfiles();
+        m_manager->setActiveProfile(profile(Everything));
     }
 
-    void refusals()
+    void refusesFiles()
     {
-        QFETCH(QString, file);
-        QFETCH(QString, reason);
-        QTemporaryDir directory;
-        if (file.startsWith(u"text")) {
-            file = directory.filePath(file);
-            QFile text(file);
-            QVERIFY(text.open(QIODevice::WriteOnly));
-            text.write("This is a text and no library.\n");
+        QTemporaryFile text;
+        QVERIFY(text.open() && text.write("no library\n") > 0 && text.flush());
+        const QString lacks = u"this library is no plug-in, it lacks "_s;
+        const std::pair<QString, QString> rows[] = {
+            { u"nowhere/plugin.so"_s, u"there is no such file"_s },
+            { QString(), u"there is no such file"_s },
+            { QDir::tempPath(), u"this is not a file"_s },
+            { text.fileName(), u"this is not a library that can be loaded: Cannot load"_s },
+            { modulePath("bare_module"), lacks + u"loadPlugin, unloadPlugin"_s },
+            { modulePath("half_module"), lacks + u"unloadPlugin"_s },
+            { modulePath("null_module"), u"loadPlugin gave no plug-in"_s },
+        };
+        for (const auto& [file, reason] : rows) {
+            QString error;
+            QCOMPARE(m_manager->loadPlugin(file, &error), nullptr);
+            QVERIFY2(error.startsWith(file + u": "_s + reason), qPrintable(error));
+            QCOMPARE(m_manager->loadPlugin(file), nullptr);
         }
-        QString error;
-        QCOMPARE(m_manager->loadPlugin(file, &error), nullptr);
-        QVERIFY2(error.startsWith(file + u": "_s), qPrintable(error));
-        QVERIFY2(error.contains(QRegularExpression(reason)), qPrintable(error));
-        QCOMPARE(m_manager->loadPlugin(file), nullptr);
         QVERIFY(m_manager->getExtensions().empty());
     }
 
     void moduleLivesAndDiesInOrder()
     {
+        const QString sameFile = modulePath("../test_extender/recording_module");
         for (int round = 0; round < 20; ++round) {
             QString error;
-            const CrvPlugin* plugin = m_manager->loadPlugin(modulePath("recording_module"), &error);
-            QVERIFY2(plugin, qPrintable(error));
-            QCOMPARE(
-                takeCalls(), u"Console load, Field Editor load, Console on, Field Editor on"_s);
-            QCOMPARE(m_manager->getExtensions(), plugin->getExtensions());
+            QVERIFY(m_manager->loadPlugin(modulePath("recording_module")));
+            QCOMPARE(m_manager->loadPlugin(sameFile, &error), nullptr);
+            QCOMPARE(error, sameFile + u": this plug-in is already loaded"_s);
             m_manager->unloadAll();
             QCOMPARE(takeCalls(),
-                u"Field Editor off, Console off, Field Editor unload, Console unload, unload, destroyed"_s);
+                u"Console load, Field Editor load, Console on, Field Editor on, no field, "
+                "Field Editor off, Console off, Field Editor unload, Console unload, unload, "
+                "destroyed"_s);
             QVERIFY(m_manager->getExtensions().empty());
         }
     }
 
-    void refusesSecondLoad()
-    {
-        QVERIFY(m_manager->loadPlugin(modulePath("recording_module")));
-        takeCalls();
-        QString error;
-        const QString sameFile = modulePath("../test_extender/recording_module");
-        QCOMPARE(m_manager->loadPlugin(sameFile, &error), nullptr);
-        QCOMPARE(error, sameFile + u": this plug-in is already loaded"_s);
-        QCOMPARE(takeCalls(), QString());
-    }
-
     void unloadsInReverse()
     {
-        RecordingPlugin first;
         RecordingPlugin second;
-        first.add<RecordingExtension>("A");
-        first.add<RecordingEditor>(
-            "Console"); // listed at the top, but an editor is its dock's affair
-        second.add<RecordingExtension>("Profile Selector");
-        second.add<RecordingExtension>("B");
+        second.add({ "Profile Selector", "B" });
+        RecordingPlugin first;
+        first.add({ "A" });
+        first.add<CrvEditor>({ "Console" }); // listed at the top, but that is its dock's affair
         m_manager->adoptPlugin(&first);
         m_manager->adoptPlugin(&second);
-        QCOMPARE(takeCalls(),
-            u"A load, Console load, A on, "
-            "Profile Selector load, B load, Profile Selector on, B on"_s);
+        auto* const node = new KnMaterial;
+        // Which holds the node, and nobody else does.
+        CrvServices::getInstance()->selectField(&node->transparency);
+        CrvServices::getInstance()->executeCommand(new NotingCommand);
         m_manager->unloadAll();
         QCOMPARE(takeCalls(),
-            u"B off, Profile Selector off, A off, "
-            "B unload, Profile Selector unload, unload, Console unload, A unload, unload"_s);
-    }
-
-    void unloadingGivesUpSelectionAndCommands()
-    {
-        CrvServices* const services = CrvServices::getInstance();
-        auto* node = new KnMaterial;
-        services->selectField(&node->transparency); // which holds the node, and nobody else does
-        RecordingPlugin plugin;
-        plugin.add<RecordingExtension>("Console");
-        QObject context;
-        connect(services, &CrvServices::selectedFieldChanged, &context,
-            [](KnField* field) { note(field ? "field" : "no field"); });
-        m_manager->adoptPlugin(&plugin);
-        services->executeCommand(new NotingCommand);
-        m_manager->unloadAll();
-        QCOMPARE(takeCalls(),
-            u"Console load, Console on, field, execute, no field, destroy, Console off, "
-            "Console unload, unload"_s);
-        QCOMPARE(services->getSelectedNode(), nullptr);
+            u"A load, Console load, A on, no field, "
+            "Profile Selector load, B load, Profile Selector on, B on, no field, field, execute, "
+            "no field, destroy, B off, Profile Selector off, A off, B unload, "
+            "Profile Selector unload, unload, Console unload, A unload, unload"_s);
+        QCOMPARE(CrvServices::getInstance()->getSelectedNode(), nullptr);
     }
 
     void refusesUnloadFromWithin()
     {
-        RecordingPlugin plugin;
-        auto* extension = plugin.add<RecordingExtension>("Console");
-        extension->inActivate = [this] { m_manager->unloadAll(); };
+        m_console->inActivate = [this] { m_manager->unloadAll(); };
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"can't unload the plug-ins"_s));
-        m_manager->adoptPlugin(&plugin);
-        QVERIFY(extension->isActive());
+        m_manager->adoptPlugin(m_plugin.get());
+        QVERIFY(!takeCalls().contains(u"off"));
         m_manager->unloadAll();
-        QVERIFY(!extension->isActive());
+        QVERIFY(takeCalls().contains(u"Console off"));
+    }
+
+    void refusesProfiles()
+    {
+        const std::pair<const char*, QString> rows[] = {
+            { "", u"line 1, column 1: "_s },
+            { "{\"profiles\":\n  [oops]}", u"line 2, column 4: "_s },
+            { "[]", u"$: an object is expected"_s },
+            { "{}", u"$.profiles: an array is expected"_s },
+            { R"({"profile":[]})", u"$.profile: unknown member"_s },
+            { R"({"profiles":[]})", u"$.profiles: at least one"_s },
+            { R"({"profiles":[{"extensions":[]}]})", u"$.profiles[0].name: a name"_s },
+            { R"({"profiles":[{"name":"a","extensions":[]},{"name":"a","extensions":[]}]})",
+                u"$.profiles[1].name: there are two profiles of the name \"a\""_s },
+            { R"({"profiles":[{"name":"a","extensions":["b",1]}]})",
+                u"$.profiles[0].extensions[1]: a name"_s },
+            { R"({"profiles":[{"name":"a","extensions":[{"name":"b","x":[]}]}]})",
+                u"$.profiles[0].extensions[0].x: unknown member"_s },
+            { R"({"profiles":[{"name":"a","extensions":[{"name":"b","controls":["c",
+                {"name":"d","controls":"*"}]}]}]})",
+                u"$.profiles[0].extensions[0].controls[1].controls: an array"_s },
+        };
+        const std::list<CrvProfile*> before = m_manager->getProfilesList();
+        for (const auto& [json, start] : rows)
+            QCOMPARE(load(json).left(start.size()), start);
+        QString error;
+        QVERIFY(!m_manager->loadProfiles(u"nowhere/profiles.json"_s, &error));
+        QVERIFY2(error.startsWith(u"nowhere/profiles.json: "), qPrintable(error));
+        QCOMPARE(m_manager->getProfilesList(), before);
+    }
+
+    void controlledExtensions()
+    {
+        m_manager->adoptPlugin(m_plugin.get());
+        QCOMPARE(controlledBy(u"Field Editor"_s), u"MField SFBool SFBool"_s);
+        QCOMPARE(load(R"({"profiles":[{"name":"a","extensions":["Node Editor",
+            {"name":"Console","controls":["Nobody","MField"]},
+            {"name":"Console","controls":[{"name":"SFBool","controls":["MField"]}]}]}]})"),
+            QString());
+        QCOMPARE(controlledBy(u"Console"_s), u"MField SFBool SFBool"_s);
+        QCOMPARE(controlledBy(u"SFBool"_s), u"MField MField"_s);
+        QCOMPARE(controlledBy(u"Node Editor"_s), QString());
+        QCOMPARE(controlledBy(u"Foreign"_s), QString());
+        QVERIFY(m_manager->loadProfiles(QLatin1String(CORVANE_SAMPLE_PROFILES)));
+    }
+
+    void switchingTouchesOnlyDifference()
+    {
+        m_manager->adoptPlugin(m_plugin.get());
+        QCOMPARE(switchTo(profile(Fields)), u"Foreign off, Console off, no field, changed"_s);
+        QCOMPARE(switchTo(profile(Fields)), QString());
+        QCOMPARE(switchTo(profile(Console)),
+            u"Node Editor off, Field Editor off, Console on, no field, changed"_s);
+        QCOMPARE(switchTo(profile(Everything)),
+            u"Field Editor on, Node Editor on, Foreign on, no field, changed"_s);
+        CrvProfile foreign("foreign", {});
+        m_manager->setActiveProfile(&foreign);
+        QCOMPARE(activeName(), u"Everything"_s);
+        QCOMPARE(switchTo(nullptr),
+            u"Foreign off, Node Editor off, Field Editor off, Console off, Profile Selector off, "
+            "changed"_s);
+    }
+
+    void switchingFromWithinActivate()
+    {
+        switchTo(profile(Fields));
+        m_manager->adoptPlugin(m_plugin.get());
+        m_console->inActivate = [this] { m_manager->setActiveProfile(profile(Fields)); };
+        // The console's wish ends the round: what came behind it is never activated.
+        QCOMPARE(switchTo(profile(Everything)), u"Console on, Console off, no field, changed"_s);
+        QCOMPARE(activeName(), u"Fields"_s);
+
+        // The same with the whole list replaced under the manager's feet.
+        m_console->inActivate
+            = [this] { load(R"({"profiles":[{"name":"a","extensions":["Foreign"]}]})"); };
+        QCOMPARE(switchTo(profile(Everything)),
+            u"Console on, replaced, Console off, Node Editor off, Field Editor off, "
+            "Profile Selector off, Foreign on, no field, changed"_s);
+    }
+
+    void replacingActivatesAnew()
+    {
+        m_manager->adoptPlugin(m_plugin.get());
+        switchTo(profile(Console));
+        // The selector shows the list of the moment in which it was activated.
+        QCOMPARE(load(R"({"profiles":[{"name":"Other","extensions":[]},
+            {"name":"Console","extensions":["Profile Selector"]}]})"),
+            QString());
+        QCOMPARE(takeCalls(),
+            u"replaced, Console off, Profile Selector off, Profile Selector on, no field, "
+            "changed"_s);
+        QCOMPARE(activeName(), u"Console"_s);
+        QCOMPARE(load(R"({"profiles":[{"name":"Caf\u00e9","extensions":[]}]})"), QString());
+        QCOMPARE(activeName(), u"Café"_s);
     }
 
 private:
+    /// What is wrong with the profiles; empty when they were taken.
+    QString load(const QByteArray& json)
+    {
+        QTemporaryFile file;
+        if (!file.open() || file.write(json) != json.size() || !file.flush())
+            return file.errorString();
+        QString error;
+        m_manager->loadProfiles(file.fileName(), &error);
+        return error.remove(file.fileName() + u": "_s);
+    }
+
+    CrvProfile* profile(int index) const
+    {
+        return *std::next(m_manager->getProfilesList().begin(), index);
+    }
+
+    /// Makes the profile active and returns the calls that come of it.
+    QString switchTo(CrvProfile* wanted)
+    {
+        takeCalls();
+        m_manager->setActiveProfile(wanted);
+        return takeCalls();
+    }
+
+    QString activeName() const { return toQString(m_manager->getActiveProfile()->getName()); }
+
+    /// The editors that the profile puts below the extensions of that name.
+    QString controlledBy(const QString& name) const
+    {
+        QStringList names;
+        for (const CrvExtension* extension : m_manager->getExtensions()) {
+            if (toQString(extension->getName()) != name)
+                continue;
+            for (const auto& [below, setting] :
+                extension->getProfileSetting()->getControlledExtensions())
+                names += toQString(below->getName());
+        }
+        names.sort(); // the map goes by address
+        return names.join(u' ');
+    }
+
     CrvPluginsManager* const m_manager = CrvPluginsManager::getInstance();
+    std::unique_ptr<RecordingPlugin> m_plugin; // anew for each test
+    Recording<CrvExtension>* m_console = nullptr;
 };
 
 QTEST_MAIN(PluginsManagerTest)

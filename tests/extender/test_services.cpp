@@ -6,7 +6,6 @@
 #include "KnSensorQueue.h"
 #include "RecordingPlugin.h"
 
-#include <QApplication>
 #include <QRegularExpression>
 #include <QTest>
 #include <QUndoStack>
@@ -20,16 +19,16 @@ namespace {
 /// A node that the test holds.
 struct Node {
     explicit Node(const char* name)
-        : material(new KnMaterial)
     {
         material->ref();
         material->setName(KbName(name));
     }
     ~Node() { material->unref(); }
-    Node(const Node&) = delete;
-    Node& operator=(const Node&) = delete;
+    Q_DISABLE_COPY_MOVE(Node)
 
-    KnMaterial* const material;
+    KnMaterial* const material = new KnMaterial;
+    KnSFFloat& number = material->transparency;
+    KnSFColor& color = material->ambientColor;
 };
 
 /// Counts the runs of a sensor on a field, and can write the field from within.
@@ -54,110 +53,77 @@ struct Watch {
     int writes = 0;
 };
 
-/// Counts the events that the application sees of a kind of its own making.
-class EventCounter : public QObject {
-public:
-    int events = 0;
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        events += event->type() >= QEvent::User ? 1 : 0;
-        return false;
-    }
-};
-
-void failOnWarnings() { QTest::failOnWarning(QRegularExpression(u".?"_s)); }
-
 } // namespace
 
+/// Each test has an application object of its own, and with it services of its own.
 class ServicesTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase()
+    void init()
     {
-        QCOMPARE(m_services, CrvServices::getInstance());
+        QTest::failOnWarning(QRegularExpression(u".?"_s));
+        m_services = CrvServices::getInstance();
+        m_application = std::make_unique<QCoreApplication>(m_argumentCount, nullptr);
+        QCOMPARE(CrvServices::getInstance(), m_services);
         const auto name = [](KnFieldContainer* node) {
             return node ? node->getName().getString().toUtf8() : std::string("none");
         };
-        connect(m_services, &CrvServices::selectedNodeChanged, this,
+        connect(m_services, &CrvServices::selectedNodeChanged, m_services,
             [name](KnFieldContainer* node) { note("node " + name(node)); });
-        connect(m_services, &CrvServices::selectedFieldChanged, this, [name](KnField* field) {
+        connect(m_services, &CrvServices::selectedFieldChanged, m_services, [name](KnField* field) {
             note(field ? "field of " + name(field->getContainer()) : "no field");
         });
     }
-
-    void init() { failOnWarnings(); }
     void cleanup()
     {
-        m_services->selectNode(nullptr);
-        m_services->getUndoStack()->clear();
-        takeCalls();
-    }
-
-    void selectionSignals_data()
-    {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("selected");
-        QTest::addColumn<QString>("expected");
-        const char* const rows[][3] = {
-            { "nothing", "A", "node A" },
-            { "A", "A", "" },
-            { "A", "B", "node B" },
-            { "A", "nothing", "node none" },
-            { "nothing", "A.x", "node A, field of A" },
-            { "A", "A.x", "field of A" },
-            { "A.x", "A.x", "" },
-            { "A.x", "A.y", "field of A" },
-            { "A.x", "A", "no field" },
-            { "A.x", "no field", "no field" },
-            { "A.x", "B", "no field, node B" },
-            { "A.x", "B.x", "no field, node B, field of B" },
-            { "A.x", "nothing", "no field, node none" },
-            { "A.x", "again", "node A, field of A" },
-            { "A", "loose", "node none, field of none" },
-            { "loose", "nothing", "no field" },
-        };
-        for (const auto& [before, selected, expected] : rows) {
-            QTest::addRow("%s, then %s", before, selected) << QString::fromLatin1(
-                before) << QString::fromLatin1(selected) << QString::fromLatin1(expected);
-        }
+        m_application.reset();
+        QCOMPARE(m_a.material->getReferenceCount(), 1); // which the services have let go
     }
 
     void selectionSignals()
     {
-        QFETCH(QString, before);
-        QFETCH(QString, selected);
-        select(before);
-        takeCalls();
-        select(selected);
-        QTEST(takeCalls(), "expected");
-    }
-
-    void selectionHoldsNode()
-    {
-        m_services->selectField(&m_a.material->transparency);
-        QObject context;
-        int countInSlot = 0;
-        connect(m_services, &CrvServices::selectedNodeChanged, &context,
-            [&] { countInSlot = m_a.material->getReferenceCount(); });
+        m_services->selectNode(m_a.material);
+        m_services->selectNode(m_a.material);
         m_services->selectNode(m_b.material);
-        QCOMPARE(countInSlot, 2); // whoever still shows the former node finds it alive
-        QCOMPARE(m_a.material->getReferenceCount(), 1);
-        QCOMPARE(m_b.material->getReferenceCount(), 2);
+        m_services->selectNode(nullptr);
+        QCOMPARE(takeCalls(), u"node A, node B, node none"_s);
+        m_services->selectField(&m_a.number);
+        m_services->selectField(&m_a.number);
+        m_services->selectField(&m_a.color);
+        m_services->selectNode(m_a.material);
+        QCOMPARE(takeCalls(), u"node A, field of A, field of A, no field"_s);
+        m_services->selectField(&m_a.color);
+        m_services->selectField(&m_b.number);
+        m_services->announceSelection();
+        m_services->selectField(nullptr);
+        QCOMPARE(takeCalls(),
+            u"field of A, no field, node B, field of B, node B, field of B, no field"_s);
+        m_services->selectField(&m_b.number);
+        m_services->selectNode(m_a.material);
+        m_services->selectField(&m_loose);
+        m_services->selectNode(nullptr);
+        QCOMPARE(
+            takeCalls(), u"field of B, no field, node A, node none, field of none, no field"_s);
     }
 
     void laterSelectionWins()
     {
-        m_services->selectField(&m_a.material->transparency);
+        m_services->selectField(&m_a.number);
         QObject context;
         connect(m_services, &CrvServices::selectedFieldChanged, &context, [&](KnField* field) {
             if (!field)
-                m_services->selectField(&m_b.material->ambientColor);
+                m_services->selectField(&m_b.color);
         });
+        int countInSlot = 0;
+        connect(m_services, &CrvServices::selectedNodeChanged, &context,
+            [&] { countInSlot = m_a.material->getReferenceCount(); });
         takeCalls();
         m_services->selectNode(nullptr);
         QCOMPARE(takeCalls(), u"no field, node B, field of B"_s);
-        QCOMPARE(m_services->getSelectedField(), &m_b.material->ambientColor);
+        QCOMPARE(m_services->getSelectedField(), &m_b.color);
+        QCOMPARE(countInSlot, 2); // whoever still shows the former node finds it alive
         QCOMPARE(m_a.material->getReferenceCount(), 1);
+        QCOMPARE(m_b.material->getReferenceCount(), 2);
     }
 
     void commandRunsOnce()
@@ -179,26 +145,27 @@ private Q_SLOTS:
 
     void commandText()
     {
-        const auto textFor = [&](KnField* field) {
+        Node unnamed("");
+        Node twoLines("two\nlines %2");
+        const std::pair<KnField*, QString> rows[] = {
+            { &m_a.number, u"Edit A.transparency"_s },
+            { &unnamed.number, u"Edit Material.transparency"_s },
+            { &twoLines.color, u"Edit two lines %2.ambientColor"_s },
+            { &m_loose, u"Edit"_s },
+        };
+        for (const auto& [field, text] : rows) {
             m_services->selectField(field);
             m_services->executeCommand(new NotingCommand);
-            return m_services->getUndoStack()->undoText();
-        };
-        QCOMPARE(textFor(&m_a.material->transparency), u"Edit A.transparency"_s);
-        m_b.material->setName(KbName());
-        QCOMPARE(textFor(&m_b.material->shininess), u"Edit Material.shininess"_s);
-        m_b.material->setName(KbName("two\nlines %2"));
-        QCOMPARE(textFor(&m_b.material->ambientColor), u"Edit two lines %2.ambientColor"_s);
-        m_b.material->setName(KbName("B"));
-        QCOMPARE(textFor(&m_loose), u"Edit"_s);
+            QCOMPARE(m_services->getUndoStack()->undoText(), text);
+        }
     }
 
     void sensorsRunOnceABatch()
     {
-        EventCounter counter;
-        m_services->findChild<CrvSensorPump*>()->installEventFilter(&counter);
-        Watch first(m_a.material->transparency);
-        Watch second(m_b.material->transparency);
+        m_services->findChild<CrvSensorPump*>()->installEventFilter(this);
+        Watch first(m_a.number);
+        Watch second(m_b.number);
+        second.writes = 2; // from within, each of which is a batch of its own
         for (int i = 0; i < 3; ++i) {
             first.field.setValue(0.5F);
             second.field.setValue(0.5F);
@@ -206,92 +173,49 @@ private Q_SLOTS:
         int runsInMeantime = -1;
         QMetaObject::invokeMethod(
             this, [&] { runsInMeantime = first.runs; }, Qt::QueuedConnection);
-        QTRY_COMPARE(first.runs, 1);
-        QCOMPARE(second.runs, 1);
+        QTRY_COMPARE(second.runs, 3);
+        QCOMPARE(first.runs, 1);
         QCOMPARE(runsInMeantime, 0); // what was posted after the write came first
         // Run by hand in between: the event under way serves the next batch too.
         first.field.setValue(0.1F);
         KnSensorQueue::getInstance().process();
         first.field.setValue(0.2F);
         QTRY_COMPARE(first.runs, 3);
-        QCoreApplication::processEvents();
-        QCOMPARE(counter.events, 2);
-    }
-
-    void writeInCallbackRunsAgain()
-    {
-        Watch watch(m_a.material->transparency);
-        watch.writes = 2;
-        watch.field.setValue(1);
-        QTRY_COMPARE(watch.runs, 3);
-        QCoreApplication::processEvents();
-        QCOMPARE(watch.runs, 3);
-    }
-
-    void foreignThreadDoesNotWake()
-    {
-        Watch watch(m_a.material->transparency);
         QTest::ignoreMessage(
             QtCriticalMsg, "A watched field was written outside the user interface thread");
-        std::thread([&] { watch.field.setValue(1); }).join();
+        std::thread([&] { first.field.setValue(1); }).join();
         QCoreApplication::processEvents();
-        QCOMPARE(watch.runs, 0);
+        QCOMPARE(first.runs, 3);
+        QCOMPARE(m_events, 4);
     }
 
-private:
-    void select(const QString& what)
+    void servicesStartAfreshWithTheApplication()
     {
-        KnMaterial* const node = (what.startsWith(u'A') ? m_a : m_b).material;
-        if (what == u"again")
-            m_services->announceSelection();
-        else if (what == u"loose")
-            m_services->selectField(&m_loose);
-        else if (what == u"no field")
-            m_services->selectField(nullptr);
-        else if (what.contains(u'.'))
-            m_services->selectField(what.endsWith(u'x') ? static_cast<KnField*>(&node->transparency)
-                                                        : &node->ambientColor);
-        else
-            m_services->selectNode(what == u"nothing" ? nullptr : node);
-    }
-
-    CrvServices* const m_services = CrvServices::getInstance(); // before the application object
-    Node m_a { "A" };
-    Node m_b { "B" };
-    KnSFFloat m_loose;
-};
-
-/// The services of a second application object, in the same process.
-class SecondLifeTest : public QObject {
-    Q_OBJECT
-public:
-    Node selectedBefore { "early" };
-
-private Q_SLOTS:
-    void init() { failOnWarnings(); }
-    void startsAfresh()
-    {
-        // The former object has gone with its application object and has let go of the node.
-        QCOMPARE(selectedBefore.material->getReferenceCount(), 1);
-        Watch watch(selectedBefore.material->transparency);
+        m_services->selectNode(m_a.material);
+        m_application.reset();
+        Watch watch(m_a.number);
         watch.field.setValue(1); // before the services exist
+        m_application = std::make_unique<QCoreApplication>(m_argumentCount, nullptr);
         QCOMPARE(CrvServices::getInstance()->getSelectedNode(), nullptr);
         QTRY_COMPARE(watch.runs, 1);
     }
+
+private:
+    /// Counts the events of the pump's own making.
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_events += event->type() >= QEvent::User ? 1 : 0;
+        return false;
+    }
+
+    int m_argumentCount = 0;
+    std::unique_ptr<QCoreApplication> m_application;
+    CrvServices* m_services = nullptr; // gone with the application object
+    Node m_a { "A" };
+    Node m_b { "B" };
+    KnSFFloat m_loose;
+    int m_events = 0;
 };
 
-int main(int argc, char** argv)
-{
-    ServicesTest test;
-    SecondLifeTest secondTest;
-    int failures = 0;
-    {
-        QApplication application(argc, argv);
-        failures += QTest::qExec(&test, argc, argv);
-        CrvServices::getInstance()->selectNode(secondTest.selectedBefore.material);
-    }
-    QApplication application(argc, argv);
-    return failures + QTest::qExec(&secondTest);
-}
-
+QTEST_APPLESS_MAIN(ServicesTest)
 #include "test_services.moc"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FieldTypes.h"
 
-#include "KnReadError.h"
 #include "KnSFEnum.h"
 
 const QByteArrayList& fieldTypeNames()
@@ -19,14 +18,12 @@ const QByteArrayList& fieldTypeNames()
 
 std::unique_ptr<KnField> makeField(const QByteArray& typeName)
 {
-    return std::unique_ptr<KnField>(
+    std::unique_ptr<KnField> field(
         static_cast<KnField*>(KnType::fromName(typeName.constData()).createInstance()));
-}
-
-void nameValues(KnField& field)
-{
-    if (field.isOfType(KnSFEnum::getClassTypeId()))
-        static_cast<KnSFEnum&>(field).setEnums({ { "A", 1 }, { "B", 2 }, { "AB", 3 }, { "D", 4 } });
+    if (field->isOfType(KnSFEnum::getClassTypeId()))
+        static_cast<KnSFEnum&>(*field).setEnums(
+            { { "A", 1 }, { "B", 2 }, { "AB", 3 }, { "D", 4 } });
+    return field;
 }
 
 QByteArray textOf(const KnField& field)
@@ -34,19 +31,4 @@ QByteArray textOf(const KnField& field)
     KbString text;
     field.get(text);
     return QByteArray::fromStdString(text.toUtf8());
-}
-
-ReadErrors::ReadErrors()
-{
-    KnReadError::setHandlerCallback(
-        [](const KnError* error, void* data) {
-            static_cast<ReadErrors*>(data)->texts
-                += QByteArray::fromStdString(error->getDebugString().toUtf8());
-        },
-        this);
-}
-
-ReadErrors::~ReadErrors()
-{
-    KnReadError::setHandlerCallback(&KnErrorHandler::writeToStandardError, nullptr);
 }

@@ -10,28 +10,27 @@
 
 namespace {
 
-KnSensorQueue& queue() { return KnSensorQueue::getInstance(); }
-
 /// A sensor that notes its name in a log and then does what a test wants.
-struct Watch {
-    Watch(QByteArray& log, char name)
-        : sensor(std::make_unique<KnFieldSensor>(&Watch::run, this))
+class Watch : public KnFieldSensor {
+public:
+    Watch(QByteArray& log, char name, KnField* field)
+        : KnFieldSensor(&Watch::run, this)
         , m_log(log)
         , m_name(name)
     {
+        attach(field);
     }
 
-    std::unique_ptr<KnFieldSensor> sensor;
     std::function<void()> action;
 
 private:
     static void run(void* data, KnSensor* sensor)
     {
         auto* watch = static_cast<Watch*>(data);
-        QCOMPARE(sensor, watch->sensor.get());
+        QCOMPARE(sensor, static_cast<KnSensor*>(watch));
         watch->m_log += watch->m_name;
-        if (watch->action)
-            watch->action();
+        if (const auto action = watch->action) // a copy, as it may destroy the sensor
+            action();
     }
 
     QByteArray& m_log;
@@ -40,31 +39,25 @@ private:
 
 } // namespace
 
+/// Three sensors a, b and c on one field. The log has a bar behind each run of the queue, and a w
+/// where the host is woken.
 class TestSensors : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup() { QVERIFY(queue().isEmpty()); }
-
     void runsLaterOnceAndInOrder();
-    void everyKindOfChangeTouches();
-    void detachDropsWhatWaits();
-    void attachToAnotherField();
-    void theFieldGoesAway();
-    void theSensorGoesAway();
-    void callbackDestroysSensors_data();
-    void callbackDestroysSensors();
-    void callbackDestroysTheField();
-    void callbackMovesToAnotherField();
-    void whatACallbackTouchesWaits();
-    void processWithinACallbackDoesNothing();
+    void detachAndAttachDropWhatWaits();
+    void callbacksChangeWhatRuns();
     void theHostIsWokenOnceABatch();
 
 private:
+    void run();
+
+    KnSensorQueue& m_queue = KnSensorQueue::getInstance();
     QByteArray m_log;
     std::unique_ptr<KnSFFloat> m_field;
-    std::unique_ptr<KnSFFloat> m_other;
+    KnSFFloat m_other;
     std::unique_ptr<Watch> m_a;
     std::unique_ptr<Watch> m_b;
     std::unique_ptr<Watch> m_c;
@@ -72,193 +65,115 @@ private:
 
 void TestSensors::init()
 {
-    m_log.clear();
     m_field = std::make_unique<KnSFFloat>();
-    m_other = std::make_unique<KnSFFloat>();
-    m_a = std::make_unique<Watch>(m_log, 'a');
-    m_b = std::make_unique<Watch>(m_log, 'b');
-    m_c = std::make_unique<Watch>(m_log, 'c');
-    for (const auto* watch : { &m_a, &m_b, &m_c })
-        (*watch)->sensor->attach(m_field.get());
+    m_a = std::make_unique<Watch>(m_log, 'a', m_field.get());
+    m_b = std::make_unique<Watch>(m_log, 'b', m_field.get());
+    m_c = std::make_unique<Watch>(m_log, 'c', m_field.get());
+    QVERIFY(m_queue.isEmpty());
+    m_log.clear();
+}
+
+void TestSensors::run()
+{
+    m_queue.process();
+    m_log += '|';
 }
 
 void TestSensors::runsLaterOnceAndInOrder()
 {
-    m_b->sensor->attach(m_other.get());
-    m_other->touch();
+    m_b->attach(&m_other);
+    m_other.touch();
     m_field->setValue(1.0F);
     m_field->setValue(2.0F);
-    m_other->touch();
+    m_other.touch();
     QCOMPARE(m_log, QByteArray());
-    QVERIFY(!queue().isEmpty());
-    queue().process();
-    QCOMPARE(m_log, QByteArray("bac"));
-    queue().process();
-    QCOMPARE(m_log, QByteArray("bac"));
-}
-
-void TestSensors::everyKindOfChangeTouches()
-{
-    m_b->sensor->detach();
-    m_c->sensor->detach();
-    m_field->setValue(0.0F); // equal
-    queue().process();
+    run();
+    run();
+    m_field->setValue(2.0F); // the same
+    run();
     m_field->setIgnored(1);
-    QCOMPARE(m_field->isIgnored(), 1);
-    queue().process();
-    m_field->set("2");
-    queue().process();
-    QCOMPARE(m_log, QByteArray("aaa"));
+    run();
+    QCOMPARE(m_log, QByteArray("bac||ac|ac|"));
 }
 
-void TestSensors::detachDropsWhatWaits()
+void TestSensors::detachAndAttachDropWhatWaits()
 {
     m_field->touch();
-    m_b->sensor->detach();
-    QVERIFY(!m_b->sensor->getAttachedField());
-    m_b->sensor->detach();
-    queue().process();
-    QCOMPARE(m_log, QByteArray("ac"));
+    m_b->detach();
+    m_b->detach();
+    run();
     m_field->touch();
-    m_a->sensor->attach(nullptr);
-    queue().process();
-    QCOMPARE(m_log, QByteArray("acc"));
-}
-
-void TestSensors::attachToAnotherField()
-{
+    m_a->attach(&m_other);
+    run();
     m_field->touch();
-    m_a->sensor->attach(m_other.get());
-    QCOMPARE(m_a->sensor->getAttachedField(), m_other.get());
-    queue().process();
+    m_other.touch();
+    run();
     m_field->touch();
-    queue().process();
-    m_other->touch();
-    queue().process();
-    QCOMPARE(m_log, QByteArray("bcbca"));
-}
-
-void TestSensors::theFieldGoesAway()
-{
+    m_c->attach(nullptr);
+    run();
+    m_b->attach(m_field.get());
     m_field->touch();
     m_field.reset();
-    QVERIFY(!m_a->sensor->getAttachedField());
-    QVERIFY(!m_c->sensor->getAttachedField());
-    queue().process();
-    QCOMPARE(m_log, QByteArray());
+    QVERIFY(!m_b->getAttachedField() && !m_c->getAttachedField());
+    run();
+    QCOMPARE(m_log, QByteArray("ac|c|ca|||"));
 }
 
-void TestSensors::theSensorGoesAway()
+void TestSensors::callbacksChangeWhatRuns()
 {
-    m_field->touch();
-    m_b->sensor.reset();
-    queue().process();
-    m_field->touch();
-    queue().process();
-    QCOMPARE(m_log, QByteArray("acac"));
-}
-
-void TestSensors::callbackDestroysSensors_data()
-{
-    QTest::addColumn<QByteArray>("victims");
-    QTest::addColumn<QByteArray>("log");
-    QTest::newRow("itself") << QByteArray("b") << QByteArray("abc");
-    QTest::newRow("the one before") << QByteArray("a") << QByteArray("abc");
-    QTest::newRow("the next") << QByteArray("c") << QByteArray("ab");
-    QTest::newRow("all") << QByteArray("cab") << QByteArray("ab");
-}
-
-void TestSensors::callbackDestroysSensors()
-{
-    QFETCH(QByteArray, victims);
-    QFETCH(QByteArray, log);
-    m_b->action = [&] {
-        for (const char name : victims)
-            (name == 'a' ? m_a : name == 'b' ? m_b : m_c)->sensor.reset();
+    // What b does, and what runs then, at once without another change, and behind another change.
+    const std::pair<std::function<void()>, QByteArray> rows[] = {
+        { [this] { m_b.reset(); }, "abc||ac|" },
+        { [this] { m_a.reset(); }, "abc||bc|" },
+        { [this] { m_c.reset(); }, "ab||ab|" },
+        { [this] {
+             for (auto* watch : { &m_c, &m_a, &m_b })
+                 watch->reset();
+         },
+            "ab|||" },
+        { [this] { m_field.reset(); }, "ab|||" },
+        { [this] { m_queue.process(); }, "abc||abc|" },
+        // c still waits then, so that it runs once for both changes.
+        { [this] { m_field->touch(); }, "abc|ab|abc|" },
+        // What is dropped was part of the run, what the other field puts in is not.
+        { [this] {
+             m_c->attach(&m_other);
+             m_other.touch();
+             m_a->detach();
+         },
+            "ab|c|b|" },
     };
-    m_field->touch();
-    queue().process();
-    QCOMPARE(m_log, log);
-    m_field->touch();
-    queue().process();
-}
-
-void TestSensors::callbackDestroysTheField()
-{
-    m_a->action = [this] { m_field.reset(); };
-    m_field->touch();
-    queue().process();
-    QCOMPARE(m_log, QByteArray("a"));
-    QVERIFY(!m_a->sensor->getAttachedField());
-}
-
-void TestSensors::callbackMovesToAnotherField()
-{
-    // What is dropped here was part of the run, what the other field puts in is not.
-    m_a->action = [this] {
-        m_c->sensor->attach(m_other.get());
-        m_other->touch();
-        m_b->sensor->detach();
-    };
-    m_field->touch();
-    queue().process();
-    QCOMPARE(m_log, QByteArray("a"));
-    queue().process();
-    QCOMPARE(m_log, QByteArray("ac"));
-}
-
-void TestSensors::whatACallbackTouchesWaits()
-{
-    int rounds = 3;
-    m_b->action = [&] {
-        if (--rounds > 0)
-            m_field->setValue(static_cast<float>(rounds));
-    };
-    m_field->touch();
-    queue().process();
-    // c still waited when b wrote, so that it runs once for both changes.
-    QCOMPARE(m_log, QByteArray("abc"));
-    queue().process();
-    QCOMPARE(m_log, QByteArray("abcab"));
-    rounds = 0;
-    queue().process();
-    QCOMPARE(m_log, QByteArray("abcababc"));
-}
-
-void TestSensors::processWithinACallbackDoesNothing()
-{
-    m_a->action = [this] {
-        queue().process();
-        QCOMPARE(m_log, QByteArray("a"));
-    };
-    m_field->touch();
-    queue().process();
-    QCOMPARE(m_log, QByteArray("abc"));
+    for (const auto& [action, log] : rows) {
+        init();
+        m_b->action = action;
+        m_field->touch();
+        run();
+        run();
+        if (m_field)
+            m_field->touch();
+        run();
+        QCOMPARE(m_log, log);
+    }
 }
 
 void TestSensors::theHostIsWokenOnceABatch()
 {
-    int wakes = 0;
-    const auto wake = [](void* data) { ++*static_cast<int*>(data); };
-    queue().setWakeCallback(wake, &wakes);
-    QCOMPARE(wakes, 0);
+    const auto wake = [](void* log) { *static_cast<QByteArray*>(log) += 'w'; };
+    m_queue.setWakeCallback(wake, &m_log);
     m_field->touch();
-    m_other->touch();
+    m_other.touch();
     m_field->touch();
-    QCOMPARE(wakes, 1);
     m_c->action = [this] { m_field->touch(); };
-    queue().process();
-    QCOMPARE(wakes, 2); // for what the callback touched
+    run(); // wakes for what the callback touches
     m_c->action = nullptr;
-    queue().process();
-    QCOMPARE(wakes, 2);
-    queue().setWakeCallback(nullptr, nullptr);
+    run();
+    m_queue.setWakeCallback(nullptr, nullptr);
     m_field->touch();
-    QCOMPARE(wakes, 2);
-    queue().setWakeCallback(wake, &wakes); // finds sensors that wait
-    QCOMPARE(wakes, 3);
-    queue().setWakeCallback(nullptr, nullptr);
-    queue().process();
+    m_log += '-';
+    m_queue.setWakeCallback(wake, &m_log); // finds sensors that wait
+    m_queue.setWakeCallback(nullptr, nullptr);
+    run();
+    QCOMPARE(m_log, QByteArray("wabcw|abc|-wabc|"));
 }
 
 QTEST_APPLESS_MAIN(TestSensors)

@@ -1,80 +1,27 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvExtension.h"
 #include "CrvPlugin.h"
+#include "CrvPluginsManager.h"
+#include "CrvServices.h"
 #include "KbMemory.h"
 #include "KnError.h"
-#include "ModuleRun.h"
+#include "KnSensorQueue.h"
+#include "KnTestNode.h"
+#include "TestShell.h"
 
+#include <QCheckBox>
+#include <QDockWidget>
+#include <QFile>
+#include <QLabel>
 #include <QTest>
+#include <QTextEdit>
+#include <QUndoStack>
 
 #include <iostream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-struct ExtensionRow {
-    const char* name;
-    const char* description;
-};
-
-constexpr const char* fieldEditor = "Field Editor for Corvane.";
-
-/// All extensions in the order of their registration.
-constexpr ExtensionRow extensionRows[] = {
-    { "Profile Selector", "A toolbar to select the active profile." },
-    { "Console", "A console which prints the standard output and error." },
-    { "MFColor", fieldEditor },
-    { "MFColorRGBA", fieldEditor },
-    { "MField", fieldEditor },
-    { "MFDouble", fieldEditor },
-    { "SFFilePathString", fieldEditor },
-    { "MFFloat", fieldEditor },
-    { "MFInt32", fieldEditor },
-    { "MFMatrix", fieldEditor },
-    { "MFPlane", fieldEditor },
-    { "MFRotation", fieldEditor },
-    { "MFShort", fieldEditor },
-    { "MFString", fieldEditor },
-    { "MFUInt32", fieldEditor },
-    { "MFUShort", fieldEditor },
-    { "MFVec2f", fieldEditor },
-    { "MFVec2i32", fieldEditor },
-    { "MFVec2s", fieldEditor },
-    { "MFVec3f", fieldEditor },
-    { "MFVec4f", fieldEditor },
-    { "SFBitMask", fieldEditor },
-    { "SFBool", fieldEditor },
-    { "SFBox2f", fieldEditor },
-    { "SFBox3s", fieldEditor },
-    { "SFColor", fieldEditor },
-    { "SFColorRGBA", fieldEditor },
-    { "SFEnum", fieldEditor },
-    { "SFDouble", fieldEditor },
-    { "SFFloat", fieldEditor },
-    { "SFImage", fieldEditor },
-    { "SFInt32", fieldEditor },
-    { "SField", fieldEditor },
-    { "SFMatrix", fieldEditor },
-    { "SFName", fieldEditor },
-    { "SFPlane", fieldEditor },
-    { "SFRotation", fieldEditor },
-    { "SFShort", fieldEditor },
-    { "SFString", fieldEditor },
-    { "SFUInt32", fieldEditor },
-    { "SFUShort", fieldEditor },
-    { "SFVec2f", fieldEditor },
-    { "SFVec2i32", fieldEditor },
-    { "SFVec2s", fieldEditor },
-    { "SFVec3f", fieldEditor },
-    { "SFVec4f", fieldEditor },
-    { "Field Editor", fieldEditor },
-    { "Node Editor", "Node Editor for Corvane." },
-};
-static_assert(std::size(extensionRows) == 48);
-
-QString identity(const char* name, const char* description)
-{
-    return QStringLiteral("%1|%2|Orbel|1.0.0").arg(QLatin1String(name), QLatin1String(description));
-}
 
 template <class Described>
 QString identity(const Described& object)
@@ -82,96 +29,160 @@ QString identity(const Described& object)
     QStringList parts;
     for (const KbString& part :
         { object.getName(), object.getDescription(), object.getAuthor(), object.getVersion() })
-        parts += QString::fromStdU16String(part.toUtf16());
-    return parts.join(QLatin1Char('|'));
+        parts << QString::fromStdU16String(part.toUtf16());
+    return parts.join(u'|');
 }
+
+/// A shell whose window outlives the plug-in's file.
+class ModuleShell : public TestShell {
+public:
+    void addDockWidget(QDockWidget* dock, int area) override
+    {
+        // The main window remembers the name of a dock that is gone. A literal would go with the
+        // file, which is why the file stays mapped; where it does not, the name has to be a copy.
+        const QString name = dock->objectName();
+        dock->setObjectName(QString()); // an equal name would be refused
+        dock->setObjectName(QString(name.constData(), name.size()));
+        TestShell::addDockWidget(dock, area);
+    }
+};
 
 } // namespace
 
-/// What a host sees of the plug-in that has nothing but its file.
+/// What a host sees of the plug-in that has nothing but its file, and a node with a field of every
+/// type. CORVANE_MODULE_STAYS says whether the file stays mapped when it is unloaded; where it
+/// doesn't, whatever still pointed into it would end the process.
 class TestModule : public QObject {
     Q_OBJECT
-
 private Q_SLOTS:
-    void init();
-    void pluginAndExtensionsNameThemselves();
-    void fileStaysMapped();
-    void allocationsAreCounted();
-    void everyFieldCanBeShown();
-    void unloadingLeavesNothingBehind();
+    void initTestCase()
+    {
+        m_node->ref();
+        m_shell.window().show();
+    }
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support )"_s));
+        CrvPluginsManager::getInstance()->useBuiltInProfiles();
+    }
+    void cleanup() { CrvPluginsManager::getInstance()->unloadAll(); }
+    void cleanupTestCase() { m_node->unref(); }
+
+    void pluginAndExtensionsNameThemselves()
+    {
+        const CrvPlugin* const plugin = load();
+        QVERIFY(plugin);
+        QStringList actual(identity(*plugin));
+        for (const CrvExtension* extension : plugin->getExtensions())
+            actual << identity(*extension);
+        QCOMPARE(actual.size(), 1 + 48);
+
+        QStringList expected { u"CrvDefaults|Plug-in which loads Corvane default extensions."_s,
+            u"Profile Selector|A toolbar to select the active profile."_s,
+            u"Console|A console which prints the standard output and error."_s };
+        const QString fieldEditors
+            = u"MFColor,MFColorRGBA,MField,MFDouble,SFFilePathString,"
+              "MFFloat,MFInt32,MFMatrix,MFPlane,MFRotation,MFShort,MFString,MFUInt32,MFUShort,"
+              "MFVec2f,MFVec2i32,MFVec2s,MFVec3f,MFVec4f,SFBitMask,SFBool,SFBox2f,SFBox3s,SFColor,"
+              "SFColorRGBA,SFEnum,SFDouble,SFFloat,SFImage,SFInt32,SField,SFMatrix,SFName,SFPlane,"
+              "SFRotation,SFShort,SFString,SFUInt32,SFUShort,SFVec2f,SFVec2i32,SFVec2s,SFVec3f,"
+              "SFVec4f,Field Editor"_s;
+        for (const QString& name : fieldEditors.split(u','))
+            expected << name + u"|Field Editor for Corvane."_s;
+        expected << u"Node Editor|Node Editor for Corvane."_s;
+        expected.replaceInStrings(QRegularExpression(u"$"_s), u"|Orbel|1.0.0"_s);
+        QCOMPARE(actual, expected);
+    }
+
+    void unloadingLeavesNothingBehind()
+    {
+        std::streambuf* const output = std::cout.rdbuf();
+        std::streambuf* const errors = std::cerr.rdbuf();
+        const KnErrorCallback handler = KnError::getHandlerCallback();
+        for (int i = 0; i < 50; ++i) {
+            const KbAllocationCount before = allocationCount();
+            QVERIFY(load());
+            QVERIFY(allocationCount().calls > before.calls);
+            QVERIFY(allocationCount().bytes > before.bytes);
+            QVERIFY(isMapped() && KnError::getHandlerCallback() != handler);
+            use(i == 0);
+            if (QTest::currentTestFailed())
+                return;
+            CrvPluginsManager::getInstance()->unloadAll();
+            settle();
+            QCOMPARE(isMapped(), CORVANE_MODULE_STAYS);
+            QVERIFY(std::cout.rdbuf() == output && std::cerr.rdbuf() == errors);
+            QVERIFY(KnError::getHandlerCallback() == handler);
+            QVERIFY(m_shell.extensions().isEmpty());
+            QCOMPARE(QApplication::topLevelWidgets(), QWidgetList { &m_shell.window() });
+        }
+
+        std::cout << "text behind the last unloading" << std::endl;
+        QLabel label(u"a widget of the process's own"_s);
+        label.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&label));
+        QTest::keyClick(&m_shell.window(), Qt::Key_Tab);
+        settle();
+    }
 
 private:
-    const QString m_fileName = QStringLiteral(CORVANE_MODULE_FILE);
-};
-
-void TestModule::init()
-{
-    QTest::failOnWarning(
-        QRegularExpression(QStringLiteral("^(?!This plugin does not support propagateSizeHints)")));
-}
-
-void TestModule::pluginAndExtensionsNameThemselves()
-{
-    ModuleRun run(m_fileName);
-    const CrvPlugin* const plugin = run.load();
-    QVERIFY(plugin);
-    QCOMPARE(identity(*plugin),
-        identity("CrvDefaults", "Plug-in which loads Corvane default extensions."));
-    QStringList actual;
-    for (const CrvExtension* extension : plugin->getExtensions())
-        actual += identity(*extension);
-    QStringList expected;
-    for (const ExtensionRow& row : extensionRows)
-        expected += identity(row.name, row.description);
-    QCOMPARE(actual, expected);
-}
-
-void TestModule::fileStaysMapped()
-{
-    ModuleRun run(m_fileName);
-    QVERIFY(run.load());
-    QVERIFY(run.isMapped());
-    run.unload();
-    QVERIFY(run.isMapped());
-}
-
-void TestModule::allocationsAreCounted()
-{
-    ModuleRun run(m_fileName);
-    const KbAllocationCount before = allocationCount();
-    QVERIFY(run.load());
-    const KbAllocationCount after = allocationCount();
-    QVERIFY(after.calls > before.calls);
-    QVERIFY(after.bytes > before.bytes);
-}
-
-void TestModule::everyFieldCanBeShown()
-{
-    ModuleRun run(m_fileName);
-    QVERIFY(run.load());
-    run.use(true);
-}
-
-void TestModule::unloadingLeavesNothingBehind()
-{
-    ModuleRun run(m_fileName);
-    std::streambuf* const output = std::cout.rdbuf();
-    std::streambuf* const errors = std::cerr.rdbuf();
-    const KnErrorCallback handler = KnError::getHandlerCallback();
-    for (int i = 0; i < 50; ++i) {
-        QVERIFY(run.load());
-        QVERIFY(KnError::getHandlerCallback() != handler);
-        run.use(false);
-        if (QTest::currentTestFailed())
-            return;
-        run.unload();
-        QVERIFY(std::cout.rdbuf() == output);
-        QVERIFY(std::cerr.rdbuf() == errors);
-        QVERIFY(KnError::getHandlerCallback() == handler);
-        QVERIFY(run.shell().extensions().isEmpty());
-        QCOMPARE(QApplication::topLevelWidgets(), QWidgetList { &run.shell().window() });
+    static CrvPlugin* load()
+    {
+        QString error;
+        CrvPlugin* const plugin = CrvPluginsManager::getInstance()->loadPlugin(
+            QStringLiteral(CORVANE_MODULE_FILE), &error);
+        if (!plugin)
+            qWarning("%s", qPrintable(error));
+        return plugin;
     }
-}
+    /// Uses the plug-in as a person would: shows every field of the node (only a handful if
+    /// `everyField` is false), clicks the check box of the bool field, undoes, prints to the
+    /// console and reports an error.
+    void use(bool everyField)
+    {
+        const KnFieldData* const data = m_node->getContainerFieldData();
+        for (int i = 0; i < data->getNum(); i += everyField ? 1 : 9)
+            select(data->getField(m_node, i));
+
+        select(&m_node->SFBool);
+        auto* const box = m_shell.window().findChild<QCheckBox*>(u"m_box"_s);
+        QVERIFY(box);
+        box->click();
+        settle();
+        QVERIFY(m_node->SFBool.getValue());
+        CrvServices::getInstance()->getUndoStack()->undo();
+        settle();
+        QVERIFY(!m_node->SFBool.getValue() && !box->isChecked());
+
+        std::cout << "printed" << std::endl;
+        KnError::post("reported");
+        settle();
+        const auto* const view = m_shell.window().findChild<QTextEdit*>(u"m_consoleOutput"_s);
+        QCOMPARE(view->toPlainText(), u"printed\n\nreported"_s);
+    }
+    static void select(KnField* field)
+    {
+        CrvServices::getInstance()->selectField(field);
+        settle();
+    }
+    /// Runs the posted events and the kernel's sensors until none is left.
+    static void settle()
+    {
+        do {
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCoreApplication::processEvents();
+        } while (!KnSensorQueue::getInstance().isEmpty());
+    }
+    static bool isMapped()
+    {
+        QFile maps(u"/proc/self/maps"_s);
+        return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(CORVANE_MODULE_FILE);
+    }
+
+    ModuleShell m_shell;
+    KnTestNode* m_node = new KnTestNode; // a reference is held
+};
 
 QTEST_MAIN(TestModule)
 #include "test_module.moc"

@@ -5,10 +5,10 @@
 
 #include <QTimer>
 
-/// Clicks a button that opens a modal `Dialog` and lets `act` use it, as a person would, until it
-/// is closed. False if none came up, or if it was left open.
-template <class Dialog, class Act>
-bool inDialog(QWidget* button, Act act)
+/// Runs `open`, which opens a modal `Dialog`, and lets `act` use it, as a person would, until it is
+/// closed. False if none came up, or if it was left open.
+template <class Dialog, class Open, class Act>
+bool inDialogOpenedBy(Open open, Act act)
 {
     bool closed = false;
     QTimer timer;
@@ -23,7 +23,14 @@ bool inDialog(QWidget* button, Act act)
             dialog->reject();
     });
     timer.start(0);
-    QTest::mouseClick(button, Qt::LeftButton);
+    open();
     EditorFixture::settle();
     return closed;
+}
+
+/// The same with a click on a button.
+template <class Dialog, class Act>
+bool inDialog(QWidget* button, Act act)
+{
+    return inDialogOpenedBy<Dialog>([button] { QTest::mouseClick(button, Qt::LeftButton); }, act);
 }

@@ -5,11 +5,9 @@
 #include <ostream>
 #include <streambuf>
 #include <string>
-#include <utility>
 #include <vector>
 
-/// Takes the place of a stream's own buffer and keeps what any thread writes there, a string a
-/// call.
+/// Takes the place of a stream's own buffer and keeps what any thread writes there.
 class OwnBuffer : public std::streambuf {
 public:
     explicit OwnBuffer(std::ostream& stream)
@@ -19,11 +17,7 @@ public:
     }
     ~OwnBuffer() override { m_stream.rdbuf(m_previous); }
 
-    std::vector<std::string> take()
-    {
-        const std::lock_guard lock(m_mutex);
-        return std::exchange(m_writes, {});
-    }
+    std::vector<std::string> writes; ///< a string a call; to be read when no thread writes
 
 protected:
     int_type overflow(int_type c) override
@@ -35,7 +29,7 @@ protected:
     std::streamsize xsputn(const char* text, std::streamsize count) override
     {
         const std::lock_guard lock(m_mutex);
-        m_writes.emplace_back(text, static_cast<std::size_t>(count));
+        writes.emplace_back(text, static_cast<std::size_t>(count));
         return count;
     }
 
@@ -43,5 +37,4 @@ private:
     std::ostream& m_stream;
     std::streambuf* m_previous;
     std::mutex m_mutex;
-    std::vector<std::string> m_writes;
 };

@@ -5,7 +5,6 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QUndoStack>
@@ -96,21 +95,6 @@ private Q_SLOTS:
         line->setFocus();
         QTest::keyClick(line, Qt::Key_Tab);
         QCOMPARE(fixture.undoStack().count(), 2);
-    }
-
-    void theButtonIsNoWiderThanItMustBe()
-    {
-        EditorFixture fixture;
-        fixture.shell().window().resize(900, 300);
-        fixture.select(fixture.field("SFFilePathString"));
-        const auto* const button = fixture.child<QPushButton>("openFileButton");
-        QCOMPARE(button->text(), QStringLiteral("..."));
-        QVERIFY(button->width() <= button->sizeHint().width());
-        const QMetaObject* const meta = fixture.editor()->metaObject();
-        QCOMPARE(
-            meta->method(meta->methodOffset()).methodSignature(), QByteArray("openFileDialog()"));
-        QCOMPARE(meta->method(meta->methodOffset() + 1).methodSignature(), QByteArray("edited()"));
-        QCOMPARE(meta->methodCount() - meta->methodOffset(), 2);
     }
 
 private:

@@ -1,155 +1,110 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "CrvPlugin.h"
 #include "CrvPluginsManager.h"
 #include "CrvProfile.h"
 #include "CrvProfileSelectorExtension.h"
-#include "EditorFixture.h"
+#include "StringConversion.h"
+#include "TableInput.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QTemporaryFile>
-#include <QToolBar>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-class SelectorPlugin : public CrvPlugin {
-public:
-    void load() override
-    {
-        addExtension(&selector);
-        CrvPlugin::load();
-    }
-    CrvProfileSelectorExtension selector;
-};
-
-} // namespace
-
-/// The selector in a real host whose profiles are "First" and one with characters inside and
-/// outside Latin-1, which hold the selector, and "Without".
+/// The selector in a real host with the built-in profiles.
 class TestProfileSelector : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
         failOnWarnings();
-        m_shell = std::make_unique<TestShell>();
-        m_plugin = std::make_unique<SelectorPlugin>();
-        loadProfiles(R"({ "name": "First", "extensions": [ "Profile Selector" ] },
-            { "name": "é∀", "extensions": [ "Profile Selector" ] },
-            { "name": "Without", "extensions": [] })");
-        manager()->adoptPlugin(m_plugin.get());
-        m_shell->window().show();
-        m_shell->window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&m_shell->window()));
+        // A profile of the same name stays active when the host's are replaced.
+        manager()->setActiveProfile(manager()->getProfilesList().front());
+        m_fixture = std::make_unique<EditorFixture>();
+        m_combo = m_fixture->shell().window().findChild<QComboBox*>(u"m_comboBox"_s);
+        QVERIFY(m_combo);
     }
-    void cleanup()
-    {
-        manager()->unloadAll();
-        m_plugin.reset();
-        m_shell.reset();
-        QVERIFY(QApplication::topLevelWidgets().isEmpty());
-    }
-
-    void theBarShowsTheProfiles()
-    {
-        QCOMPARE(names(),
-            QStringList(
-                { QStringLiteral("First"), QStringLiteral(u"é?"), QStringLiteral("Without") }));
-        QCOMPARE(combo()->currentIndex(), 0);
-        QCOMPARE(combo()->toolTip(), QStringLiteral("Select the active profile."));
-        QCOMPARE(combo()->itemData(0), QVariant());
-        QCOMPARE(m_shell->calls(),
-            QStringList({ QStringLiteral("addToolBar Profile Selector 4"),
-                QStringLiteral("registerExtension Profile Selector 1") }));
-        QVERIFY(m_plugin->selector.isShown() && combo()->isVisible());
-        m_plugin->selector.hide();
-        QVERIFY(!combo()->isVisible());
-    }
+    void cleanup() { m_fixture.reset(); }
 
     void choosingMakesActive()
     {
-        choose(1);
-        QCOMPARE(manager()->getActiveProfile(), profile(1));
-        QCOMPARE(combo()->currentIndex(), 1);
-
-        bool told = false;
-        connect(
-            manager(), &CrvPluginsManager::activeProfileChanged, this, [&told] { told = true; });
-        choose(1);
-        QVERIFY(!told);
-        disconnect(manager(), nullptr, this, nullptr);
-
-        // The chosen profile lacks the selector itself.
+        QCOMPARE(state(), u"Everything|Fields|Console, 0, Everything"_s);
         choose(2);
-        QCOMPARE(manager()->getActiveProfile(), profile(2));
-        QCOMPARE(m_shell->calls().last(), QStringLiteral("unregisterExtension Profile Selector"));
-        QVERIFY(!m_plugin->selector.isActive());
-
-        manager()->setActiveProfile(profile(0));
-        QCOMPARE(combo()->currentIndex(), 0);
-        QCOMPARE(combo()->count(), 3);
+        QCOMPARE(state(), u"Everything|Fields|Console, 2, Console"_s);
+        choose(1);
+        QCOMPARE(state(), u"Everything|Fields|Console, 1, Fields"_s);
+        QVERIFY(m_combo->isVisible());
     }
 
-    void theHostMayActivateAgainWhileTheChoiceIsHandled()
+    void theHostMayChangeTheProfilesWhileTheChoiceIsHandled()
     {
-        // Replacing the profiles deactivates and activates every extension.
-        connect(manager(), &CrvPluginsManager::activeProfileChanged, this, [this] {
-            disconnect(manager(), nullptr, this, nullptr);
-            manager()->useBuiltInProfiles();
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write(R"({"profiles":[{"name":"é∀","extensions":["Profile Selector"]}]})");
+        file.close();
+        connect(manager(), &CrvPluginsManager::activeProfileChanged, m_combo, [this, &file] {
+            disconnect(manager(), nullptr, m_combo, nullptr);
+            QVERIFY(manager()->loadProfiles(file.fileName(), nullptr));
         });
         choose(1);
-        QCOMPARE(names().value(0), QStringLiteral("Everything"));
-        QCOMPARE(combo()->currentIndex(), 0);
-        QVERIFY(m_plugin->selector.isActive());
+        // Outside Latin-1 is no character of a name.
+        QCOMPARE(state(), u"é?, 0, é∀"_s);
     }
 
     void aHostWithoutAnActiveProfileShowsNone()
     {
-        manager()->setActiveProfile(nullptr);
-        m_plugin->selector.activate();
-        QCOMPARE(combo()->currentIndex(), -1);
-        QCOMPARE(combo()->count(), 3);
-        QCOMPARE(manager()->getActiveProfile(), nullptr);
-        m_plugin->selector.deactivate();
+        // Deactivated by its own choice.
+        connect(manager(), &CrvPluginsManager::activeProfileChanged, m_combo,
+            [] { manager()->setActiveProfile(nullptr); });
+        choose(2);
+        QCOMPARE(state(), u"Everything|Fields|Console, 2, none"_s);
         // Not connected: no effect.
-        combo()->setCurrentIndex(2);
-        QCOMPARE(manager()->getActiveProfile(), nullptr);
+        m_combo->setCurrentIndex(1);
+        QCOMPARE(state(), u"Everything|Fields|Console, 1, none"_s);
+        m_fixture->plugin().getExtensions().front()->activate();
+        QCOMPARE(state(), u"Everything|Fields|Console, -1, none"_s);
+        m_fixture->plugin().getExtensions().front()->deactivate();
+    }
+
+    /// Text that was typed and not yet committed when the profile, and with it the editor, goes.
+    void typedTextIsWrittenWhenTheProfileChanges()
+    {
+        KnField* const field = m_fixture->field("MFInt32");
+        m_fixture->select(field);
+        for (const bool byHand : { true, false }) {
+            EditorFixture::write(field, "[ 1, 2, 3 ]");
+            TableInput(*m_fixture).type(1, 0, u"7"_s);
+            for (const int profile : { 2, 0 }) {
+                if (byHand)
+                    choose(profile);
+                else
+                    manager()->setActiveProfile(
+                        *std::next(manager()->getProfilesList().begin(), profile));
+                EditorFixture::settle();
+            }
+            QCOMPARE(EditorFixture::text(field), u"[ 1, 7, 3 ]"_s);
+            QCOMPARE(TableInput(*m_fixture).openEditor(), nullptr);
+        }
     }
 
 private:
     static CrvPluginsManager* manager() { return CrvPluginsManager::getInstance(); }
-    static CrvProfile* profile(int position)
+    /// The names listed, the index of the one shown, and the host's active profile.
+    QString state() const
     {
-        return *std::next(manager()->getProfilesList().begin(), position);
-    }
-    void loadProfiles(const char* profiles)
-    {
-        QTemporaryFile file;
-        QVERIFY(file.open());
-        file.write(QByteArray("{ \"profiles\": [") + profiles + "] }");
-        file.close();
-        QString error;
-        QVERIFY2(manager()->loadProfiles(file.fileName(), &error), qPrintable(error));
-    }
-    QComboBox* combo() const
-    {
-        const QWidgetList widgets = QApplication::allWidgets();
-        return qobject_cast<QComboBox*>(*std::find_if(widgets.begin(), widgets.end(),
-            [](QWidget* widget) { return qobject_cast<QComboBox*>(widget); }));
-    }
-    QStringList names() const
-    {
-        QStringList result;
-        for (int i = 0; i < combo()->count(); ++i)
-            result << combo()->itemText(i);
-        return result;
+        QStringList names;
+        for (int i = 0; i < m_combo->count(); ++i)
+            names << m_combo->itemText(i);
+        const CrvProfile* const active = manager()->getActiveProfile();
+        return u"%1, %2, %3"_s.arg(names.join(u'|'))
+            .arg(m_combo->currentIndex())
+            .arg(active ? toQString(active->getName()) : u"none"_s);
     }
     /// As a user does: opens the list and picks the entry.
     void choose(int entry)
     {
-        QTest::keyClick(combo(), Qt::Key_F4);
-        QAbstractItemView* const list = combo()->view();
+        QTest::keyClick(m_combo, Qt::Key_F4);
+        QAbstractItemView* const list = m_combo->view();
         QTRY_VERIFY(list->isVisible());
         QTest::keyClick(list, Qt::Key_Home);
         for (int i = 0; i < entry; ++i)
@@ -158,8 +113,8 @@ private:
         QTRY_VERIFY(!list->isVisible());
     }
 
-    std::unique_ptr<TestShell> m_shell;
-    std::unique_ptr<SelectorPlugin> m_plugin;
+    std::unique_ptr<EditorFixture> m_fixture;
+    QComboBox* m_combo = nullptr; // the tool bar's
 };
 
 QTEST_MAIN(TestProfileSelector)

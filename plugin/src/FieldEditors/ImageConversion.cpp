@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ImageConversion.h"
 
+#include <QtEndian>
+
 #include <cstring>
+#include <type_traits>
 
 namespace {
 
@@ -19,11 +22,21 @@ QImage copiedRows(const unsigned char* bytes, int width, int height, int compone
     return image;
 }
 
-/// 0xAARRGGBB in one word, which is blue, green, red, alpha in memory.
-template <int components>
-QRgb colorOf(const unsigned char* pixel)
+// A pixel is 0xAARRGGBB in one word, which is blue, green, red, alpha in memory.
+
+void convertRow(const unsigned char* source, QRgb* row, int width, std::integral_constant<int, 3>)
 {
-    return qRgba(pixel[0], pixel[1], pixel[2], components == 4 ? pixel[3] : 255);
+    // One load a pixel is twice as fast as three; it takes in a byte of the next pixel, which the
+    // last one of a row doesn't have.
+    for (int x = 0; x < width - 1; ++x, source += 3)
+        row[x] = 0xff000000U | qFromBigEndian<quint32>(source) >> 8;
+    row[width - 1] = qRgb(source[0], source[1], source[2]);
+}
+
+void convertRow(const unsigned char* source, QRgb* row, int width, std::integral_constant<int, 4>)
+{
+    for (int x = 0; x < width; ++x, source += 4)
+        row[x] = qRgba(source[0], source[1], source[2], source[3]);
 }
 
 template <int components>
@@ -32,12 +45,11 @@ QImage flippedColors(const unsigned char* bytes, int width, int height)
     QImage image(width, height, QImage::Format_ARGB32);
     if (image.isNull())
         return image;
+    const std::size_t rowBytes = std::size_t(width) * std::size_t(components);
     for (int y = 0; y < height; ++y) {
-        const unsigned char* source
-            = bytes + std::size_t(y) * std::size_t(width) * std::size_t(components);
-        auto* const row = reinterpret_cast<QRgb*>(image.scanLine(height - 1 - y));
-        for (int x = 0; x < width; ++x, source += components)
-            row[x] = colorOf<components>(source);
+        convertRow(bytes + std::size_t(y) * rowBytes,
+            reinterpret_cast<QRgb*>(image.scanLine(height - 1 - y)), width,
+            std::integral_constant<int, components> {});
     }
     return image;
 }
@@ -58,7 +70,8 @@ QImage imageFromPixels(const unsigned char* bytes, int width, int height, int co
     switch (components) {
     case 1: {
         QImage image = copiedRows(bytes, width, height, 1);
-        setGreyTable(image);
+        if (!image.isNull())
+            setGreyTable(image);
         return image;
     }
     case 2:

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "RecordingPlugin.h"
 
-namespace {
-RecordingPlugin* plugin = nullptr; // owned, from loadPlugin to unloadPlugin
-}
+static RecordingPlugin* plugin = nullptr; // owned, from loadPlugin to unloadPlugin
 
 extern "C" CrvPlugin* loadPlugin()
 {
     plugin = new RecordingPlugin;
-    plugin->add<RecordingExtension>("Console");
-    plugin->add<RecordingExtension>("Field Editor");
+    plugin->add({ "Console", "Field Editor" });
     return plugin;
 }
 

@@ -16,7 +16,7 @@ namespace {
 using Components = RowComponents<KbMatrix>;
 
 // Of the overview's text so many characters are given in any case.
-constexpr int LeastText = 2048;
+constexpr int LeastText = 512;
 // The shortest text of a matrix: 16 digits with a blank between two.
 constexpr int ShortestMatrix = 31;
 

@@ -15,7 +15,7 @@ public:
     void setFieldValue(int row, int col, QString text) override;
     /// The text of the whole field, for all rows alike. Of a text that is longer than what a cell
     /// can show it is the beginning, so that the cost of painting a cell doesn't grow with the
-    /// array; it is never less than the first 2048 characters.
+    /// array; it is never less than the first 512 characters.
     QString getCellText(int row, int col) override;
     int getCellAlignment() override;
     bool acceptsField(KnField* field) override;

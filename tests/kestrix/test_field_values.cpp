@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "FieldTypes.h"
+#include "KnDebugError.h"
+#include "KnFieldSensor.h"
+#include "KnMFields.h"
+#include "KnMemoryError.h"
+#include "KnSFBitMask.h"
+#include "KnSFImage.h"
+#include "KnSensorQueue.h"
+
+#include <QTest>
+
+#include <bit>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <numeric>
+#include <random>
+#include <tuple>
+
+namespace {
+
+constexpr int intMax = std::numeric_limits<int>::max();
+const std::int32_t two[] = { 8, 9 };
+
+struct Row {
+    void (*change)(KnMFInt32& f);
+    const char* after; // null: nothing changes and no sensor hears of it
+};
+
+/// Each starts with [ 1, 2, 3 ].
+const Row rows[] = {
+    { [](auto& f) { f.set1Value(1, 9); }, "[ 1, 9, 3 ]" },
+    { [](auto& f) { f.set1Value(3, 9); }, "[ 1, 2, 3, 9 ]" },
+    { [](auto& f) { f.set1Value(5, 9); }, "[ 1, 2, 3, 0, 0, 9 ]" },
+    { [](auto& f) { f.set1Value(-1, 9); }, nullptr },
+    { [](auto& f) { f.setValues(2, 2, two); }, "[ 1, 2, 8, 9 ]" },
+    { [](auto& f) { f.setValues(-1, 2, two); }, nullptr },
+    { [](auto& f) { f.insertValues(1, 2); }, "[ 1, 0, 0, 2, 3 ]" },
+    { [](auto& f) { f.insertValues(-5, 1); }, "[ 0, 1, 2, 3 ]" },
+    { [](auto& f) { f.insertValues(7, 1); }, "[ 1, 2, 3, 0 ]" },
+    { [](auto& f) { f.removeValues(1, intMax); }, "[ 1 ]" },
+    { [](auto& f) { f.removeValues(-1, 2); }, "[ 2, 3 ]" },
+    { [](auto& f) { f.removeValues(3, 1); }, nullptr },
+    { [](auto& f) { f.removeValues(1, -1); }, nullptr },
+    { [](auto& f) { f.setNum(1); }, "[ 1 ]" },
+    { [](auto& f) { f.setNum(-1); }, "[]" },
+    { [](auto& f) { f.valueChanged(0, 3, 1); }, "[ 1, 2, 3 ]" },
+    // One row more than a row number can count.
+    { [](auto& f) { f.set1Value(intMax, 1); }, nullptr },
+    { [](auto& f) { f.insertValues(0, intMax); }, nullptr },
+};
+
+/// Sends numbers through the text of an array, and compares the bits.
+template <class Array>
+void sweep(const std::vector<typename Array::Value>& numbers)
+{
+    Array from;
+    Array to;
+    from.setValues(0, static_cast<int>(numbers.size()), numbers.data());
+    QVERIFY(to.set(textOf(from).constData()));
+    QCOMPARE(to.getNum(), from.getNum());
+    for (int i = 0; i < to.getNum(); ++i) {
+        if (std::memcmp(&from[i], &to[i], sizeof(from[i])) != 0)
+            QVERIFY(std::isnan(from[i]) && std::isnan(to[i]));
+    }
+}
+
+} // namespace
+
+class TestFieldValues : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void floatsOfAllBitPatternsReadBack();
+    void doublesReadBack();
+    void rowsChange();
+    void rowsOfTheArrayItselfMayBeGiven();
+    void namesAreTheFieldsOwn();
+    void maskByNamesAndNumbers();
+    void images();
+};
+
+void TestFieldValues::floatsOfAllBitPatternsReadBack()
+{
+    std::vector<float> numbers;
+    for (std::uint64_t bits = 0; bits <= 0xffffffffU; bits += 1499) // a prime number
+        numbers.push_back(std::bit_cast<float>(static_cast<std::uint32_t>(bits)));
+    sweep<KnMFFloat>(numbers);
+}
+
+void TestFieldValues::doublesReadBack()
+{
+    std::mt19937_64 random(1); // NOLINT: the same numbers each time
+    std::vector<double> numbers;
+    for (int i = 0; i < 500000; ++i)
+        numbers.push_back(std::bit_cast<double>(random()));
+    // Random patterns are seldom of a plain magnitude.
+    std::uniform_real_distribution<double> exponent(-6.0, 17.0);
+    for (int i = 0; i < 500000; ++i)
+        numbers.push_back(std::pow(10.0, exponent(random)));
+    using Limits = std::numeric_limits<double>;
+    for (const double corner : { 0.0, -0.0, Limits::min(), Limits::max(), Limits::denorm_min(),
+             Limits::epsilon(), Limits::infinity(), 9007199254740993.0, 5e-324, 1e23, 0.1, 1e15,
+             999999999999999.9, 1e-4 }) {
+        for (const double sign : { 1.0, -1.0 }) {
+            for (const double toward : { corner, 0.0, Limits::infinity() })
+                numbers.push_back(sign * std::nextafter(corner, toward));
+        }
+    }
+    sweep<KnMFDouble>(numbers);
+}
+
+void TestFieldValues::rowsChange()
+{
+    Errors<KnMemoryError> errors;
+    QByteArrayList results;
+    QByteArrayList expected;
+    for (const Row& row : rows) {
+        KnMFInt32 field;
+        field.set("[ 1, 2, 3 ]");
+        KnFieldSensor sensor(nullptr, nullptr);
+        sensor.attach(&field);
+        row.change(field);
+        const char* const heard = KnSensorQueue::getInstance().isEmpty() ? "untouched " : "";
+        results += heard + textOf(field);
+        expected += row.after ? row.after : "untouched [ 1, 2, 3 ]";
+    }
+    QCOMPARE(results, expected);
+    QCOMPARE(errors.texts.size(), 2);
+}
+
+void TestFieldValues::rowsOfTheArrayItselfMayBeGiven()
+{
+    KnMFString field;
+    field.set1Value(0, "a text that is too long for any small buffer of the string class");
+    for (int i = 1; i < 100; ++i)
+        field.set1Value(i, field[i - 1]);
+    QVERIFY(field[99] == field[0]);
+    field.set1Value(0, "first");
+    field.setValues(1, 100, field.getValues());
+    QVERIFY(field[1] == KbString("first") && field[2] == field[100] && field.getNum() == 101);
+}
+
+void TestFieldValues::namesAreTheFieldsOwn()
+{
+    KnSFEnum field;
+    field.setValue(-1);
+    QCOMPARE(textOf(field), QByteArray("-1"));
+    std::vector<KbName> given { "FRONT", "BACK" };
+    const int numbers[] = { 5, -1 };
+    field.setEnums(2, numbers, given.data());
+    given.assign(2, KbName());
+    int num = 0;
+    int* values = nullptr;
+    KbName* names = nullptr;
+    field.getEnums(num, values, names);
+    QVERIFY(num == 2 && values[0] == 5 && names[0] == KbName("FRONT"));
+    QVERIFY(field.findEnumValue("FRONT", num) && !field.findEnumValue("C", num) && num == 5);
+    ReadErrors errors;
+    field.setValue("C");
+    QCOMPARE(textOf(field), QByteArray("BACK"));
+    QVERIFY(errors.texts.join().endsWith("one of FRONT, BACK, found: C"));
+    field.setValue("FRONT");
+    QCOMPARE(field.getValue(), 5);
+}
+
+void TestFieldValues::maskByNamesAndNumbers()
+{
+    KnSFBitMask mask;
+    // A name for several bits serves when no other name has them.
+    mask.setEnums({ { "NONE", 0 }, { "BOTH", 6 }, { "LOW", 2 } });
+    for (const auto& [value, text] : { std::pair(0, "()"), std::pair(2, "(LOW)"),
+             std::pair(4, "(0x4)"), std::pair(7, "(BOTH | 0x1)") }) {
+        mask = value;
+        QCOMPARE(textOf(mask), QByteArray(text));
+        QVERIFY(mask.set(text) && mask.getValue() == value);
+    }
+    QVERIFY(mask.set("NONE") && mask.getValue() == 0);
+}
+
+void TestFieldValues::images()
+{
+    KbVec2s size;
+    int count = 0;
+    KnSFImage image;
+    for (int components = 1; components <= KnSFImage::maxComponents; ++components) {
+        std::string bytes(35 * static_cast<std::size_t>(components), '\0');
+        std::iota(bytes.begin(), bytes.end(), '\x70');
+        const auto* data = reinterpret_cast<const unsigned char*>(bytes.data());
+        KnSFImage from;
+        from.setValue(KbVec2s(7, 5), components, data);
+        QVERIFY(image.set(textOf(from).constData()));
+        const unsigned char* pixels = image.getValue(size, count);
+        QVERIFY(size == KbVec2s(7, 5) && count == components);
+        QVERIFY(std::equal(data, data + bytes.size(), pixels));
+        // The field's own pixels may be given back to it.
+        image.setValue(KbVec2s(7, 4), components, pixels + 7 * components);
+        QVERIFY(
+            std::equal(data + 7 * components, data + bytes.size(), image.getValue(size, count)));
+        image.setValue(KbVec2s(0, 4), components, nullptr);
+        QVERIFY(!image.getValue(size, count) && size == KbVec2s() && count == 0);
+        image.setValue(KbVec2s(1, 1), components, nullptr);
+        QVERIFY(image.getValue(size, count)[components - 1] == 0);
+    }
+    Errors<KnDebugError> errors;
+    for (const auto& [width, height, components] : { std::tuple(-1, 1, 1), std::tuple(1, -1, 1),
+             std::tuple(1, 1, -1), std::tuple(1, 1, KnSFImage::maxComponents + 1) })
+        image.setValue(KbVec2s(width, height), components, nullptr);
+    QCOMPARE(errors.texts.size(), 4);
+    QCOMPARE(textOf(image), QByteArray("1 1 8 0x0"));
+}
+
+QTEST_APPLESS_MAIN(TestFieldValues)
+#include "test_field_values.moc"

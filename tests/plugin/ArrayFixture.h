@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "TableInput.h"
+
+#include <QAbstractButton>
+#include <QUndoStack>
+
+/// The fixture of tests that show an array and work on it.
+class ArrayFixture : public EditorFixture {
+public:
+    /// Gives the first node's field of that type these values and selects it.
+    KnField& show(const char* type, const char* values)
+    {
+        KnField& shown = *field(type);
+        if (!shown.set(values))
+            qFatal("%s refuses %s", type, values);
+        select(&shown);
+        return shown;
+    }
+    TableInput table() const { return TableInput(*this); }
+    int commands() const { return undoStack().count(); }
+
+    void clickButton(const char* name)
+    {
+        QTest::mouseClick(child<QAbstractButton>(name), Qt::LeftButton);
+        settle();
+    }
+    /// A key where the focus is.
+    static void press(int key)
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+        settle();
+    }
+};
