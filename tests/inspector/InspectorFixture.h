@@ -1,54 +1,147 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "CommandLine.h"
+#include "CrvPluginsManager.h"
+#include "KnField.h"
 #include "MainWindow.h"
+#include "SceneReader.h"
+#include "SceneSearch.h"
+#include "SceneText.h"
 #include "Startup.h"
 
+#include <QDockWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
 
-class QAction;
-class QTreeView;
+using namespace Qt::StringLiterals;
 
 /// The program as a person meets it: the window with the built plug-ins loaded, shown and active,
 /// on a copy of the sample scene, with settings of its own.
 class InspectorFixture {
 public:
     /// `folder` holds scene and settings; a second fixture in the same one is the next start.
-    explicit InspectorFixture(const QTemporaryDir& folder, const QString& profile = {});
+    explicit InspectorFixture(const QTemporaryDir& folder, const QString& profile = u"Everything"_s)
+        : m_settings(folder.filePath(u"settings.ini"_s), QSettings::IniFormat)
+        , sceneFile(folder.filePath(u"scene.json"_s))
+        , window(&m_settings)
+        , startup(window)
+    {
+        CrvPluginsManager::getInstance()->useBuiltInProfiles();
+        QFile::copy(QStringLiteral(CORVANE_SCENES "/all_fields.json"), sceneFile);
+        CommandLine commandLine;
+        commandLine.scene = sceneFile;
+        commandLine.profile = profile;
+        commandLine.plugins = QStringList { QStringLiteral(CORVANE_PLUGIN),
+            QStringLiteral(CORVANE_EXAMPLE_PLUGIN) };
+        if (!startup.carryOut(commandLine))
+            qFatal("%s", qPrintable(startup.errorText()));
+        window.restoreLayout();
+        window.show();
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window))
+            qFatal("the window isn't active");
+    }
 
-    QString sceneFile() const;
+    /// By "Node.field".
+    KnField* field(const QString& place) { return find(window.document().root(), place); }
+    QString text(const QString& place) { return textOf(field(place)); }
     /// What the scene file says of a field, by the reader.
-    QString savedText(const QString& nodeAndField) const;
-    KnField* field(const QString& nodeAndField) const;
-    QString text(const QString& nodeAndField) const;
+    QString savedText(const QString& place)
+    {
+        const NodePtr root = SceneReader().readFile(sceneFile);
+        return textOf(find(root, place));
+    }
 
-    void clickNode(const QString& name);
-    void clickField(const QString& name);
-    /// Chooses an entry of a menu by a click; both go by object name.
-    void choose(const QString& menu, const QString& entry);
-    QAction* action(const QString& menu, const QString& entry) const;
-    QDockWidget* dock(const QString& title) const;
-    void press(const QKeySequence& keys);
+    /// Clicks a row of the tree or of the list.
+    void clickNode(const QString& name) { clickRow(u"sceneTree"_s, name); }
+    void clickField(const QString& node, const QString& name)
+    {
+        clickNode(node);
+        clickRow(u"fieldList"_s, name);
+    }
 
+    /// The entries of a menu by object name, a star behind those that are checked.
+    QString entries(const QString& menu) const
+    {
+        QStringList names;
+        for (const QAction* action : window.findChild<QMenu*>(menu)->actions()) {
+            if (!action->objectName().isEmpty())
+                names += action->objectName() + (action->isChecked() ? u"*"_s : QString());
+        }
+        return names.join(u", "_s);
+    }
+    /// Clicks an entry.
+    void choose(const QString& menu, const QString& entry)
+    {
+        auto* const popup = window.findChild<QMenu*>(menu);
+        auto* const action = popup->findChild<QAction*>(entry, Qt::FindDirectChildrenOnly);
+        popup->popup(QPoint());
+        QTest::mouseClick(popup, Qt::LeftButton, {}, popup->actionGeometry(action).center());
+        QCoreApplication::processEvents();
+    }
+
+    QDockWidget* dock(const QString& name) const { return window.findChild<QDockWidget*>(name); }
     /// A widget of the field editor shown.
     template <class Widget>
     Widget* inEditor() const
     {
-        return dock(QStringLiteral("Field Editor"))->widget()->findChild<Widget*>();
+        return dock(u"Field Editor"_s)->widget()->findChild<Widget*>();
+    }
+
+    void press(const QKeySequence& keys)
+    {
+        QTest::keySequence(window.focusWidget(), keys);
+        QCoreApplication::processEvents();
     }
 
     /// Clicks a button of the next message box.
-    void answerNextQuestion(QMessageBox::StandardButton button);
+    void answerNextQuestion(QMessageBox::StandardButton button)
+    {
+        auto* const timer = new QTimer(&window);
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, button] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            timer->deleteLater();
+            QTest::mouseClick(box->button(button), Qt::LeftButton);
+        });
+        timer->start(0);
+    }
 
 private:
-    void clickRow(const QString& view, const QString& name);
+    static KnField* find(const NodePtr& root, const QString& place)
+    {
+        SceneSearch search;
+        search.find(root.get(), place);
+        return search.field();
+    }
+    static QString textOf(const KnField* field)
+    {
+        KbString text;
+        field->get(text);
+        return toQString(text);
+    }
+    void clickRow(const QString& view, const QString& name)
+    {
+        auto* const tree = window.findChild<QTreeView*>(view);
+        const QModelIndex top = tree->model()->index(0, 0);
+        const auto how = Qt::MatchExactly | Qt::MatchRecursive;
+        const QModelIndex found = tree->model()->match(top, Qt::DisplayRole, name, 1, how).value(0);
+        tree->scrollTo(found);
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(found).center());
+        QCoreApplication::processEvents();
+    }
 
-    const QTemporaryDir& m_folder;
     QSettings m_settings;
 
 public:
+    const QString sceneFile;
     MainWindow window;
     Startup startup;
 };

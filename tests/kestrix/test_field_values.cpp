@@ -45,6 +45,7 @@ const Row rows[] = {
     { [](auto& f) { f.removeValues(1, -1); }, nullptr },
     { [](auto& f) { f.setNum(1); }, "[ 1 ]" },
     { [](auto& f) { f.setNum(-1); }, "[]" },
+    { [](auto& f) { f.set1(0, "0x10"); }, "[ 16, 2, 3 ]" },
     { [](auto& f) { f.valueChanged(0, 3, 1); }, "[ 1, 2, 3 ]" },
     // One row more than a row number can count.
     { [](auto& f) { f.set1Value(intMax, 1); }, nullptr },

@@ -99,7 +99,8 @@ private Q_SLOTS:
         std::streambuf* const output = std::cout.rdbuf();
         std::streambuf* const errors = std::cerr.rdbuf();
         const KnErrorCallback handler = KnError::getHandlerCallback();
-        for (int i = 0; i < 50; ++i) {
+        const int rounds = CORVANE_MODULE_STAYS ? 50 : 200;
+        for (int i = 0; i < rounds; ++i) {
             const KbAllocationCount before = allocationCount();
             QVERIFY(load());
             QVERIFY(allocationCount().calls > before.calls);

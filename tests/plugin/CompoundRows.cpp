@@ -125,8 +125,7 @@ std::vector<EditorRow> compoundRows()
             "\xC3\x9C"
             "BER" },
         { "SFFilePathString", "WfSFFilePathStringWidget", "\"a b\"", typePath,
-            "\"/a b/\\\"x\\\".png\"", 1, lines<pathLine>, "a b",
-            "/a b/\"x\".png", "\"\"", "" },
+            "\"/a b/\\\"x\\\".png\"", 1, lines<pathLine>, "a b", "/a b/\"x\".png", "\"\"", "" },
         // Nothing to edit here.
         { "SFImage", "WfSFImageWidget", "1 1 3 0xff0000", [](EditorFixture&) {}, "1 1 3 0xff0000",
             0, thumbnailShown, "#ff0000", "#ff0000", "1 1 1 0x80", "#808080" },

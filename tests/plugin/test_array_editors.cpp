@@ -115,7 +115,6 @@ private Q_SLOTS:
             const QPointer<QWidget> editor = m_fixture->table().openEditor();
             leave(*m_fixture);
             QTRY_VERIFY(!editor);
-            field.set(toKbString(EditorFixture::text(&field)));
             QVERIFY(EditorFixture::text(&field).startsWith(after.chopped(2)));
             QCOMPARE(EditorFixture::text(&other), before);
             QCOMPARE(m_fixture->commands(), written == 78 && qstrcmp(type, "MFString") == 0);
@@ -282,7 +281,7 @@ private Q_SLOTS:
         alone.set("[ 1 ]");
         m_fixture->select(&alone);
         m_fixture->clickButton("m_defaultButton");
-        QCOMPARE(EditorFixture::text(&alone), QStringLiteral("1"));
+        QCOMPARE(EditorFixture::text(&alone), QStringLiteral("[ 1 ]"));
         QCOMPARE(m_fixture->commands(), 0);
         m_fixture->select(nullptr);
     }

@@ -88,7 +88,7 @@ private Q_SLOTS:
         EditorFixture::write(field, "FIRST");
         QCOMPARE(box->currentText(), QStringLiteral("FIRST"));
         const int width = box->sizeHint().width();
-        fixture.otherNode().SFEnum.setEnums({ { "A_NAME_THAT_NEEDS_MUCH_MORE_ROOM", 0 } });
+        fixture.otherNode().SFEnum.setEnums({ { "A_NAME_THAT_NEEDS_MUCH_MORE_ROOM", 1 } });
         fixture.select(fixture.otherField("SFEnum"));
         QVERIFY(box->sizeHint().width() > 2 * width);
         fixture.select(field);

@@ -103,13 +103,15 @@ private Q_SLOTS:
         QTest::newRow("add at the end")
             << make<CrvMFAddRowsCommand>(4, 1) << "[ \"a\", \"b\", \"c\\n\\\"\", \"\", \"\" ]";
         QTest::newRow("add in front")
-            << make<CrvMFAddRowsCommand>(0, 2) << "[ \"\", \"\", \"a\", " + tail;
-        QTest::newRow("delete in front") << make<CrvMFDeleteRowsCommand>(0, 1) << "[ " + tail;
+            << make<CrvMFAddRowsCommand>(0, 2) << QStringLiteral("[ \"\", \"\", \"a\", ") + tail;
+        QTest::newRow("delete in front")
+            << make<CrvMFDeleteRowsCommand>(0, 1) << QStringLiteral("[ ") + tail;
         QTest::newRow("delete the end") << make<CrvMFDeleteRowsCommand>(1, 3) << "[ \"a\" ]";
         QTest::newRow("delete all") << make<CrvMFDeleteRowsCommand>(0, 4) << "[]";
         QTest::newRow("swap") << make<CrvMFSwapRowsCommand>(0, 2)
                               << "[ \"c\\n\\\"\", \"b\", \"a\", \"\" ]";
-        QTest::newRow("swap with itself") << make<CrvMFSwapRowsCommand>(1, 1) << "[ \"a\", " + tail;
+        QTest::newRow("swap with itself")
+            << make<CrvMFSwapRowsCommand>(1, 1) << QStringLiteral("[ \"a\", ") + tail;
     }
     void rowsGoAndComeBack()
     {
