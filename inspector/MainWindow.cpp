@@ -154,6 +154,11 @@ void MainWindow::restoreLayout()
     m_layoutRestored = restoreState(m_settings->value(layoutKey()).toByteArray(), layoutVersion);
     for (QDockWidget* dock : std::as_const(hidden))
         dock->hide();
+    m_viewMenu->takeOverPanes();
+    // A dock that had nothing to show last time is needed now, if something is selected already.
+    CrvServices* const services = CrvServices::getInstance();
+    if (services->getSelectedNode())
+        services->announceSelection();
 }
 
 void MainWindow::addDockWidget(QDockWidget* dock, int area)

@@ -104,7 +104,7 @@ SceneChanges::~SceneChanges() = default;
 
 void SceneChanges::watch(KnFieldContainer* node)
 {
-    if (!node || m_watches.count(node))
+    if (!node || m_watches.contains(node))
         return;
     auto& watches = m_watches[node];
     const KnFieldData* const data = node->getContainerFieldData();

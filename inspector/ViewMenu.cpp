@@ -65,6 +65,12 @@ void ViewMenu::removePane(QWidget* pane)
     std::erase(m_panes, pane);
 }
 
+void ViewMenu::takeOverPanes()
+{
+    for (QWidget* pane : std::vector<QWidget*>(m_panes))
+        paneToggled(pane);
+}
+
 bool ViewMenu::belongs(const QWidget* pane, const CrvExtension* extension)
 {
     return pane->windowTitle() == toQString(extension->getName());

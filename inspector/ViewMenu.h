@@ -20,6 +20,9 @@ public:
     /// A dock or a tool bar.
     void addPane(QWidget* pane);
     void removePane(QWidget* pane);
+    /// To be called when panes were shown or hidden without a word, as a restored layout does while
+    /// the window isn't on the screen.
+    void takeOverPanes();
 
     /// What comes behind the extensions is added before this action.
     QAction* endOfExtensions() const { return m_end; }

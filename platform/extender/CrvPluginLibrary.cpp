@@ -61,7 +61,7 @@ QString CrvPluginLibrary::load()
         missing += QLatin1String(loadName);
     if (!m_unloadPlugin)
         missing += QLatin1String(unloadName);
-    if (!missing.isEmpty())
+    if (!loadPlugin || !m_unloadPlugin)
         return tr("this library is no plug-in, it lacks %1")
             .arg(missing.join(QStringLiteral(", ")));
 

@@ -101,7 +101,7 @@ void CrvServices::selectNode(KnFieldContainer* node)
         m_node = node;
     }
     if (std::exchange(m_field, nullptr))
-        Q_EMIT selectedFieldChanged(nullptr);
+        announceField(nullptr);
     if (!nodeChanges)
         return;
     if (m_node == node)
@@ -122,7 +122,13 @@ void CrvServices::selectField(KnField* field)
             return;
     }
     m_field = field;
+    announceField(field);
+}
+
+void CrvServices::announceField(KnField* field)
+{
     Q_EMIT selectedFieldChanged(field);
+    m_shownField = m_field;
 }
 
 KnFieldContainer* CrvServices::getSelectedNode() const { return m_node; }
@@ -132,7 +138,7 @@ KnField* CrvServices::getSelectedField() const { return m_field; }
 void CrvServices::announceSelection()
 {
     Q_EMIT selectedNodeChanged(m_node);
-    Q_EMIT selectedFieldChanged(m_field);
+    announceField(m_field);
 }
 
 void CrvServices::executeCommand(CrvCommand* command)
@@ -140,7 +146,7 @@ void CrvServices::executeCommand(CrvCommand* command)
     if (!command)
         return;
     auto entry
-        = std::make_unique<UndoEntry>(std::unique_ptr<CrvCommand>(command), undoText(m_field));
+        = std::make_unique<UndoEntry>(std::unique_ptr<CrvCommand>(command), undoText(m_shownField));
     m_undoStack->push(entry.release()); // which owns it
 }
 

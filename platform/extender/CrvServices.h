@@ -44,7 +44,11 @@ protected:
     ~CrvServices() override;
 
 private:
+    void announceField(KnField* field);
+
     KnFieldContainer* m_node = nullptr; // a reference is held
     KnField* m_field = nullptr; // lives in m_node, or stands alone
+    // What an editor may still show, and commit, while a new selection is being announced.
+    KnField* m_shownField = nullptr;
     QUndoStack* m_undoStack; // child
 };

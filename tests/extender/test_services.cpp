@@ -158,6 +158,15 @@ private Q_SLOTS:
             m_services->executeCommand(new NotingCommand);
             QCOMPARE(m_services->getUndoStack()->undoText(), text);
         }
+
+        // An editor that is still being left commits for the field that it shows.
+        m_services->selectField(&m_a.number);
+        QObject context;
+        connect(
+            m_services, &CrvServices::selectedFieldChanged, &context,
+            [this] { m_services->executeCommand(new NotingCommand); }, Qt::SingleShotConnection);
+        m_services->selectField(&m_a.color);
+        QCOMPARE(m_services->getUndoStack()->undoText(), u"Edit A.transparency"_s);
     }
 
     void sensorsRunOnceABatch()

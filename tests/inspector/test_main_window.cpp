@@ -211,6 +211,7 @@ void TestMainWindow::layoutComesBack()
     InspectorFixture inspector(*m_folder);
     QVERIFY(inspector.dock(u"historyDock"_s)->isHidden());
     QVERIFY(inspector.dock(u"Console"_s)->isHidden());
+    QVERIFY(!inspector.entries(u"viewMenu"_s).contains(u"Console*"_s));
     // It was open, but there is nothing to edit yet.
     QVERIFY(inspector.dock(u"Field Editor"_s)->isHidden());
 }

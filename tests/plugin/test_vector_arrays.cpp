@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "TableInput.h"
+#include "ArrayFixture.h"
 
 #include <QRandomGenerator>
-#include <QUndoStack>
 
 #include <bit>
 
@@ -13,16 +12,17 @@ WfMFieldWidget& editor(const EditorFixture& fixture)
     return *static_cast<WfMFieldWidget*>(fixture.editor());
 }
 
-/// So many floats of any bits but those of infinity and of no number.
-QString randomRow(QRandomGenerator& random, int count)
+/// The text of 50 rows of floats of any bits but those of infinity and of no number.
+QByteArray randomArray(int count)
 {
-    QStringList numbers;
-    while (numbers.size() < count) {
+    QRandomGenerator random(count);
+    QByteArray text;
+    for (int i = 0; i < 50 * count; ++i) {
         const float number = std::bit_cast<float>(random.generate());
-        if (std::isfinite(number))
-            numbers << QString::number(double(number), 'g', 9);
+        text += i % count == 0 ? ", " : " ";
+        text += QByteArray::number(std::isfinite(number) ? double(number) : 1.0, 'g', 9);
     }
-    return numbers.join(u' ');
+    return '[' + text.mid(1) + " ]";
 }
 
 } // namespace
@@ -33,135 +33,102 @@ class TestVectorArrays : public QObject {
 private Q_SLOTS:
     void init() { failOnWarnings(); }
 
-    void columns_data()
-    {
-        QTest::addColumn<QString>("headers");
-        QTest::newRow("MFVec2f") << QStringLiteral("x y");
-        QTest::newRow("MFVec2i32") << QStringLiteral("x y");
-        QTest::newRow("MFVec2s") << QStringLiteral("x y");
-        QTest::newRow("MFVec3f") << QStringLiteral("x y z");
-        QTest::newRow("MFVec4f") << QStringLiteral("x y z w");
-        QTest::newRow("MFPlane") << QStringLiteral("x y z distance");
-        QTest::newRow("MFRotation") << QStringLiteral("x y z radians");
-        QTest::newRow("MFColor") << QStringLiteral("Color R G B");
-        QTest::newRow("MFColorRGBA") << QStringLiteral("Color R G B A");
-    }
     void columns()
     {
-        QFETCH(QString, headers);
-        EditorFixture fixture;
-        auto* const field = static_cast<KnMField*>(fixture.field(QTest::currentDataTag()));
-        field->setNum(3);
-        fixture.select(field);
-        const TableInput table(fixture);
-        QStringList shown;
-        for (int column = 0; column < table->columnCount(); ++column)
-            shown << table->horizontalHeaderItem(column)->text();
-        QCOMPARE(shown.join(u' '), headers);
+        ArrayFixture fixture;
+        const std::pair<const char*, const char*> types[]
+            = { { "MFVec2f", "x y" }, { "MFVec2i32", "x y" }, { "MFVec2s", "x y" },
+                  { "MFVec3f", "x y z" }, { "MFVec4f", "x y z w" }, { "MFPlane", "x y z distance" },
+                  { "MFRotation", "x y z radians" }, { "MFColor", "Color R G B" },
+                  { "MFColorRGBA", "Color R G B A" } };
+        for (const auto& [type, headers] : types) {
+            static_cast<KnMField*>(fixture.field(type))->setNum(3);
+            fixture.select(fixture.field(type));
+            QStringList shown;
+            for (int column = 0; column < fixture.table()->columnCount(); ++column)
+                shown << fixture.table()->horizontalHeaderItem(column)->text();
+            QCOMPARE(shown.join(u' '), QLatin1String(headers));
 
-        // Cells that aren't there, or not any more, are left alone.
-        const QString before = EditorFixture::text(field);
-        const KbVec4f color;
-        WfMFieldWidget& widget = editor(fixture);
-        for (const int row : { -1, 3, 1000000 }) {
-            widget.setFieldValue(row, 0, QStringLiteral("1"));
-            widget.setFieldColor(row, &color);
-            widget.swapFieldValues(row, 0);
-            widget.swapFieldValues(0, row);
-            QCOMPARE(widget.getCellText(row, 1), QString());
+            // Cells that aren't there, or not any more, are left alone.
+            const QString before = EditorFixture::text(fixture.field(type));
+            const KbVec4f color;
+            QString beyond;
+            for (const int row : { -1, 3, 1000000 }) {
+                editor(fixture).setFieldValue(row, 0, QStringLiteral("1"));
+                editor(fixture).setFieldColor(row, &color);
+                editor(fixture).swapFieldValues(row, 0);
+                editor(fixture).swapFieldValues(0, row);
+                beyond += editor(fixture).getCellText(row, 1);
+            }
+            beyond += editor(fixture).getCellText(0, -1)
+                + editor(fixture).getCellText(0, int(shown.size()));
+            QCOMPARE(beyond, QString());
+            QCOMPARE(EditorFixture::text(fixture.field(type)), before);
+            QCOMPARE(fixture.commands(), 0);
         }
-        QCOMPARE(widget.getCellText(0, -1), QString());
-        QCOMPARE(widget.getCellText(0, int(shown.size())), QString());
-        QCOMPARE(EditorFixture::text(field), before);
-        QCOMPARE(fixture.undoStack().count(), 0);
     }
 
-    void anEditGoesBackBitForBit_data()
-    {
-        QTest::addColumn<int>("count");
-        QTest::newRow("MFVec2f") << 2;
-        QTest::newRow("MFPlane") << 4;
-        QTest::newRow("MFRotation") << 4;
-    }
     void anEditGoesBackBitForBit()
     {
-        QFETCH(int, count);
-        EditorFixture fixture;
-        KnField* const field = fixture.field(QTest::currentDataTag());
-        QRandomGenerator random(count);
-        QStringList rows;
-        for (int row = 0; row < 50; ++row)
-            rows << randomRow(random, count);
-        const QString text = QStringLiteral("[ %1 ]").arg(rows.join(QStringLiteral(", ")));
-        EditorFixture::write(field, text.toLatin1().constData());
-        fixture.select(field);
-        const QString before = EditorFixture::text(field);
-        for (int row = 0; row < rows.size(); ++row) {
-            editor(fixture).setFieldValue(row, row % count, QStringLiteral("0.25"));
-            const QString edited = EditorFixture::text(field);
-            QVERIFY(edited != before);
-            fixture.undo();
-            QCOMPARE(EditorFixture::text(field), before);
-            fixture.redo();
-            QCOMPARE(EditorFixture::text(field), edited);
-            fixture.undo();
+        ArrayFixture fixture;
+        const std::pair<const char*, int> types[]
+            = { { "MFVec2f", 2 }, { "MFPlane", 4 }, { "MFRotation", 4 }, { "MFColor", 3 } };
+        for (const auto& [type, count] : types) {
+            KnField& field = fixture.show(type, randomArray(count));
+            const QString before = EditorFixture::text(&field);
+            for (int row = 0; row < 50; ++row) {
+                editor(fixture).setFieldValue(row, row % count, QStringLiteral("0.25"));
+                const QString edited = EditorFixture::text(&field);
+                QVERIFY(edited != before);
+                fixture.undo();
+                QCOMPARE(EditorFixture::text(&field), before);
+                fixture.redo();
+                QCOMPARE(EditorFixture::text(&field), edited);
+                fixture.undo();
+            }
+            // Rows are exchanged as exactly, and without a command.
+            const int commands = fixture.commands();
+            editor(fixture).swapFieldValues(0, 1);
+            editor(fixture).swapFieldValues(1, 1);
+            const QString between = QStringLiteral(", ");
+            QStringList rows = before.mid(2).split(between);
+            rows.swapItemsAt(0, 1);
+            QCOMPARE(EditorFixture::text(&field), before.left(2) + rows.join(between));
+            QCOMPARE(fixture.commands(), commands);
         }
     }
 
-    void typing_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("shown"); // in a cell that held 8
-        const auto row = [](const char* type, const char* typed, const char* shown) {
-            QTest::addRow("%s: %s", type, typed)
-                << QString::fromLatin1(typed) << QString::fromLatin1(shown);
-        };
-        row("MFVec2f", "1234567.8", "1.23457e+06");
-        row("MFVec2f", "1,5", "15");
-        row("MFVec2f", "1e39", "8");
-        row("MFVec2i32", "1.5", "15");
-        row("MFVec2i32", "2147483648", "8");
-        row("MFVec2s", "-32768", "-32768");
-        row("MFVec2s", "32768", "0");
-    }
     void typing()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, shown);
-        EditorFixture fixture;
-        KnField* const field
-            = fixture.field(QByteArray(QTest::currentDataTag()).split(':').first().constData());
-        EditorFixture::write(field, "[ 8 8 ]");
-        fixture.select(field);
-        TableInput(fixture).typeInto(0, 1, typed);
-        QCOMPARE(editor(fixture).getCellText(0, 1), shown);
-        QCOMPARE(fixture.undoStack().count(), shown == QLatin1String("8") ? 0 : 1);
-    }
-
-    void rowsAreExchangedWithoutACommand_data()
-    {
-        QTest::addColumn<QByteArray>("first");
-        QTest::addColumn<QByteArray>("second");
-        // Neither normal nor axis has the length 1.
-        QTest::newRow("MFPlane") << QByteArray("1 2 3 4") << QByteArray("0 0 0.1 6");
-        QTest::newRow("MFRotation") << QByteArray("1 2 3 4") << QByteArray("0 0 0.1 6");
-        QTest::newRow("MFColor") << QByteArray("1 2 3") << QByteArray("4 5 6");
-        QTest::newRow("MFMatrix") << QByteArray("1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16")
-                                  << QByteArray("1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1");
-    }
-    void rowsAreExchangedWithoutACommand()
-    {
-        QFETCH(QByteArray, first);
-        QFETCH(QByteArray, second);
-        EditorFixture fixture;
-        KnField* const field = fixture.field(QTest::currentDataTag());
-        EditorFixture::write(field, ("[ " + first + ", " + second + " ]").constData());
-        fixture.select(field);
-        editor(fixture).swapFieldValues(0, 1);
-        editor(fixture).swapFieldValues(1, 1);
-        QCOMPARE(
-            EditorFixture::text(field), QString::fromLatin1("[ " + second + ", " + first + " ]"));
-        QCOMPARE(fixture.undoStack().count(), 0);
+        // Into the second column. Return in a line that nobody changed writes the value that is
+        // there, of which the line shows six digits.
+        const char* const rows[][4] = {
+            { "MFVec2f", "[ 8 8 ]", "1234567.8", "[ 8 1234567.8 ]" },
+            { "MFVec2f", "[ 8 8 ]", "1,5", "[ 8 15 ]" },
+            { "MFVec2f", "[ 8 8 ]", "1e39", "[ 8 8 ]" },
+            { "MFVec2i32", "[ 8 8 ]", "1.5", "[ 8 15 ]" },
+            { "MFVec2i32", "[ 8 8 ]", "2147483648", "[ 8 8 ]" },
+            { "MFVec2s", "[ 8 8 ]", "-32768", "[ 8 -32768 ]" },
+            { "MFVec2s", "[ 8 8 ]", "32768", "[ 8 0 ]" },
+            { "MFVec2s", "[ 8 8 ]", "word", "[ 8 0 ]" },
+            { "MFColor", "[ 0.12345679 0 0 ]", "", "[ 0.12345679 0 0 ]" },
+            { "MFColor", "[ 0.12345679 0 0 ]", "1.5", "[ 0.12345679 0 0 ]" },
+            { "MFColor", "[ 0.12345679 0 0 ]", "-0.000001", "[ 0.12345679 0 0 ]" },
+            { "MFColor", "[ 0.12345679 0 0 ]", "0", "[ 0 0 0 ]" },
+            { "MFColor", "[ 0.12345679 0 0 ]", "1", "[ 1 0 0 ]" },
+        };
+        ArrayFixture fixture;
+        for (const auto& [type, start, typed, end] : rows) {
+            const KnField& field = fixture.show(type, start);
+            const int commands = fixture.commands();
+            QLineEdit* const line = TableInput::line(fixture.table().open(0, 1));
+            if (*typed)
+                line->selectAll();
+            QTest::keyClicks(line, QLatin1String(typed));
+            fixture.press(Qt::Key_Return);
+            QCOMPARE(EditorFixture::text(&field), QLatin1String(end));
+            QCOMPARE(fixture.commands() - commands, qstrcmp(start, end) != 0 || !*typed ? 1 : 0);
+        }
     }
 };
 

@@ -12,8 +12,7 @@
 
 void failOnWarnings()
 {
-    QTest::failOnWarning(
-        QRegularExpression(QStringLiteral("^(?!This plugin does not support )")));
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support )")));
 }
 
 EditorFixture::EditorFixture()

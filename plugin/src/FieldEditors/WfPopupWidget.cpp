@@ -2,6 +2,7 @@
 #include "WfPopupWidget.h"
 
 #include "ComponentValidator.h"
+#include "PanelParts.h"
 #include "Pixmaps.h"
 #include "PopupGrid.h"
 #include "PopupPlacement.h"
@@ -29,7 +30,7 @@ void WfPopupWidget::load()
 {
     WfSFLineWidget::load();
 
-    m_editButton = makeButton("m_editButton", m_editPixmap);
+    m_editButton = makeIconButton(getFrame(), "m_editButton", m_editPixmap);
     m_buttonLayout->insertWidget(0, m_editButton, 0);
     connect(m_editButton, &QPushButton::clicked, this, &WfPopupWidget::managePopFramePos);
     m_lineEdit->setEnabled(false);

@@ -48,7 +48,7 @@ void WfTablePopupWidget::load()
 void WfTablePopupWidget::buildPopup()
 {
     m_popupFrame = makePopupFrame(getFrame(), m_editButton);
-    m_lineEdits.resize(static_cast<std::size_t>(m_rows * m_columns));
+    m_lineEdits.resize(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_columns));
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column) {
             const int index = row + column * m_columns;

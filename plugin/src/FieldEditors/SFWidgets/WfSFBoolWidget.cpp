@@ -7,6 +7,7 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
+#include <QFrame>
 
 WfSFBoolWidget::WfSFBoolWidget(const char* name)
     : WfSFieldWidget(name)

@@ -4,6 +4,7 @@
 #include "FieldActions.h"
 #include "KnField.h"
 #include "LayoutMetrics.h"
+#include "PanelParts.h"
 #include "Pixmaps.h"
 #include "WfIntSlider.h"
 #include "WfRealSlider.h"
@@ -35,11 +36,6 @@ WfSlider* makeSlider(int kind, CrvFieldEditors* owner, QWidget* parent)
     default:
         return nullptr;
     }
-}
-
-void setMargins(QLayout* layout, int margin)
-{
-    layout->setContentsMargins(margin, margin, margin, margin);
 }
 
 } // namespace
@@ -80,14 +76,7 @@ void WfSFieldWidget::load()
     m_fieldLayout->setSpacing(layoutMetric(QStringLiteral("SFieldLayoutSpacing")));
     m_fieldLayout->setObjectName(QStringLiteral("SFieldLayout"));
 
-    m_label->setObjectName(QStringLiteral("m_label"));
-    QFont font = m_label->font();
-    font.setPointSize(layoutMetric(QStringLiteral("labelPointSize")));
-    m_label->setFont(font);
-    m_label->setFrameShape(QFrame::Box);
-    m_label->setFrameShadow(QFrame::Plain);
-    m_label->setLineWidth(layoutMetric(QStringLiteral("labelLineWidth")));
-    m_label->setScaledContents(true);
+    styleTitleLabel(m_label);
     m_fieldLayout->addWidget(m_label, 0);
 
     m_labelSpacer = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
@@ -121,9 +110,9 @@ void WfSFieldWidget::load()
     m_buttonLayout->setSpacing(layoutMetric(QStringLiteral("SFButtonLayoutSpacing")));
     m_buttonLayout->setObjectName(QStringLiteral("SFieldLayout"));
 
-    m_defaultButton = makeButton("m_defaultButton", m_defaultPixmap);
+    m_defaultButton = makeIconButton(frame, "m_defaultButton", m_defaultPixmap);
     m_buttonLayout->addWidget(m_defaultButton, 0);
-    m_ignoreButton = makeButton("m_ignoreButton", m_ignorePixmap);
+    m_ignoreButton = makeIconButton(frame, "m_ignoreButton", m_ignorePixmap);
     m_ignoreButton->setCheckable(true);
     m_buttonLayout->addWidget(m_ignoreButton, 0);
 
@@ -136,19 +125,6 @@ void WfSFieldWidget::load()
     connect(m_defaultButton, &QPushButton::clicked, this, &WfSFieldWidget::setDefaultFieldValue);
     connect(
         m_ignoreButton, &QPushButton::released, this, &WfSFieldWidget::ignoreButtonStateChanged);
-    // A click on them must not take the focus from a line edit.
-    m_defaultButton->setFocusPolicy(Qt::NoFocus);
-    m_ignoreButton->setFocusPolicy(Qt::NoFocus);
-}
-
-QPushButton* WfSFieldWidget::makeButton(const char* name, const QPixmap& icon)
-{
-    auto* const button = new QPushButton(getFrame());
-    button->setObjectName(QLatin1String(name));
-    button->setMaximumSize(
-        layoutMetric(QStringLiteral("buttonWidth")), layoutMetric(QStringLiteral("buttonHeight")));
-    button->setIcon(QIcon(icon));
-    return button;
 }
 
 void WfSFieldWidget::attachField(KnField* field)

@@ -51,8 +51,6 @@ protected Q_SLOTS:
     void applyChanges() override;
 
 protected:
-    /// A small icon button of the row, child of the frame; the caller adds it to m_buttonLayout.
-    QPushButton* makeButton(const char* name, const QPixmap& icon);
     /// Lets the space on both sides of the edition frame grow, so that the inputs stay small.
     void spreadRow();
 
