@@ -6,7 +6,6 @@
 #include "CrvPlugin.h"
 
 #include <QCoreApplication>
-#include <QStringList>
 #include <QVariant>
 
 #include <functional>
@@ -17,16 +16,16 @@
 /// text is copied, since a module and its literals go away.
 inline void note(const std::string& call)
 {
-    const QStringList calls = qApp->property("calls").toStringList();
-    qApp->setProperty("calls", calls + QStringList(QString::fromStdString(call)));
+    const QString calls = qApp->property("calls").toString();
+    qApp->setProperty("calls", calls + QLatin1String(", ") + QString::fromStdString(call));
 }
 
 /// What has been noted since this was last called, as "a, b, c".
 inline QString takeCalls()
 {
-    const QStringList calls = qApp->property("calls").toStringList();
-    qApp->setProperty("calls", QStringList());
-    return calls.join(QLatin1String(", "));
+    const QString calls = qApp->property("calls").toString();
+    qApp->setProperty("calls", QVariant());
+    return calls.mid(2);
 }
 
 /// Notes what the host does with it.

@@ -16,42 +16,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A node that the test holds.
-struct Node {
+/// A node that the test holds; its count never falls to 0.
+class Node : public KnMaterial {
+public:
     explicit Node(const char* name)
     {
-        material->ref();
-        material->setName(KbName(name));
+        ref();
+        setName(KbName(name));
     }
-    ~Node() { material->unref(); }
-    Q_DISABLE_COPY_MOVE(Node)
-
-    KnMaterial* const material = new KnMaterial;
-    KnSFFloat& number = material->transparency;
-    KnSFColor& color = material->ambientColor;
 };
 
-/// Counts the runs of a sensor on a field, and can write the field from within.
-struct Watch {
-    explicit Watch(KnSFFloat& watched)
-        : field(watched)
-    {
-        sensor.attach(&watched);
-    }
+void count(void* runs, KnSensor*) { ++*static_cast<int*>(runs); }
 
-    static void changed(void* data, KnSensor*)
-    {
-        auto* watch = static_cast<Watch*>(data);
-        ++watch->runs;
-        if (watch->writes-- > 0)
-            watch->field.setValue(watch->field.getValue() + 1);
-    }
-
-    KnSFFloat& field;
-    KnFieldSensor sensor { &Watch::changed, this };
-    int runs = 0;
-    int writes = 0;
-};
+/// Writes the field that is watched, up to 3.
+void countUp(void* data, KnSensor*)
+{
+    auto* const field = static_cast<KnSFFloat*>(data);
+    if (field->getValue() < 3)
+        field->setValue(field->getValue() + 1);
+}
 
 } // namespace
 
@@ -65,65 +48,59 @@ private Q_SLOTS:
         m_services = CrvServices::getInstance();
         m_application = std::make_unique<QCoreApplication>(m_argumentCount, nullptr);
         QCOMPARE(CrvServices::getInstance(), m_services);
-        const auto name = [](KnFieldContainer* node) {
-            return node ? node->getName().getString().toUtf8() : std::string("none");
-        };
-        connect(m_services, &CrvServices::selectedNodeChanged, m_services,
-            [name](KnFieldContainer* node) { note("node " + name(node)); });
-        connect(m_services, &CrvServices::selectedFieldChanged, m_services, [name](KnField* field) {
-            note(field ? "field of " + name(field->getContainer()) : "no field");
+        connect(m_services, &CrvServices::selectedNodeChanged, this, [](KnFieldContainer* node) {
+            note(node ? "node " + node->getName().getString().toUtf8() : "no node");
         });
+        connect(m_services, &CrvServices::selectedFieldChanged, this,
+            [](const KnField* field) { note(field ? "field" : "no field"); });
     }
     void cleanup()
     {
         m_application.reset();
-        QCOMPARE(m_a.material->getReferenceCount(), 1); // which the services have let go
+        QCOMPARE(m_a.getReferenceCount(), 1); // which the services have let go
     }
 
     void selectionSignals()
     {
-        m_services->selectNode(m_a.material);
-        m_services->selectNode(m_a.material);
-        m_services->selectNode(m_b.material);
+        m_services->selectNode(&m_a);
+        m_services->selectNode(&m_a);
+        m_services->selectNode(&m_b);
         m_services->selectNode(nullptr);
-        QCOMPARE(takeCalls(), u"node A, node B, node none"_s);
-        m_services->selectField(&m_a.number);
-        m_services->selectField(&m_a.number);
-        m_services->selectField(&m_a.color);
-        m_services->selectNode(m_a.material);
-        QCOMPARE(takeCalls(), u"node A, field of A, field of A, no field"_s);
-        m_services->selectField(&m_a.color);
-        m_services->selectField(&m_b.number);
+        QCOMPARE(takeCalls(), u"node A, node B, no node"_s);
+        m_services->selectField(&m_number);
+        m_services->selectField(&m_number);
+        m_services->selectField(m_color);
+        m_services->selectNode(&m_a);
+        QCOMPARE(takeCalls(), u"node A, field, field, no field"_s);
+        m_services->selectField(m_color);
+        m_services->selectField(&m_b.transparency);
         m_services->announceSelection();
         m_services->selectField(nullptr);
-        QCOMPARE(takeCalls(),
-            u"field of A, no field, node B, field of B, node B, field of B, no field"_s);
-        m_services->selectField(&m_b.number);
-        m_services->selectNode(m_a.material);
+        m_services->selectField(&m_b.transparency);
+        m_services->selectNode(&m_a);
         m_services->selectField(&m_loose);
         m_services->selectNode(nullptr);
-        QCOMPARE(
-            takeCalls(), u"field of B, no field, node A, node none, field of none, no field"_s);
+        QCOMPARE(takeCalls(),
+            u"field, no field, node B, field, node B, field, "
+            "no field, field, no field, node A, no node, field, no field"_s);
     }
 
     void laterSelectionWins()
     {
-        m_services->selectField(&m_a.number);
-        QObject context;
-        connect(m_services, &CrvServices::selectedFieldChanged, &context, [&](KnField* field) {
+        m_services->selectField(&m_number);
+        connect(m_services, &CrvServices::selectedFieldChanged, this, [&](KnField* field) {
             if (!field)
-                m_services->selectField(&m_b.color);
+                m_services->selectField(&m_b.ambientColor);
         });
-        int countInSlot = 0;
-        connect(m_services, &CrvServices::selectedNodeChanged, &context,
-            [&] { countInSlot = m_a.material->getReferenceCount(); });
+        // Whoever still shows the former node finds it alive.
+        connect(m_services, &CrvServices::selectedNodeChanged, this,
+            [&] { note(std::to_string(m_a.getReferenceCount())); });
         takeCalls();
         m_services->selectNode(nullptr);
-        QCOMPARE(takeCalls(), u"no field, node B, field of B"_s);
-        QCOMPARE(m_services->getSelectedField(), &m_b.color);
-        QCOMPARE(countInSlot, 2); // whoever still shows the former node finds it alive
-        QCOMPARE(m_a.material->getReferenceCount(), 1);
-        QCOMPARE(m_b.material->getReferenceCount(), 2);
+        QCOMPARE(takeCalls(), u"no field, node B, 2, field"_s);
+        QCOMPARE(m_services->getSelectedField(), &m_b.ambientColor);
+        QCOMPARE(m_a.getReferenceCount(), 1);
+        QCOMPARE(m_b.getReferenceCount(), 2);
     }
 
     void commandRunsOnce()
@@ -148,65 +125,62 @@ private Q_SLOTS:
         Node unnamed("");
         Node twoLines("two\nlines %2");
         const std::pair<KnField*, QString> rows[] = {
-            { &m_a.number, u"Edit A.transparency"_s },
-            { &unnamed.number, u"Edit Material.transparency"_s },
-            { &twoLines.color, u"Edit two lines %2.ambientColor"_s },
+            { &unnamed.transparency, u"Edit Material.transparency"_s },
+            { &twoLines.ambientColor, u"Edit two lines %2.ambientColor"_s },
             { &m_loose, u"Edit"_s },
+            { &m_number, u"Edit A.transparency"_s },
         };
         for (const auto& [field, text] : rows) {
             m_services->selectField(field);
             m_services->executeCommand(new NotingCommand);
             QCOMPARE(m_services->getUndoStack()->undoText(), text);
         }
-
         // An editor that is still being left commits for the field that it shows.
-        m_services->selectField(&m_a.number);
-        QObject context;
-        connect(
-            m_services, &CrvServices::selectedFieldChanged, &context,
-            [this] { m_services->executeCommand(new NotingCommand); }, Qt::SingleShotConnection);
-        m_services->selectField(&m_a.color);
+        const auto commit = [this] { m_services->executeCommand(new NotingCommand); };
+        connect(m_services, &CrvServices::selectedFieldChanged, this, commit);
+        m_services->selectField(m_color);
         QCOMPARE(m_services->getUndoStack()->undoText(), u"Edit A.transparency"_s);
     }
 
     void sensorsRunOnceABatch()
     {
         m_services->findChild<CrvSensorPump*>()->installEventFilter(this);
-        Watch first(m_a.number);
-        Watch second(m_b.number);
-        second.writes = 2; // from within, each of which is a batch of its own
+        int runs = 0;
+        KnFieldSensor first(count, &runs);
+        first.attach(&m_number);
+        KnFieldSensor second(countUp, &m_b.transparency); // each write is a batch of its own
+        second.attach(&m_b.transparency);
         for (int i = 0; i < 3; ++i) {
-            first.field.setValue(0.5F);
-            second.field.setValue(0.5F);
+            m_number.setValue(0.5F);
+            m_b.transparency.setValue(1);
         }
-        int runsInMeantime = -1;
-        QMetaObject::invokeMethod(
-            this, [&] { runsInMeantime = first.runs; }, Qt::QueuedConnection);
-        QTRY_COMPARE(second.runs, 3);
-        QCOMPARE(first.runs, 1);
-        QCOMPARE(runsInMeantime, 0); // what was posted after the write came first
+        QTRY_COMPARE(m_events, 3);
+        QCOMPARE(m_b.transparency.getValue(), 3.0F);
+        QCOMPARE(runs, 1);
         // Run by hand in between: the event under way serves the next batch too.
-        first.field.setValue(0.1F);
+        m_number.setValue(0.1F);
         KnSensorQueue::getInstance().process();
-        first.field.setValue(0.2F);
-        QTRY_COMPARE(first.runs, 3);
+        m_number.setValue(0.2F);
+        QTRY_COMPARE(runs, 3);
         QTest::ignoreMessage(
             QtCriticalMsg, "A watched field was written outside the user interface thread");
-        std::thread([&] { first.field.setValue(1); }).join();
+        std::thread([this] { m_number.setValue(1); }).join();
         QCoreApplication::processEvents();
-        QCOMPARE(first.runs, 3);
+        QCOMPARE(runs, 3);
         QCOMPARE(m_events, 4);
     }
 
     void servicesStartAfreshWithTheApplication()
     {
-        m_services->selectNode(m_a.material);
+        m_services->selectNode(&m_a);
         m_application.reset();
-        Watch watch(m_a.number);
-        watch.field.setValue(1); // before the services exist
+        int runs = 0;
+        KnFieldSensor sensor(count, &runs);
+        sensor.attach(&m_number);
+        m_number.setValue(1); // before the services exist
         m_application = std::make_unique<QCoreApplication>(m_argumentCount, nullptr);
         QCOMPARE(CrvServices::getInstance()->getSelectedNode(), nullptr);
-        QTRY_COMPARE(watch.runs, 1);
+        QTRY_COMPARE(runs, 1);
     }
 
 private:
@@ -222,6 +196,8 @@ private:
     CrvServices* m_services = nullptr; // gone with the application object
     Node m_a { "A" };
     Node m_b { "B" };
+    KnSFFloat& m_number = m_a.transparency;
+    KnField* const m_color = &m_a.ambientColor;
     KnSFFloat m_loose;
     int m_events = 0;
 };

@@ -103,15 +103,12 @@ public:
     /// Clicks a button of the next message box.
     void answerNextQuestion(QMessageBox::StandardButton button)
     {
-        auto* const timer = new QTimer(&window);
-        QObject::connect(timer, &QTimer::timeout, timer, [timer, button] {
-            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            timer->deleteLater();
-            QTest::mouseClick(box->button(button), Qt::LeftButton);
+        QTimer::singleShot(0, &window, [this, button] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                QTest::mouseClick(box->button(button), Qt::LeftButton);
+            else
+                answerNextQuestion(button);
         });
-        timer->start(0);
     }
 
 private:

@@ -11,74 +11,72 @@ class TestCommandLine : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void answers_data();
-    void answers();
+    void answers_data()
+    {
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<int>("exitCode");
+        // Arguments are parted by a bar.
+        const auto row = [](const char* arguments, const QString& message, int exitCode) {
+            QTest::newRow(arguments) << message << exitCode;
+        };
+        row("--help", u"--select"_s, 0);
+        row("--version", u"corvane 1."_s, 0);
+        row("--colour", u"'colour'"_s, 2);
+        row("--select", u"'--select'"_s, 2);
+        row("--picture=", u"--picture"_s, 2);
+        row("all_fields.json|b.json", u"b.json"_s, 2);
+        row("missing.json", u"missing.json: "_s, 2);
+        row("--profile|Nobody", u"\"Nobody\"; there are: Everything, Fields"_s, 2);
+        row("--profiles|missing.json", u"missing.json: "_s, 2);
+        row("--plugin|missing.so", u"missing.so: there is no such file"_s, 2);
+        row("--plugin|station.json", u"station.json: this is not a library"_s, 2);
+        row("all_fields.json|--select|Nobody.on", u"\"Nobody\""_s, 2);
+        row("all_fields.json|--select|Oak.on", u"\"on\""_s, 2);
+        row("--picture|missing/a.png", u"missing/a.png: "_s, 2);
+        row("", u"Wrote "_s, 0);
+        row("all_fields.json|--select|PointLight.intensity", u"Wrote "_s, 0);
+        row("--plugin|" CORVANE_PLUGIN "|--plugin|" CORVANE_EXAMPLE_PLUGIN, u"Wrote "_s, 0);
+        row("-style|windows", u"Wrote "_s, 0); // the toolkit's own
+    }
+
+    void answers()
+    {
+        QFETCH(QString, message);
+        const QTemporaryDir folder;
+        const QString picture = folder.filePath(u"picture.png"_s);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const QString& name : { u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s })
+            environment.remove(name);
+        environment.insert(u"XDG_CONFIG_HOME"_s, folder.path());
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.setWorkingDirectory(QStringLiteral(CORVANE_SCENES));
+        // Everything behind the options would need a window; a picture needs none.
+        program.start(QStringLiteral(CORVANE_PROGRAM),
+            QStringList { u"--picture"_s, picture }
+                + QString::fromUtf8(QTest::currentDataTag()).split(u'|', Qt::SkipEmptyParts));
+        QVERIFY2(program.waitForFinished(60000), qPrintable(program.errorString()));
+        const QString out = QString::fromUtf8(program.readAllStandardOutput());
+        const QString error = QString::fromUtf8(program.readAllStandardError());
+        QTEST(program.exitCode(), "exitCode");
+        QVERIFY2(
+            (program.exitCode() == 0 ? out : error).contains(message), qPrintable(out + error));
+
+        const QImage image(picture, "PNG");
+        QCOMPARE(!image.isNull(), message == u"Wrote "_s);
+        if (image.isNull())
+            return;
+        QCOMPARE(image.size(), QSize(1280, 800));
+        // Something was drawn.
+        QVERIFY(image.convertToFormat(QImage::Format_Indexed8).colorCount() > 8);
+        // All that may stand there is what Qt says of the platform and of its surroundings.
+        const QRegularExpression complaint(
+            u"^(?!.*does not support|QStandardPaths: ).+$"_s, QRegularExpression::MultilineOption);
+        QVERIFY2(!error.contains(complaint), qPrintable(error));
+        // A picture leaves the person's own window as it was.
+        QVERIFY(!QFileInfo::exists(folder.filePath(u"Orbel"_s)));
+    }
 };
-
-void TestCommandLine::answers_data()
-{
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<int>("exitCode");
-    // Arguments are parted by a bar.
-    const auto row = [](const char* arguments, const QString& message, int exitCode) {
-        QTest::newRow(arguments) << message << exitCode;
-    };
-    row("--help", u"--select"_s, 0);
-    row("--version", u"corvane 1."_s, 0);
-    row("--colour", u"'colour'"_s, 2);
-    row("--select", u"'--select'"_s, 2);
-    row("--picture=", u"--picture"_s, 2);
-    row("all_fields.json|b.json", u"b.json"_s, 2);
-    row("missing.json", u"missing.json: "_s, 2);
-    row("--profile|Nobody", u"\"Nobody\"; there are: Everything, Fields"_s, 2);
-    row("--profiles|missing.json", u"missing.json: "_s, 2);
-    row("--plugin|missing.so", u"missing.so: there is no such file"_s, 2);
-    row("--plugin|station.json", u"station.json: this is not a library"_s, 2);
-    row("all_fields.json|--select|Nobody.on", u"\"Nobody\""_s, 2);
-    row("all_fields.json|--select|Oak.on", u"\"on\""_s, 2);
-    row("--picture|missing/a.png", u"missing/a.png: "_s, 2);
-    row("", u"Wrote "_s, 0);
-    row("all_fields.json|--select|PointLight.intensity", u"Wrote "_s, 0);
-    row("--plugin|" CORVANE_PLUGIN "|--plugin|" CORVANE_EXAMPLE_PLUGIN, u"Wrote "_s, 0);
-    row("-style|windows", u"Wrote "_s, 0); // the toolkit's own
-}
-
-void TestCommandLine::answers()
-{
-    QFETCH(QString, message);
-    const QTemporaryDir folder;
-    const QString picture = folder.filePath(u"picture.png"_s);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const QString& name : { u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s })
-        environment.remove(name);
-    environment.insert(u"XDG_CONFIG_HOME"_s, folder.path());
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.setWorkingDirectory(QStringLiteral(CORVANE_SCENES));
-    // Everything behind the options would need a window; a picture needs none.
-    program.start(QStringLiteral(CORVANE_PROGRAM),
-        QStringList { u"--picture"_s, picture }
-            + QString::fromUtf8(QTest::currentDataTag()).split(u'|', Qt::SkipEmptyParts));
-    QVERIFY2(program.waitForFinished(60000), qPrintable(program.errorString()));
-    const QString out = QString::fromUtf8(program.readAllStandardOutput());
-    const QString error = QString::fromUtf8(program.readAllStandardError());
-    QTEST(program.exitCode(), "exitCode");
-    QVERIFY2((program.exitCode() == 0 ? out : error).contains(message), qPrintable(out + error));
-
-    const QImage image(picture, "PNG");
-    QCOMPARE(!image.isNull(), message == u"Wrote "_s);
-    if (image.isNull())
-        return;
-    QCOMPARE(image.size(), QSize(1280, 800));
-    // Something was drawn.
-    QVERIFY(image.convertToFormat(QImage::Format_Indexed8).colorCount() > 8);
-    // All that may stand there is what Qt says of the platform and of its surroundings.
-    const QRegularExpression complaint(
-        u"^(?!.*does not support|QStandardPaths: ).+$"_s, QRegularExpression::MultilineOption);
-    QVERIFY2(!error.contains(complaint), qPrintable(error));
-    // A picture leaves the person's own window as it was.
-    QVERIFY(!QFileInfo::exists(folder.filePath(u"Orbel"_s)));
-}
 
 QTEST_GUILESS_MAIN(TestCommandLine)
 #include "test_command_line.moc"

@@ -22,231 +22,215 @@ private Q_SLOTS:
     }
     void cleanup() { QVERIFY(QApplication::topLevelWidgets().isEmpty()); }
 
-    void selectionGoesBothWays();
-    void editIsUndoneAndSaved();
-    void typedTextIsNotLost();
-    void writesWithoutCommandsModify();
-    void largeArrayStaysModified();
-    void filesAreRememberedUnlessRefused();
-    void viewMenuFollowsTheDocks();
-    void layoutComesBack();
-    void profilesCanBeChosen();
-    void pluginOfAThirdPartyWorks();
+    void selectionGoesBothWays()
+    {
+        InspectorFixture inspector(*m_folder);
+        CrvServices* const services = CrvServices::getInstance();
+        const auto* const tree = inspector.window.findChild<QTreeView*>(u"sceneTree"_s);
+        const auto* const list = inspector.window.findChild<QTreeView*>(u"fieldList"_s);
+        inspector.clickField(u"Desk lamp"_s, u"intensity"_s);
+        QCOMPARE(services->getSelectedField(), inspector.field(u"Desk lamp.intensity"_s));
+        QVERIFY(inspector.dock(u"Field Editor"_s)->isVisible());
+        inspector.clickNode(u"Room"_s);
+        QVERIFY(!services->getSelectedField());
+        QVERIFY(!inspector.dock(u"Field Editor"_s)->isVisible());
+
+        services->selectField(inspector.field(u"Oak.transparency"_s));
+        QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
+        QCOMPARE(list->currentIndex().data().toString(), u"transparency"_s);
+        services->selectNode(nullptr);
+        QVERIFY(!tree->currentIndex().isValid() && !list->currentIndex().isValid());
+    }
+
+    void editIsUndoneAndSaved()
+    {
+        InspectorFixture inspector(*m_folder);
+        inspector.clickField(u"Desk lamp"_s, u"on"_s);
+        QVERIFY(!inspector.window.isWindowModified());
+        QTest::mouseClick(inspector.inEditor<QCheckBox>(), Qt::LeftButton);
+        QCOMPARE(inspector.text(u"Desk lamp.on"_s), u"TRUE"_s);
+        QTRY_VERIFY(inspector.window.isWindowModified());
+        inspector.press(QKeySequence::Undo);
+        QCOMPARE(inspector.text(u"Desk lamp.on"_s), u"FALSE"_s);
+        QTRY_VERIFY(!inspector.window.isWindowModified());
+        inspector.press(QKeySequence(Qt::CTRL | Qt::Key_Y));
+        inspector.press(QKeySequence::Save);
+        QCOMPARE(inspector.savedText(u"Desk lamp.on"_s), u"TRUE"_s);
+        QVERIFY(!inspector.window.isWindowModified());
+        inspector.press(QKeySequence::Undo);
+        QTRY_VERIFY(inspector.window.isWindowModified());
+        inspector.answerNextQuestion(QMessageBox::Cancel);
+        inspector.window.close();
+        QVERIFY(inspector.window.isVisible());
+        inspector.answerNextQuestion(QMessageBox::Discard);
+        inspector.window.close();
+        QVERIFY(!inspector.window.isVisible());
+        QCOMPARE(inspector.savedText(u"Desk lamp.on"_s), u"TRUE"_s);
+    }
+
+    void typedTextIsNotLost()
+    {
+        InspectorFixture inspector(*m_folder);
+        const QString place = u"Front view.description"_s;
+        const auto clickLine = [&inspector] {
+            inspector.clickField(u"Front view"_s, u"description"_s);
+            auto* const line = inspector.inEditor<QLineEdit>();
+            QTest::mouseClick(line, Qt::LeftButton);
+            line->end(false);
+            return line;
+        };
+        QTest::keyClicks(clickLine(), u" on"_s);
+        // What is being typed is the line's own to undo; what was applied is the scene's.
+        inspector.press(QKeySequence::Undo);
+        QCOMPARE(inspector.inEditor<QLineEdit>()->text(), u"From the door"_s);
+        inspector.press(QKeySequence::Redo);
+        inspector.clickNode(u"Desk lamp"_s);
+        QCOMPARE(inspector.text(place), u"\"From the door on\""_s);
+        auto* const line = clickLine();
+        inspector.press(QKeySequence::Undo);
+        QCOMPARE(inspector.text(place), u"\"From the door\""_s);
+        inspector.press(QKeySequence::Redo);
+        QTRY_COMPARE(line->text(), u"From the door on"_s);
+
+        // Saving and closing take what stands in the line.
+        QTest::keyClicks(line, u"!"_s);
+        inspector.press(QKeySequence::Save);
+        QCOMPARE(inspector.savedText(place), u"\"From the door on!\""_s);
+        QVERIFY(line->hasFocus() && !inspector.window.isWindowModified());
+        QTest::keyClicks(line, u"?"_s);
+        inspector.answerNextQuestion(QMessageBox::Save);
+        inspector.window.close();
+        QCOMPARE(inspector.savedText(place), u"\"From the door on!?\""_s);
+    }
+
+    void writesWithoutCommandsModify()
+    {
+        InspectorFixture inspector(*m_folder);
+        inspector.clickNode(u"Oak"_s);
+        KnField* const shininess = inspector.field(u"Oak.shininess"_s);
+        KbString former;
+        shininess->get(former);
+        shininess->set("0.5");
+        QTRY_VERIFY(inspector.window.isWindowModified());
+        shininess->set(former);
+        QTRY_VERIFY(!inspector.window.isWindowModified());
+
+        // No event has told of this edit yet when the scene is to go.
+        shininess->setIgnored(1);
+        for (const auto button : { QMessageBox::Cancel, QMessageBox::Discard }) {
+            QVERIFY(shininess->isIgnored());
+            inspector.answerNextQuestion(button);
+            inspector.window.findChild<FileMenu*>()->openFile(inspector.sceneFile);
+        }
+        QVERIFY(!inspector.window.isWindowModified());
+        QVERIFY(!inspector.field(u"Oak.shininess"_s)->isIgnored());
+    }
+
+    void largeArrayStaysModified()
+    {
+        InspectorFixture inspector(*m_folder);
+        // A command of the former scene has nothing to do with what comes.
+        inspector.clickField(u"Desk lamp"_s, u"on"_s);
+        QTest::mouseClick(inspector.inEditor<QCheckBox>(), Qt::LeftButton);
+        QString error;
+        SceneDocument& document = inspector.window.document();
+        QVERIFY(document.open(QStringLiteral(CORVANE_SCENES "/station.json"), &error));
+        QVERIFY(!inspector.window.isWindowModified());
+        KnField* const points = inspector.field(u"Shield points.point"_s);
+        CrvServices::getInstance()->selectField(points);
+        dynamic_cast<KnMFVec3f*>(points)->set1Value(0, KbVec3f(1.0F, 2.0F, 3.0F));
+        QTRY_VERIFY(inspector.window.isWindowModified());
+        QVERIFY2(document.save(m_folder->filePath(u"copy.json"_s), &error), qPrintable(error));
+        QVERIFY(!inspector.window.isWindowModified());
+    }
+
+    void viewMenuFollowsTheDocks()
+    {
+        InspectorFixture inspector(*m_folder);
+        const auto entries = [&inspector] { return inspector.entries(u"viewMenu"_s); };
+        inspector.clickField(u"Desk lamp"_s, u"on"_s);
+        QCOMPARE(entries(), u"Profile Selector*, Console*, Field Editor*, Node Editor"_s);
+        const QDockWidget* const console = inspector.dock(u"Console"_s);
+        const QString closeButton = u"qt_dockwidget_closebutton"_s;
+        QTest::mouseClick(console->findChild<QAbstractButton*>(closeButton), Qt::LeftButton);
+        inspector.choose(u"viewMenu"_s, u"Profile Selector"_s);
+        QVERIFY(inspector.window.findChild<QToolBar*>()->isHidden());
+        QCOMPARE(entries(), u"Profile Selector, Console, Field Editor*, Node Editor"_s);
+        inspector.choose(u"viewMenu"_s, u"Console"_s);
+        QVERIFY(console->isVisible());
+        // A window out of sight doesn't close its docks.
+        inspector.window.hide();
+        QCOMPARE(entries(), u"Profile Selector, Console*, Field Editor*, Node Editor"_s);
+    }
+
+    void profilesCanBeChosen()
+    {
+        InspectorFixture inspector(*m_folder, u"Fields"_s);
+        inspector.clickField(u"Desk lamp"_s, u"on"_s);
+        const auto menus = [&inspector] {
+            return inspector.entries(u"profileMenu"_s) + u" | "_s
+                + inspector.entries(u"viewMenu"_s);
+        };
+        QCOMPARE(menus(),
+            u"Everything, Fields*, Console | Profile Selector*, Field Editor*, Node Editor"_s);
+        inspector.choose(u"profileMenu"_s, u"Everything"_s);
+        QCOMPARE(menus(),
+            u"Everything*, Fields, Console | Profile Selector*, Field Editor*, Node Editor, Console*"_s);
+        inspector.choose(u"profileMenu"_s, u"Console"_s);
+        QCOMPARE(menus(), u"Everything, Fields, Console* | Profile Selector*, Console*"_s);
+        inspector.choose(u"profileMenu"_s, u"Everything"_s);
+        QVERIFY(inspector.dock(u"Field Editor"_s)->isVisible());
+    }
+
+    void pluginOfAThirdPartyWorks()
+    {
+        InspectorFixture inspector(*m_folder);
+        inspector.clickNode(u"Table place"_s);
+        const QDockWidget* const dock = inspector.dock(u"Node Editor"_s);
+        QTest::mouseClick(dock->findChild<QAbstractButton*>(u"moveBack"_s), Qt::LeftButton);
+        QTRY_VERIFY(dock->findChild<QLabel*>(u"distance"_s)->text().contains(u"by 0 "_s));
+        inspector.press(QKeySequence::Undo);
+        QCOMPARE(inspector.text(u"Table place.translation"_s), u"0 0.74 0"_s);
+        inspector.clickNode(u"Oak"_s);
+        QVERIFY(!dock->isVisible());
+    }
+
+    void nextStartRemembers()
+    {
+        {
+            InspectorFixture inspector(*m_folder);
+            inspector.choose(u"viewMenu"_s, u"Console"_s);
+            inspector.dock(u"historyDock"_s)->hide();
+            inspector.clickField(u"Desk lamp"_s, u"on"_s);
+            inspector.window.close();
+        }
+        InspectorFixture inspector(*m_folder);
+        // The field dock was open, but there is nothing to edit yet.
+        for (const QString& dock : { u"historyDock"_s, u"Console"_s, u"Field Editor"_s })
+            QVERIFY(inspector.dock(dock)->isHidden());
+        QVERIFY(!inspector.entries(u"viewMenu"_s).contains(u"Console*"_s));
+
+        // A refused file is not remembered, and leaves the scene.
+        const NodePtr root = inspector.window.document().root();
+        inspector.answerNextQuestion(QMessageBox::Ok);
+        const QString missing = m_folder->filePath(u"missing.json"_s);
+        inspector.window.findChild<FileMenu*>()->openFile(missing);
+        QCOMPARE(inspector.window.document().root().get(), root.get());
+        QVERIFY(inspector.window.windowTitle().startsWith(u"scene.json"_s));
+        const auto* const view = inspector.window.findChild<QTextEdit*>(u"m_consoleOutput"_s);
+        QVERIFY(
+            view->toPlainText().startsWith(u"Opened "_s + inspector.sceneFile + u": 25 nodes\n"_s));
+        QVERIFY(view->toPlainText().contains(missing + u": "_s));
+
+        const auto* const menu = inspector.window.findChild<QMenu*>(u"recentFilesMenu"_s);
+        QCOMPARE(menu->actions().size(), 1);
+        menu->actions().constFirst()->trigger();
+        QVERIFY(inspector.window.document().root().get() != root.get());
+    }
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-void TestMainWindow::selectionGoesBothWays()
-{
-    InspectorFixture inspector(*m_folder);
-    CrvServices* const services = CrvServices::getInstance();
-    const auto current = [&inspector](const QString& view) {
-        return inspector.window.findChild<QTreeView*>(view)->currentIndex().data().toString();
-    };
-    inspector.clickField(u"Desk lamp"_s, u"intensity"_s);
-    QCOMPARE(services->getSelectedField(), inspector.field(u"Desk lamp.intensity"_s));
-    QVERIFY(inspector.dock(u"Field Editor"_s)->isVisible());
-    inspector.clickNode(u"Room"_s);
-    QVERIFY(!services->getSelectedField());
-    QVERIFY(!inspector.dock(u"Field Editor"_s)->isVisible());
-
-    services->selectField(inspector.field(u"Oak.transparency"_s));
-    QCOMPARE(current(u"sceneTree"_s) + current(u"fieldList"_s), u"Oaktransparency"_s);
-    services->selectNode(nullptr);
-    QCOMPARE(current(u"sceneTree"_s) + current(u"fieldList"_s), QString());
-}
-
-void TestMainWindow::editIsUndoneAndSaved()
-{
-    InspectorFixture inspector(*m_folder);
-    inspector.clickField(u"Desk lamp"_s, u"on"_s);
-    QVERIFY(!inspector.window.isWindowModified());
-    QTest::mouseClick(inspector.inEditor<QCheckBox>(), Qt::LeftButton);
-    QCOMPARE(inspector.text(u"Desk lamp.on"_s), u"TRUE"_s);
-    QTRY_VERIFY(inspector.window.isWindowModified());
-    inspector.press(QKeySequence::Undo);
-    QCOMPARE(inspector.text(u"Desk lamp.on"_s), u"FALSE"_s);
-    QTRY_VERIFY(!inspector.window.isWindowModified());
-    inspector.press(QKeySequence(Qt::CTRL | Qt::Key_Y));
-    QTRY_VERIFY(inspector.window.isWindowModified());
-
-    inspector.press(QKeySequence::Save);
-    QCOMPARE(inspector.savedText(u"Desk lamp.on"_s), u"TRUE"_s);
-    QVERIFY(!inspector.window.isWindowModified());
-    inspector.press(QKeySequence::Undo);
-    QTRY_VERIFY(inspector.window.isWindowModified());
-    inspector.answerNextQuestion(QMessageBox::Cancel);
-    inspector.window.close();
-    QVERIFY(inspector.window.isVisible());
-    inspector.answerNextQuestion(QMessageBox::Discard);
-    inspector.window.close();
-    QVERIFY(!inspector.window.isVisible());
-    QCOMPARE(inspector.savedText(u"Desk lamp.on"_s), u"TRUE"_s);
-}
-
-void TestMainWindow::typedTextIsNotLost()
-{
-    InspectorFixture inspector(*m_folder);
-    const QString place = u"Front view.description"_s;
-    const auto clickLine = [&inspector] {
-        inspector.clickField(u"Front view"_s, u"description"_s);
-        auto* const line = inspector.inEditor<QLineEdit>();
-        QTest::mouseClick(line, Qt::LeftButton);
-        line->end(false);
-        return line;
-    };
-    QTest::keyClicks(clickLine(), u" on"_s);
-    // What is being typed is the line's own to undo; what was applied is the scene's.
-    inspector.press(QKeySequence::Undo);
-    QCOMPARE(inspector.inEditor<QLineEdit>()->text(), u"From the door"_s);
-    inspector.press(QKeySequence::Redo);
-    inspector.clickNode(u"Desk lamp"_s);
-    QCOMPARE(inspector.text(place), u"\"From the door on\""_s);
-    auto* const line = clickLine();
-    inspector.press(QKeySequence::Undo);
-    QCOMPARE(inspector.text(place), u"\"From the door\""_s);
-    inspector.press(QKeySequence::Redo);
-    QTRY_COMPARE(line->text(), u"From the door on"_s);
-
-    // Saving and closing take what stands in the line.
-    QTest::keyClicks(line, u"!"_s);
-    inspector.press(QKeySequence::Save);
-    QCOMPARE(inspector.savedText(place), u"\"From the door on!\""_s);
-    QVERIFY(line->hasFocus() && !inspector.window.isWindowModified());
-    QTest::keyClicks(line, u"?"_s);
-    inspector.answerNextQuestion(QMessageBox::Save);
-    inspector.window.close();
-    QCOMPARE(inspector.savedText(place), u"\"From the door on!?\""_s);
-}
-
-void TestMainWindow::writesWithoutCommandsModify()
-{
-    InspectorFixture inspector(*m_folder);
-    inspector.clickNode(u"Oak"_s);
-    KnField* const shininess = inspector.field(u"Oak.shininess"_s);
-    const KbString former(inspector.text(u"Oak.shininess"_s).toUtf8().constData());
-    shininess->set("0.5");
-    QTRY_VERIFY(inspector.window.isWindowModified());
-    shininess->set(former);
-    QTRY_VERIFY(!inspector.window.isWindowModified());
-
-    // No event has told of this edit yet when the scene is to go.
-    shininess->setIgnored(1);
-    for (const auto button : { QMessageBox::Cancel, QMessageBox::Discard }) {
-        QVERIFY(inspector.field(u"Oak.shininess"_s)->isIgnored());
-        inspector.answerNextQuestion(button);
-        inspector.window.findChild<FileMenu*>()->openFile(inspector.sceneFile);
-    }
-    QVERIFY(!inspector.window.isWindowModified());
-    QVERIFY(!inspector.field(u"Oak.shininess"_s)->isIgnored());
-}
-
-void TestMainWindow::largeArrayStaysModified()
-{
-    InspectorFixture inspector(*m_folder);
-    // A command of the former scene has nothing to do with what comes.
-    inspector.clickField(u"Desk lamp"_s, u"on"_s);
-    QTest::mouseClick(inspector.inEditor<QCheckBox>(), Qt::LeftButton);
-    QString error;
-    SceneDocument& document = inspector.window.document();
-    QVERIFY(document.open(QStringLiteral(CORVANE_SCENES "/station.json"), &error));
-    QVERIFY(!inspector.window.isWindowModified());
-    KnField* const points = inspector.field(u"Shield points.point"_s);
-    CrvServices::getInstance()->selectField(points);
-    dynamic_cast<KnMFVec3f*>(points)->set1Value(0, KbVec3f(1.0F, 2.0F, 3.0F));
-    QTRY_VERIFY(inspector.window.isWindowModified());
-    QVERIFY2(document.save(m_folder->filePath(u"copy.json"_s), &error), qPrintable(error));
-    QVERIFY(!inspector.window.isWindowModified());
-}
-
-void TestMainWindow::filesAreRememberedUnlessRefused()
-{
-    std::make_unique<InspectorFixture>(*m_folder);
-    InspectorFixture inspector(*m_folder);
-    const KnFieldContainer* const root = inspector.window.document().root().get();
-    inspector.answerNextQuestion(QMessageBox::Ok);
-    inspector.window.findChild<FileMenu*>()->openFile(m_folder->filePath(u"missing.json"_s));
-    QCOMPARE(inspector.window.document().root().get(), root);
-    QVERIFY(inspector.window.windowTitle().startsWith(u"scene.json"_s));
-    const auto* const view = inspector.window.findChild<QTextEdit*>(u"m_consoleOutput"_s);
-    QVERIFY(view->toPlainText().startsWith(u"Opened "_s + inspector.sceneFile + u": 25 nodes\n"_s));
-    QVERIFY(view->toPlainText().contains(u"missing.json: "_s));
-
-    const auto* const menu = inspector.window.findChild<QMenu*>(u"recentFilesMenu"_s);
-    QCOMPARE(menu->actions().size(), 1);
-    const NodePtr former = inspector.window.document().root();
-    menu->actions().constFirst()->trigger();
-    QVERIFY(inspector.window.document().root().get() != former.get());
-}
-
-void TestMainWindow::viewMenuFollowsTheDocks()
-{
-    InspectorFixture inspector(*m_folder);
-    const auto entries = [&inspector] { return inspector.entries(u"viewMenu"_s); };
-    inspector.clickField(u"Desk lamp"_s, u"on"_s);
-    QCOMPARE(entries(), u"Profile Selector*, Console*, Field Editor*, Node Editor"_s);
-    const QDockWidget* const console = inspector.dock(u"Console"_s);
-    const QString closeButton = u"qt_dockwidget_closebutton"_s;
-    QTest::mouseClick(console->findChild<QAbstractButton*>(closeButton), Qt::LeftButton);
-    inspector.choose(u"viewMenu"_s, u"Profile Selector"_s);
-    QVERIFY(inspector.window.findChild<QToolBar*>()->isHidden());
-    QCOMPARE(entries(), u"Profile Selector, Console, Field Editor*, Node Editor"_s);
-    inspector.choose(u"viewMenu"_s, u"Console"_s);
-    QVERIFY(console->isVisible());
-    // A window out of sight doesn't close its docks.
-    inspector.window.hide();
-    QCOMPARE(entries(), u"Profile Selector, Console*, Field Editor*, Node Editor"_s);
-}
-
-void TestMainWindow::layoutComesBack()
-{
-    {
-        InspectorFixture inspector(*m_folder);
-        inspector.clickField(u"Desk lamp"_s, u"on"_s);
-        inspector.choose(u"viewMenu"_s, u"Console"_s);
-        inspector.dock(u"historyDock"_s)->hide();
-        inspector.window.close();
-    }
-    InspectorFixture inspector(*m_folder);
-    QVERIFY(inspector.dock(u"historyDock"_s)->isHidden());
-    QVERIFY(inspector.dock(u"Console"_s)->isHidden());
-    QVERIFY(!inspector.entries(u"viewMenu"_s).contains(u"Console*"_s));
-    // It was open, but there is nothing to edit yet.
-    QVERIFY(inspector.dock(u"Field Editor"_s)->isHidden());
-}
-
-void TestMainWindow::profilesCanBeChosen()
-{
-    InspectorFixture inspector(*m_folder, u"Fields"_s);
-    inspector.clickField(u"Desk lamp"_s, u"on"_s);
-    const auto menus = [&inspector] {
-        return inspector.entries(u"profileMenu"_s) + u" | "_s + inspector.entries(u"viewMenu"_s);
-    };
-    QCOMPARE(
-        menus(), u"Everything, Fields*, Console | Profile Selector*, Field Editor*, Node Editor"_s);
-    inspector.choose(u"profileMenu"_s, u"Everything"_s);
-    QCOMPARE(menus(),
-        u"Everything*, Fields, Console | Profile Selector*, Field Editor*, Node Editor, Console*"_s);
-    inspector.choose(u"profileMenu"_s, u"Console"_s);
-    QCOMPARE(menus(), u"Everything, Fields, Console* | Profile Selector*, Console*"_s);
-    inspector.choose(u"profileMenu"_s, u"Everything"_s);
-    QVERIFY(inspector.dock(u"Field Editor"_s)->isVisible());
-}
-
-void TestMainWindow::pluginOfAThirdPartyWorks()
-{
-    InspectorFixture inspector(*m_folder);
-    inspector.clickNode(u"Table place"_s);
-    const QDockWidget* const dock = inspector.dock(u"Node Editor"_s);
-    QVERIFY(dock->isVisible());
-    QTest::mouseClick(dock->findChild<QAbstractButton*>(u"moveBack"_s), Qt::LeftButton);
-    QTRY_VERIFY(dock->findChild<QLabel*>(u"distance"_s)->text().contains(u"by 0 "_s));
-    inspector.press(QKeySequence::Undo);
-    QCOMPARE(inspector.text(u"Table place.translation"_s), u"0 0.74 0"_s);
-    inspector.clickNode(u"Oak"_s);
-    QVERIFY(!dock->isVisible());
-}
 
 QTEST_MAIN(TestMainWindow)
 #include "test_main_window.moc"

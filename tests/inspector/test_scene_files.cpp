@@ -53,121 +53,106 @@ class TestSceneFiles : public QObject {
 
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
-    void refuses_data();
-    void refuses();
-    void samplesSurvive();
-    void textsAndIgnoredFieldsSurvive();
-    void failedSaveLeavesNothing();
+
+    void refuses_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        // The message behind the file's name, and what is refused with it.
+        const auto row
+            = [](const char* message, const QByteArray& json) { QTest::newRow(message) << json; };
+        const auto node = [&row](const char* message, const QByteArray& root) {
+            row(message, sceneWith("{ " + root + " }"));
+        };
+        const auto text = [&node](const char* message, const QByteArray& fields) {
+            node(message, R"("type": "Text", "fields": )" + fields);
+        };
+        row(": No such file or directory", QByteArray());
+        row(": the file is empty", " \n");
+        row(":1:1: illegal value", "Group {\n}\n");
+        row(":2:17: unterminated string", sceneWith(R"({ "type": "Group")").chopped(4));
+        row(": not a scene: the outermost value", "[]");
+        row(": format: not a scene: \"corvane-scene\"", R"({ "format": "x", "version": 1 })");
+        row(": version: version 1", R"({ "format": "corvane-scene", "version": 2 })");
+        row(": root: an object expected", sceneWith("[]"));
+        node(": root.type: missing", "");
+        node(": root.type: unknown node type \"Blob\"", R"("type": "Blob")");
+        node(": root.type: unknown node type \"SFBool\"", R"("type": "SFBool")");
+        node(": root.type: unknown node type \"Light\"", R"("type": "Light")"); // abstract
+        node(": root.name: a text in quotes", R"("type": "Group", "name": [])");
+        node(": root.childs: unknown member", R"("type": "Group", "childs": [])");
+        node(": root.children: a node of", R"("type": "Text", "children": [])");
+        node(": root.children: an array", R"("type": "Group", "children": {})");
+        text(": root.fields: an object expected", R"("")");
+        text(": root.fields.size: a text in", R"({ "size": 12 })");
+        text(": root.fields.colour: a node of", R"({ "colour": "1" })");
+        text(": root.fields.size.ignored: true or", R"({ "size": { "ignored": 1 } })");
+        text(": root.fields.spacing: Text, field", R"({ "spacing": "x" })"); // the kernel's words
+        row(": root.children[0]", nestedGroups(401));
+        row(":2:", nestedGroups(2000)); // too deep for the parser
+    }
+    void refuses()
+    {
+        QFETCH(QByteArray, json);
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"bad.json"_s));
+        QVERIFY(json.isNull() || (file.open(QIODevice::WriteOnly) && file.write(json) > 0));
+        file.close();
+        SceneDocument document;
+        QString error;
+        QVERIFY2(document.open(m_sample, &error), qPrintable(error));
+        const NodePtr root = document.root();
+        CrvServices::getInstance()->selectNode(root.get());
+        const KnErrorCallback handler = KnReadError::getHandlerCallback();
+
+        QVERIFY(!document.open(file.fileName(), &error));
+        const QString message = file.fileName() + QString::fromUtf8(QTest::currentDataTag());
+        QCOMPARE(error.left(message.size()), message);
+        QCOMPARE(document.root().get(), root.get());
+        QCOMPARE(document.fileName(), m_sample);
+        QCOMPARE(CrvServices::getInstance()->getSelectedNode(), root.get());
+        QVERIFY(KnReadError::getHandlerCallback() == handler);
+    }
+
+    void scenesSurvive()
+    {
+        // Halves of a pair of code units may stand alone.
+        const QString text = u"a \"b\" \\c\\\nb\tc\r\u0001\u007f \U0001F680 \u00e9 "_s
+            + QChar(0xd83d) + u' ' + QChar(0xde80) + QChar(0xd83d);
+        auto* const node = new KnText;
+        node->setName(KbName(toKbString(text)));
+        node->string.set1Value(0, toKbString(text));
+        node->size.setIgnored(1); // with its default value
+        node->spacing.setValue(2.5F);
+        node->spacing.setIgnored(1);
+
+        SceneReader reader;
+        const NodePtr station = reader.readFile(QStringLiteral(CORVANE_SCENES "/station.json"));
+        const NodePtr deepest = reader.readText(nestedGroups(400), u"deepest.json"_s);
+        QString label;
+        for (const NodePtr& root : { reader.readFile(m_sample), station, deepest, NodePtr(node) }) {
+            QVERIFY2(root, qPrintable(reader.errorText()));
+            const QByteArray json = SceneWriter().toJson(*root.get());
+            const NodePtr again = reader.readText(json, u"again.json"_s);
+            QVERIFY2(again, qPrintable(reader.errorText()));
+            QCOMPARE(describe(again.get()), describe(root.get()));
+            label = nodeLabel(*again.get());
+        }
+        QCOMPARE(label, text);
+    }
+
+    void failedSaveLeavesNothing()
+    {
+        const QTemporaryDir folder;
+        SceneWriter writer;
+        const QString name = folder.filePath(u"missing/scene.json"_s);
+        QVERIFY(!writer.writeFile(*NodePtr(new KnGroup).get(), name));
+        QVERIFY2(writer.errorText().startsWith(name + u": "_s), qPrintable(writer.errorText()));
+        QVERIFY(QDir(folder.path()).isEmpty());
+    }
 
 private:
     const QString m_sample = QStringLiteral(CORVANE_SCENES "/all_fields.json");
 };
-
-void TestSceneFiles::refuses_data()
-{
-    QTest::addColumn<QByteArray>("json");
-    // The message behind the file's name, and what is refused with it.
-    const auto row
-        = [](const char* message, const QByteArray& json) { QTest::newRow(message) << json; };
-    const auto node = [&row](const char* message, const QByteArray& root) {
-        row(message, sceneWith("{ " + root + " }"));
-    };
-    row(": No such file or directory", QByteArray());
-    row(": the file is empty", " \n");
-    row(":1:1: illegal value", "Group {\n}\n");
-    row(":2:17: unterminated string", sceneWith(R"({ "type": "Group")").chopped(4));
-    row(":4:10: missing name separator", sceneWith("\n\n{ \"type\" \"Group\" }"));
-    row(": not a scene: the outermost value", "[]");
-    row(": format: not a scene: \"corvane-scene\"", R"({ "format": "x", "version": 1 })");
-    row(": version: version 1 expected", R"({ "format": "corvane-scene", "version": 2 })");
-    row(": root: an object expected", sceneWith("[]"));
-    node(": root.type: missing", "");
-    node(": root.type: unknown node type \"Blob\"", R"("type": "Blob")");
-    node(": root.type: unknown node type \"SFBool\"", R"("type": "SFBool")");
-    node(": root.type: unknown node type \"Light\"", R"("type": "Light")"); // abstract
-    node(": root.name: a text in quotes", R"("type": "Group", "name": [])");
-    node(": root.childs: unknown member", R"("type": "Group", "childs": [])");
-    node(": root.children: a node of type \"Text\"", R"("type": "Text", "children": [])");
-    node(": root.children: an array expected", R"("type": "Group", "children": {})");
-    node(": root.fields: an object expected", R"("type": "Group", "fields": "")");
-    node(": root.fields.size: a text in", R"("type": "Text", "fields": { "size": 12 })");
-    const auto fields = [&node](const char* message, const QByteArray& text) {
-        node(message, R"("type": "Text", "fields": { )" + text + " }");
-    };
-    fields(": root.fields.colour: a node of", R"("colour": "1")");
-    fields(": root.fields.size.ignored: true or", R"("size": { "value": "1", "ignored": 1 })");
-    fields(": root.fields.spacing: Text, field", R"("spacing": "x")"); // the kernel's own words
-    row(": root.children[0]", nestedGroups(401));
-    row(":2:", nestedGroups(2000)); // too deep for the parser
-}
-
-void TestSceneFiles::refuses()
-{
-    QFETCH(QByteArray, json);
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(u"bad.json"_s));
-    if (!json.isNull())
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.flush());
-    SceneDocument document;
-    QString error;
-    QVERIFY2(document.open(m_sample, &error), qPrintable(error));
-    const NodePtr root = document.root();
-    CrvServices::getInstance()->selectNode(root.get());
-    const KnErrorCallback handler = KnReadError::getHandlerCallback();
-
-    QVERIFY(!document.open(file.fileName(), &error));
-    const QString message = file.fileName() + QString::fromUtf8(QTest::currentDataTag());
-    QVERIFY2(error.startsWith(message), qPrintable(error));
-    QCOMPARE(document.root().get(), root.get());
-    QCOMPARE(document.fileName(), m_sample);
-    QCOMPARE(CrvServices::getInstance()->getSelectedNode(), root.get());
-    QVERIFY(KnReadError::getHandlerCallback() == handler);
-}
-
-void TestSceneFiles::samplesSurvive()
-{
-    SceneReader reader;
-    for (const char* path : { CORVANE_SCENES "/all_fields.json", CORVANE_SCENES "/station.json" }) {
-        const NodePtr root = reader.readFile(QString::fromUtf8(path));
-        QVERIFY2(root, qPrintable(reader.errorText()));
-        const NodePtr again = reader.readText(SceneWriter().toJson(*root.get()), u"again.json"_s);
-        QVERIFY2(again, qPrintable(reader.errorText()));
-        QCOMPARE(describe(again.get()), describe(root.get()));
-    }
-    QVERIFY(reader.readText(nestedGroups(400), u"deepest.json"_s));
-}
-
-void TestSceneFiles::textsAndIgnoredFieldsSurvive()
-{
-    // Halves of a pair of code units may stand alone.
-    const QString text = u"a \"b\" \\c\\\nb\tc\r\u0001\u007f \U0001F680 \u00e9 "_s + QChar(0xd83d)
-        + u' ' + QChar(0xde80) + QChar(0xd83d);
-    auto* const node = new KnText;
-    const NodePtr root(node);
-    node->setName(KbName(toKbString(text)));
-    node->string.set1Value(0, toKbString(text));
-    node->size.setIgnored(1); // with its default value
-    node->spacing.setValue(2.5F);
-    node->spacing.setIgnored(1);
-
-    SceneReader reader;
-    const NodePtr again = reader.readText(SceneWriter().toJson(*node), u"text.json"_s);
-    QVERIFY2(again, qPrintable(reader.errorText()));
-    QCOMPARE(describe(again.get()), describe(root.get()));
-    QCOMPARE(nodeLabel(*again.get()), text);
-    QCOMPARE(toQString(static_cast<const KnText*>(again.get())->string[0]), text);
-}
-
-void TestSceneFiles::failedSaveLeavesNothing()
-{
-    const QTemporaryDir folder;
-    const NodePtr root(new KnGroup);
-    SceneWriter writer;
-    const QString name = folder.filePath(u"missing/scene.json"_s);
-    QVERIFY(!writer.writeFile(*root.get(), name));
-    QVERIFY2(writer.errorText().startsWith(name + u": "_s), qPrintable(writer.errorText()));
-    QVERIFY(QDir(folder.path()).isEmpty());
-}
 
 QTEST_GUILESS_MAIN(TestSceneFiles)
 #include "test_scene_files.moc"

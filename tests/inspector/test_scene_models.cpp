@@ -41,126 +41,107 @@ class TestSceneModels : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     // What the offscreen platform has to say of itself is no fault.
-    void init()
+    void init() { QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not)"_s)); }
+
+    void modelsAreSound()
     {
-        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
+        SceneModel model;
+        SceneFilterModel filter;
+        filter.setSourceModel(&model);
+        const QAbstractItemModelTester modelTester(&model, FailureMode::QtTest);
+        const QAbstractItemModelTester filterTester(&filter, FailureMode::QtTest);
+        model.setRoot(m_sample);
+        const auto shown = [&filter](const QString& text) {
+            filter.setFilterText(text);
+            return leaves(filter).join(u", "_s);
+        };
+        QCOMPARE(shown(u"  oak "_s), u"Oak"_s);
+        QCOMPARE(shown(u"light"_s), u"Window light, Desk lamp"_s); // one by its type
+        QCOMPARE(shown(u".*"_s), QString());
+        QCOMPARE(shown(QString()), leaves(model).join(u", "_s));
+
+        // A node may stand in several places.
+        auto* const root = new KnGroup;
+        root->addChild(new KnMaterial);
+        root->addChild(root->getChild(0));
+        model.setRoot(NodePtr(root));
+        QCOMPARE(shown(QString()), u"Material, Material"_s);
+        model.setRoot(NodePtr());
+        QCOMPARE(filter.rowCount(), 0);
     }
-    void modelsAreSound();
-    void filteringKeepsTheSelection();
-    void fieldListFollowsTheFields();
-    void summariesStayShort();
+
+    void filteringKeepsTheSelection()
+    {
+        CrvServices* const services = CrvServices::getInstance();
+        ScenePanel panel;
+        panel.setRoot(m_sample);
+        panel.show();
+        auto* const tree = panel.findChild<QTreeView*>(u"sceneTree"_s);
+        auto* const line = panel.findChild<QLineEdit*>(u"sceneFilter"_s);
+        // What is left is opened, so that it can be chosen at once.
+        QTest::keyClicks(line, u"oak"_s);
+        QModelIndex leaf;
+        while (tree->model()->hasChildren(leaf))
+            leaf = tree->model()->index(0, 0, leaf);
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(leaf).center());
+        KnFieldContainer* const oak = services->getSelectedNode();
+        QVERIFY(oak);
+        int selections = 0;
+        connect(services, &CrvServices::selectedNodeChanged, &panel, [&] { ++selections; });
+        line->clear();
+        QTest::keyClicks(line, u"light"_s);
+        QVERIFY(!tree->currentIndex().isValid());
+        line->clear();
+        QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
+        QCOMPARE(services->getSelectedNode(), oak);
+        QCOMPARE(selections, 0);
+        services->selectNode(nullptr);
+    }
+
+    void fieldListFollowsTheFields()
+    {
+        auto* const material = new KnMaterial;
+        const NodePtr node(material);
+        FieldListModel model;
+        const QAbstractItemModelTester tester(&model, FailureMode::QtTest);
+        model.setNode(material);
+        const QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+        const int row = model.rowOf(&material->transparency);
+        material->transparency.setValue(0.25F);
+        material->transparency.setIgnored(1);
+        KnSensorQueue::getInstance().process();
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(changes[0][0].toModelIndex().row(), row);
+        QStringList cells;
+        for (int column = 0; column < FieldListModel::ColumnCount; ++column)
+            cells += model.index(row, column).data().toString();
+        QCOMPARE(cells.join(u' '), u"transparency SFFloat 0.25 yes"_s);
+
+        // A node that isn't shown any more isn't watched.
+        model.setNode(nullptr);
+        material->transparency.setValue(0.5F);
+        KnSensorQueue::getInstance().process();
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void summariesStayShort()
+    {
+        const auto summary = [](KnField&& field, const QString& text) {
+            return field.set(toKbString(text)) ? fieldSummary(field, 30) : QString();
+        };
+        const QString numbers = QStringList(9999, u"12345678"_s).join(u", "_s);
+        QCOMPARE(summary(KnMFInt32(), u"[]"_s), u"no values"_s);
+        QCOMPARE(summary(KnMFInt32(), u"[1, 2]"_s), u"2 values:  1, 2"_s);
+        QCOMPARE(summary(KnMFInt32(), u'[' + numbers + u']'),
+            u"9999 values:  "_s + numbers.left(30) + u'\u2026');
+        QCOMPARE(summary(KnSFString(), u'"' + numbers + u'"'), u'"' + numbers.left(29) + u'\u2026');
+    }
 
 private:
-    NodePtr m_sample;
+    const NodePtr m_sample
+        = SceneReader().readFile(QStringLiteral(CORVANE_SCENES "/all_fields.json"));
 };
-
-void TestSceneModels::initTestCase()
-{
-    SceneReader reader;
-    m_sample = reader.readFile(QStringLiteral(CORVANE_SCENES "/all_fields.json"));
-    QVERIFY2(m_sample, qPrintable(reader.errorText()));
-}
-
-void TestSceneModels::modelsAreSound()
-{
-    SceneModel model;
-    SceneFilterModel filter;
-    filter.setSourceModel(&model);
-    const QAbstractItemModelTester modelTester(&model, FailureMode::QtTest);
-    const QAbstractItemModelTester filterTester(&filter, FailureMode::QtTest);
-    model.setRoot(m_sample);
-    const auto shown = [&filter](const QString& text) {
-        filter.setFilterText(text);
-        return leaves(filter).join(u", "_s);
-    };
-    QCOMPARE(shown(u"  oak "_s), u"Oak"_s);
-    QCOMPARE(shown(u"light"_s), u"Window light, Desk lamp"_s); // one by its type
-    QCOMPARE(shown(u".*"_s), QString());
-    QCOMPARE(shown(QString()), leaves(model).join(u", "_s));
-
-    // A node may stand in several places.
-    auto* const root = new KnGroup;
-    auto* const shared = new KnMaterial;
-    root->addChild(shared);
-    root->addChild(shared);
-    model.setRoot(NodePtr(root));
-    QCOMPARE(shown(QString()), u"Material, Material"_s);
-    model.setRoot(NodePtr());
-    QCOMPARE(filter.rowCount(), 0);
-}
-
-void TestSceneModels::filteringKeepsTheSelection()
-{
-    CrvServices* const services = CrvServices::getInstance();
-    ScenePanel panel;
-    panel.setRoot(m_sample);
-    panel.show();
-    auto* const tree = panel.findChild<QTreeView*>(u"sceneTree"_s);
-    auto* const line = panel.findChild<QLineEdit*>(u"sceneFilter"_s);
-    // What is left is opened, so that it can be chosen at once.
-    QTest::keyClicks(line, u"oak"_s);
-    QModelIndex leaf = tree->model()->index(0, 0);
-    while (tree->model()->hasChildren(leaf))
-        leaf = tree->model()->index(0, 0, leaf);
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(leaf).center());
-    KnFieldContainer* const oak = services->getSelectedNode();
-    QVERIFY(oak);
-    int selections = 0;
-    connect(services, &CrvServices::selectedNodeChanged, &panel, [&selections] { ++selections; });
-    line->clear();
-    QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
-    QTest::keyClicks(line, u"light"_s);
-    QVERIFY(!tree->currentIndex().isValid());
-    line->clear();
-    QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
-    QCOMPARE(services->getSelectedNode(), oak);
-    QCOMPARE(selections, 0);
-    services->selectNode(nullptr);
-}
-
-void TestSceneModels::fieldListFollowsTheFields()
-{
-    auto* const material = new KnMaterial;
-    const NodePtr node(material);
-    FieldListModel model;
-    const QAbstractItemModelTester tester(&model, FailureMode::QtTest);
-    model.setNode(material);
-    const QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
-    const int row = model.rowOf(&material->transparency);
-    QCOMPARE(model.field(model.index(row, 0)), &material->transparency);
-
-    material->transparency.setValue(0.25F);
-    material->transparency.setIgnored(1);
-    KnSensorQueue::getInstance().process();
-    QCOMPARE(changes.size(), 1);
-    QCOMPARE(changes[0][0].toModelIndex().row(), row);
-    QStringList cells;
-    for (int column = 0; column < FieldListModel::ColumnCount; ++column)
-        cells += model.index(row, column).data().toString();
-    QCOMPARE(cells.join(u' '), u"transparency SFFloat 0.25 yes"_s);
-
-    // A node that isn't shown any more isn't watched.
-    model.setNode(nullptr);
-    QCOMPARE(model.rowCount(), 0);
-    material->transparency.setValue(0.5F);
-    KnSensorQueue::getInstance().process();
-    QCOMPARE(changes.size(), 1);
-}
-
-void TestSceneModels::summariesStayShort()
-{
-    const auto summary = [](KnField&& field, const QString& text) {
-        return field.set(toKbString(text)) ? fieldSummary(field, 30) : QString();
-    };
-    const QString numbers = QStringList(9999, u"12345678"_s).join(u", "_s);
-    QCOMPARE(summary(KnMFInt32(), u"[]"_s), u"no values"_s);
-    QCOMPARE(summary(KnMFInt32(), u"[1, 2]"_s), u"2 values:  1, 2"_s);
-    QCOMPARE(summary(KnMFInt32(), u'[' + numbers + u']'),
-        u"9999 values:  "_s + numbers.left(30) + u'\u2026');
-    QCOMPARE(summary(KnSFString(), u'"' + numbers + u'"'), u'"' + numbers.left(29) + u'\u2026');
-}
 
 QTEST_MAIN(TestSceneModels)
 #include "test_scene_models.moc"

@@ -1,38 +1,54 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "KnField.h"
 #include "KnReadError.h"
+#include "KnSFEnum.h"
 
 #include <QByteArrayList>
 
 #include <memory>
 
 /// The names of all field types that make instances.
-const QByteArrayList& fieldTypeNames();
+inline const QByteArrayList fieldTypeNames
+    = QByteArray("SFBitMask SFBool SFBox2f SFBox3s SFColor SFColorRGBA SFDouble SFEnum"
+                 " SFFilePathString SFFloat SFImage SFInt32 SFMatrix SFName SFPlane SFRotation"
+                 " SFShort SFString SFTime SFUInt32 SFUShort SFVec2f SFVec2i32 SFVec2s SFVec3f"
+                 " SFVec4f MFColor MFColorRGBA MFDouble MFFloat MFInt32 MFMatrix MFName MFPlane"
+                 " MFRotation MFShort MFString MFTime MFUInt32 MFUShort MFVec2f MFVec2i32"
+                 " MFVec2s MFVec3f MFVec4f")
+          .split(' ');
 
 /// A fresh field of a type, which must have instances. One that has names gets A = 1, B = 2, AB = 3
 /// and D = 4, in this order.
-std::unique_ptr<KnField> makeField(const QByteArray& typeName);
+inline std::unique_ptr<KnField> makeField(const QByteArray& typeName)
+{
+    KnTypedObject* made = KnType::fromName(typeName.constData()).createInstance();
+    if (made->isOfType(KnSFEnum::getClassTypeId()))
+        static_cast<KnSFEnum*>(made)->setEnums({ { "A", 1 }, { "B", 2 }, { "AB", 3 }, { "D", 4 } });
+    return std::unique_ptr<KnField>(static_cast<KnField*>(made));
+}
 
-QByteArray textOf(const KnField& field);
+inline QByteArray textOf(const KnField& field)
+{
+    KbString text;
+    field.get(text);
+    return QByteArray::fromStdString(text.toUtf8());
+}
 
 /// Collects the texts of a class's errors while it lives.
 template <class Error>
 class Errors {
+    Q_DISABLE_COPY(Errors)
 public:
     Errors() { Error::setHandlerCallback(&Errors::note, this); }
     ~Errors() { Error::setHandlerCallback(&KnErrorHandler::writeToStandardError, nullptr); }
-    Errors(const Errors&) = delete;
-    Errors& operator=(const Errors&) = delete;
 
     QByteArrayList texts;
 
 private:
     static void note(const KnError* error, void* errors)
     {
-        static_cast<Errors*>(errors)->texts
-            += QByteArray::fromStdString(error->getDebugString().toUtf8());
+        static_cast<Errors*>(errors)->texts << error->getDebugString().toUtf8().c_str();
     }
 };
 using ReadErrors = Errors<KnReadError>;

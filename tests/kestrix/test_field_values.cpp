@@ -16,7 +16,6 @@
 #include <limits>
 #include <numeric>
 #include <random>
-#include <tuple>
 
 namespace {
 
@@ -71,146 +70,138 @@ void sweep(const std::vector<typename Array::Value>& numbers)
 
 class TestFieldValues : public QObject {
     Q_OBJECT
-
 private Q_SLOTS:
-    void floatsOfAllBitPatternsReadBack();
-    void doublesReadBack();
-    void rowsChange();
-    void rowsOfTheArrayItselfMayBeGiven();
-    void namesAreTheFieldsOwn();
-    void maskByNamesAndNumbers();
-    void images();
-};
+    void floatsOfAllBitPatternsReadBack()
+    {
+        std::vector<float> numbers;
+        for (std::uint64_t bits = 0; bits <= 0xffffffffU; bits += 1499) // a prime number
+            numbers.push_back(std::bit_cast<float>(static_cast<std::uint32_t>(bits)));
+        sweep<KnMFFloat>(numbers);
+    }
 
-void TestFieldValues::floatsOfAllBitPatternsReadBack()
-{
-    std::vector<float> numbers;
-    for (std::uint64_t bits = 0; bits <= 0xffffffffU; bits += 1499) // a prime number
-        numbers.push_back(std::bit_cast<float>(static_cast<std::uint32_t>(bits)));
-    sweep<KnMFFloat>(numbers);
-}
-
-void TestFieldValues::doublesReadBack()
-{
-    std::mt19937_64 random(1); // NOLINT: the same numbers each time
-    std::vector<double> numbers;
-    for (int i = 0; i < 500000; ++i)
-        numbers.push_back(std::bit_cast<double>(random()));
-    // Random patterns are seldom of a plain magnitude.
-    std::uniform_real_distribution<double> exponent(-6.0, 17.0);
-    for (int i = 0; i < 500000; ++i)
-        numbers.push_back(std::pow(10.0, exponent(random)));
-    using Limits = std::numeric_limits<double>;
-    for (const double corner : { 0.0, -0.0, Limits::min(), Limits::max(), Limits::denorm_min(),
-             Limits::epsilon(), Limits::infinity(), 9007199254740993.0, 5e-324, 1e23, 0.1, 1e15,
-             999999999999999.9, 1e-4 }) {
-        for (const double sign : { 1.0, -1.0 }) {
-            for (const double toward : { corner, 0.0, Limits::infinity() })
-                numbers.push_back(sign * std::nextafter(corner, toward));
+    void doublesReadBack()
+    {
+        std::mt19937_64 random(1); // NOLINT: the same numbers each time
+        std::vector<double> numbers;
+        for (int i = 0; i < 500000; ++i)
+            numbers.push_back(std::bit_cast<double>(random()));
+        // Random patterns are seldom of a plain magnitude.
+        std::uniform_real_distribution<double> exponent(-6.0, 17.0);
+        for (int i = 0; i < 500000; ++i)
+            numbers.push_back(std::pow(10.0, exponent(random)));
+        using Limits = std::numeric_limits<double>;
+        for (const double corner : { 0.0, -0.0, Limits::min(), Limits::max(), Limits::denorm_min(),
+                 Limits::epsilon(), Limits::infinity(), 9007199254740993.0, 5e-324, 1e23, 0.1, 1e15,
+                 999999999999999.9, 1e-4 }) {
+            for (const double sign : { 1.0, -1.0 }) {
+                for (const double toward : { corner, 0.0, Limits::infinity() })
+                    numbers.push_back(sign * std::nextafter(corner, toward));
+            }
         }
+        sweep<KnMFDouble>(numbers);
     }
-    sweep<KnMFDouble>(numbers);
-}
 
-void TestFieldValues::rowsChange()
-{
-    Errors<KnMemoryError> errors;
-    QByteArrayList results;
-    QByteArrayList expected;
-    for (const Row& row : rows) {
-        KnMFInt32 field;
-        field.set("[ 1, 2, 3 ]");
-        KnFieldSensor sensor(nullptr, nullptr);
-        sensor.attach(&field);
-        row.change(field);
-        const char* const heard = KnSensorQueue::getInstance().isEmpty() ? "untouched " : "";
-        results += heard + textOf(field);
-        expected += row.after ? row.after : "untouched [ 1, 2, 3 ]";
+    void rowsChange()
+    {
+        Errors<KnMemoryError> errors;
+        QByteArrayList results;
+        QByteArrayList expected;
+        for (const Row& row : rows) {
+            KnMFInt32 field;
+            field.set("[ 1, 2, 3 ]");
+            KnFieldSensor sensor(nullptr, nullptr);
+            sensor.attach(&field);
+            row.change(field);
+            const char* const heard = KnSensorQueue::getInstance().isEmpty() ? "untouched " : "";
+            results += heard + textOf(field);
+            expected += row.after ? row.after : "untouched [ 1, 2, 3 ]";
+        }
+        QCOMPARE(results, expected);
+        QCOMPARE(errors.texts.size(), 2);
     }
-    QCOMPARE(results, expected);
-    QCOMPARE(errors.texts.size(), 2);
-}
 
-void TestFieldValues::rowsOfTheArrayItselfMayBeGiven()
-{
-    KnMFString field;
-    field.set1Value(0, "a text that is too long for any small buffer of the string class");
-    for (int i = 1; i < 100; ++i)
-        field.set1Value(i, field[i - 1]);
-    QVERIFY(field[99] == field[0]);
-    field.set1Value(0, "first");
-    field.setValues(1, 100, field.getValues());
-    QVERIFY(field[1] == KbString("first") && field[2] == field[100] && field.getNum() == 101);
-}
-
-void TestFieldValues::namesAreTheFieldsOwn()
-{
-    KnSFEnum field;
-    field.setValue(-1);
-    QCOMPARE(textOf(field), QByteArray("-1"));
-    std::vector<KbName> given { "FRONT", "BACK" };
-    const int numbers[] = { 5, -1 };
-    field.setEnums(2, numbers, given.data());
-    given.assign(2, KbName());
-    int num = 0;
-    int* values = nullptr;
-    KbName* names = nullptr;
-    field.getEnums(num, values, names);
-    QVERIFY(num == 2 && values[0] == 5 && names[0] == KbName("FRONT"));
-    QVERIFY(field.findEnumValue("FRONT", num) && !field.findEnumValue("C", num) && num == 5);
-    ReadErrors errors;
-    field.setValue("C");
-    QCOMPARE(textOf(field), QByteArray("BACK"));
-    QVERIFY(errors.texts.join().endsWith("one of FRONT, BACK, found: C"));
-    field.setValue("FRONT");
-    QCOMPARE(field.getValue(), 5);
-}
-
-void TestFieldValues::maskByNamesAndNumbers()
-{
-    KnSFBitMask mask;
-    // A name for several bits serves when no other name has them.
-    mask.setEnums({ { "NONE", 0 }, { "BOTH", 6 }, { "LOW", 2 } });
-    for (const auto& [value, text] : { std::pair(0, "()"), std::pair(2, "(LOW)"),
-             std::pair(4, "(0x4)"), std::pair(7, "(BOTH | 0x1)") }) {
-        mask = value;
-        QCOMPARE(textOf(mask), QByteArray(text));
-        QVERIFY(mask.set(text) && mask.getValue() == value);
+    void rowsOfTheArrayItselfMayBeGiven()
+    {
+        KnMFString field;
+        field.set1Value(0, "a text that is too long for any small buffer of the string class");
+        for (int i = 1; i < 100; ++i)
+            field.set1Value(i, field[i - 1]);
+        QVERIFY(field[99] == field[0]);
+        field.set1Value(0, "first");
+        field.setValues(1, 100, field.getValues());
+        QVERIFY(field[1] == KbString("first") && field[2] == field[100] && field.getNum() == 101);
     }
-    QVERIFY(mask.set("NONE") && mask.getValue() == 0);
-}
 
-void TestFieldValues::images()
-{
-    KbVec2s size;
-    int count = 0;
-    KnSFImage image;
-    for (int components = 1; components <= KnSFImage::maxComponents; ++components) {
-        std::string bytes(35 * static_cast<std::size_t>(components), '\0');
-        std::iota(bytes.begin(), bytes.end(), '\x70');
-        const auto* data = reinterpret_cast<const unsigned char*>(bytes.data());
-        KnSFImage from;
-        from.setValue(KbVec2s(7, 5), components, data);
-        QVERIFY(image.set(textOf(from).constData()));
-        const unsigned char* pixels = image.getValue(size, count);
-        QVERIFY(size == KbVec2s(7, 5) && count == components);
-        QVERIFY(std::equal(data, data + bytes.size(), pixels));
-        // The field's own pixels may be given back to it.
-        image.setValue(KbVec2s(7, 4), components, pixels + 7 * components);
-        QVERIFY(
-            std::equal(data + 7 * components, data + bytes.size(), image.getValue(size, count)));
-        image.setValue(KbVec2s(0, 4), components, nullptr);
-        QVERIFY(!image.getValue(size, count) && size == KbVec2s() && count == 0);
-        image.setValue(KbVec2s(1, 1), components, nullptr);
-        QVERIFY(image.getValue(size, count)[components - 1] == 0);
+    void namesAreTheFieldsOwn()
+    {
+        KnSFEnum field;
+        field.setValue(-1);
+        QCOMPARE(textOf(field), "-1");
+        std::vector<KbName> given { "FRONT", "BACK" };
+        const int numbers[] = { 5, -1 };
+        field.setEnums(2, numbers, given.data());
+        given.assign(2, KbName());
+        int num = 0;
+        int* values = nullptr;
+        KbName* names = nullptr;
+        field.getEnums(num, values, names);
+        QVERIFY(num == 2 && values[0] == 5 && names[0] == KbName("FRONT"));
+        QVERIFY(field.findEnumValue("FRONT", num) && !field.findEnumValue("C", num) && num == 5);
+        ReadErrors errors;
+        field.setValue("C");
+        QCOMPARE(textOf(field), "BACK");
+        QVERIFY(errors.texts.join().endsWith("one of FRONT, BACK, found: C"));
     }
-    Errors<KnDebugError> errors;
-    for (const auto& [width, height, components] : { std::tuple(-1, 1, 1), std::tuple(1, -1, 1),
-             std::tuple(1, 1, -1), std::tuple(1, 1, KnSFImage::maxComponents + 1) })
-        image.setValue(KbVec2s(width, height), components, nullptr);
-    QCOMPARE(errors.texts.size(), 4);
-    QCOMPARE(textOf(image), QByteArray("1 1 8 0x0"));
-}
+
+    void maskByNamesAndNumbers()
+    {
+        KnSFBitMask mask;
+        // A name for several bits serves when no other name has them.
+        mask.setEnums({ { "NONE", 0 }, { "BOTH", 6 }, { "LOW", 2 } });
+        for (const auto& [value, text] : { std::pair(0, "()"), std::pair(2, "(LOW)"),
+                 std::pair(4, "(0x4)"), std::pair(7, "(BOTH | 0x1)") }) {
+            mask = value;
+            QCOMPARE(textOf(mask), text);
+            QVERIFY(mask.set(text) && mask.getValue() == value);
+        }
+        QVERIFY(mask.set("NONE") && mask.getValue() == 0);
+    }
+
+    void images()
+    {
+        KbVec2s size;
+        int count = 0;
+        KnSFImage image;
+        for (int components = 1; components <= KnSFImage::maxComponents; ++components) {
+            QByteArray bytes(35 * components, '\0');
+            std::iota(bytes.begin(), bytes.end(), '\x70');
+            const auto pixels = [&](int number) {
+                const auto* data = reinterpret_cast<const char*>(image.getValue(size, count));
+                return QByteArray(data, number * components);
+            };
+            KnSFImage from;
+            from.setValue(KbVec2s(7, 5), components,
+                reinterpret_cast<const unsigned char*>(bytes.constData()));
+            QVERIFY(image.set(textOf(from).constData()));
+            QCOMPARE(pixels(35), bytes);
+            QVERIFY(size == KbVec2s(7, 5) && count == components);
+            // The field's own pixels may be given back to it.
+            image.setValue(KbVec2s(7, 4), components, image.getValue(size, count) + 7 * components);
+            QCOMPARE(pixels(28), bytes.mid(7 * components));
+            image.setValue(KbVec2s(0, 4), components, nullptr);
+            QVERIFY(!image.getValue(size, count) && size == KbVec2s() && count == 0);
+            image.setValue(KbVec2s(1, 1), components, nullptr);
+            QCOMPARE(pixels(1), QByteArray(components, '\0'));
+        }
+        Errors<KnDebugError> errors;
+        image.setValue(KbVec2s(-1, 1), 1, nullptr);
+        image.setValue(KbVec2s(1, -1), 1, nullptr);
+        image.setValue(KbVec2s(1, 1), -1, nullptr);
+        image.setValue(KbVec2s(1, 1), KnSFImage::maxComponents + 1, nullptr);
+        QCOMPARE(errors.texts.size(), 4);
+        QCOMPARE(textOf(image), "1 1 8 0x0");
+    }
+};
 
 QTEST_APPLESS_MAIN(TestFieldValues)
 #include "test_field_values.moc"

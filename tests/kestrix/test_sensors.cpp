@@ -39,142 +39,126 @@ private:
 
 } // namespace
 
-/// Three sensors a, b and c on one field. The log has a bar behind each run of the queue, and a w
-/// where the host is woken.
+/// Three sensors a, b and c on one field.
 class TestSensors : public QObject {
     Q_OBJECT
-
 private Q_SLOTS:
-    void init();
-    void runsLaterOnceAndInOrder();
-    void detachAndAttachDropWhatWaits();
-    void callbacksChangeWhatRuns();
-    void theHostIsWokenOnceABatch();
+    void init()
+    {
+        m_field = std::make_unique<KnSFFloat>();
+        m_a = std::make_unique<Watch>(m_log, 'a', m_field.get());
+        m_b = std::make_unique<Watch>(m_log, 'b', m_field.get());
+        m_c = std::make_unique<Watch>(m_log, 'c', m_field.get());
+        QVERIFY(m_queue.isEmpty());
+        m_log.clear();
+    }
+
+    void runsLaterOnceAndInOrder()
+    {
+        m_b->attach(&m_other);
+        m_other.touch();
+        m_field->setValue(1.0F);
+        m_field->setValue(2.0F);
+        m_other.touch();
+        QCOMPARE(m_log, QByteArray());
+        play("||");
+        m_field->setValue(2.0F); // the same
+        play("|");
+        m_field->setIgnored(1);
+        play("|");
+        QCOMPARE(m_log, "bac||ac|ac|");
+    }
+
+    void detachAndAttachDropWhatWaits()
+    {
+        play("f");
+        m_b->detach();
+        m_b->detach();
+        play("|f");
+        m_a->attach(&m_other);
+        play("|fo|f");
+        m_c->attach(nullptr);
+        play("|");
+        m_b->attach(m_field.get());
+        play("f");
+        m_field.reset();
+        QVERIFY(!m_b->getAttachedField() && !m_c->getAttachedField());
+        play("|");
+        QCOMPARE(m_log, "ac|c|ca|||");
+    }
+
+    void callbacksChangeWhatRuns()
+    {
+        // What b does, and what runs then, at once without another change, and behind another one.
+        const std::pair<std::function<void()>, QByteArray> rows[] = {
+            { [this] { m_b.reset(); }, "abc||ac|" },
+            { [this] { m_a.reset(); }, "abc||bc|" },
+            { [this] { m_c.reset(); }, "ab||ab|" },
+            { [this] {
+                 for (auto* watch : { &m_c, &m_a, &m_b })
+                     watch->reset();
+             },
+                "ab|||" },
+            { [this] { m_field.reset(); }, "ab|||" },
+            { [this] { m_queue.process(); }, "abc||abc|" },
+            // c still waits then, so that it runs once for both changes.
+            { [this] { play("f"); }, "abc|ab|abc|" },
+            // What is dropped was part of the run, what the other field puts in is not.
+            { [this] {
+                 m_c->attach(&m_other);
+                 m_a->detach();
+                 play("o");
+             },
+                "ab|c|b|" },
+        };
+        for (const auto& [action, log] : rows) {
+            init();
+            m_b->action = action;
+            play("f||f|");
+            QCOMPARE(m_log, log);
+        }
+    }
+
+    void theHostIsWokenOnceABatch()
+    {
+        const auto wake = [](void* log) { *static_cast<QByteArray*>(log) += 'w'; };
+        m_queue.setWakeCallback(wake, &m_log);
+        m_c->action = [this] { play("f"); };
+        play("fof|"); // wakes for what the callback touches
+        m_c->action = nullptr;
+        play("|");
+        m_queue.setWakeCallback(nullptr, nullptr);
+        play("f");
+        m_log += '-';
+        m_queue.setWakeCallback(wake, &m_log); // finds sensors that wait
+        m_queue.setWakeCallback(nullptr, nullptr);
+        play("|");
+        QCOMPARE(m_log, "wabcw|abc|-wabc|");
+    }
 
 private:
-    void run();
+    /// Touches the field at an f and the other one at an o, and runs the queue at a bar, which goes
+    /// to the log behind the sensors that ran.
+    void play(const QByteArray& steps)
+    {
+        for (const char step : steps) {
+            if (step == 'f' && m_field)
+                m_field->touch();
+            if (step == 'o')
+                m_other.touch();
+            if (step != '|')
+                continue;
+            m_queue.process();
+            m_log += step;
+        }
+    }
 
     KnSensorQueue& m_queue = KnSensorQueue::getInstance();
-    QByteArray m_log;
+    QByteArray m_log; // with a w where the host is woken
     std::unique_ptr<KnSFFloat> m_field;
     KnSFFloat m_other;
-    std::unique_ptr<Watch> m_a;
-    std::unique_ptr<Watch> m_b;
-    std::unique_ptr<Watch> m_c;
+    std::unique_ptr<Watch> m_a, m_b, m_c;
 };
-
-void TestSensors::init()
-{
-    m_field = std::make_unique<KnSFFloat>();
-    m_a = std::make_unique<Watch>(m_log, 'a', m_field.get());
-    m_b = std::make_unique<Watch>(m_log, 'b', m_field.get());
-    m_c = std::make_unique<Watch>(m_log, 'c', m_field.get());
-    QVERIFY(m_queue.isEmpty());
-    m_log.clear();
-}
-
-void TestSensors::run()
-{
-    m_queue.process();
-    m_log += '|';
-}
-
-void TestSensors::runsLaterOnceAndInOrder()
-{
-    m_b->attach(&m_other);
-    m_other.touch();
-    m_field->setValue(1.0F);
-    m_field->setValue(2.0F);
-    m_other.touch();
-    QCOMPARE(m_log, QByteArray());
-    run();
-    run();
-    m_field->setValue(2.0F); // the same
-    run();
-    m_field->setIgnored(1);
-    run();
-    QCOMPARE(m_log, QByteArray("bac||ac|ac|"));
-}
-
-void TestSensors::detachAndAttachDropWhatWaits()
-{
-    m_field->touch();
-    m_b->detach();
-    m_b->detach();
-    run();
-    m_field->touch();
-    m_a->attach(&m_other);
-    run();
-    m_field->touch();
-    m_other.touch();
-    run();
-    m_field->touch();
-    m_c->attach(nullptr);
-    run();
-    m_b->attach(m_field.get());
-    m_field->touch();
-    m_field.reset();
-    QVERIFY(!m_b->getAttachedField() && !m_c->getAttachedField());
-    run();
-    QCOMPARE(m_log, QByteArray("ac|c|ca|||"));
-}
-
-void TestSensors::callbacksChangeWhatRuns()
-{
-    // What b does, and what runs then, at once without another change, and behind another change.
-    const std::pair<std::function<void()>, QByteArray> rows[] = {
-        { [this] { m_b.reset(); }, "abc||ac|" },
-        { [this] { m_a.reset(); }, "abc||bc|" },
-        { [this] { m_c.reset(); }, "ab||ab|" },
-        { [this] {
-             for (auto* watch : { &m_c, &m_a, &m_b })
-                 watch->reset();
-         },
-            "ab|||" },
-        { [this] { m_field.reset(); }, "ab|||" },
-        { [this] { m_queue.process(); }, "abc||abc|" },
-        // c still waits then, so that it runs once for both changes.
-        { [this] { m_field->touch(); }, "abc|ab|abc|" },
-        // What is dropped was part of the run, what the other field puts in is not.
-        { [this] {
-             m_c->attach(&m_other);
-             m_other.touch();
-             m_a->detach();
-         },
-            "ab|c|b|" },
-    };
-    for (const auto& [action, log] : rows) {
-        init();
-        m_b->action = action;
-        m_field->touch();
-        run();
-        run();
-        if (m_field)
-            m_field->touch();
-        run();
-        QCOMPARE(m_log, log);
-    }
-}
-
-void TestSensors::theHostIsWokenOnceABatch()
-{
-    const auto wake = [](void* log) { *static_cast<QByteArray*>(log) += 'w'; };
-    m_queue.setWakeCallback(wake, &m_log);
-    m_field->touch();
-    m_other.touch();
-    m_field->touch();
-    m_c->action = [this] { m_field->touch(); };
-    run(); // wakes for what the callback touches
-    m_c->action = nullptr;
-    run();
-    m_queue.setWakeCallback(nullptr, nullptr);
-    m_field->touch();
-    m_log += '-';
-    m_queue.setWakeCallback(wake, &m_log); // finds sensors that wait
-    m_queue.setWakeCallback(nullptr, nullptr);
-    run();
-    QCOMPARE(m_log, QByteArray("wabcw|abc|-wabc|"));
-}
 
 QTEST_APPLESS_MAIN(TestSensors)
 #include "test_sensors.moc"

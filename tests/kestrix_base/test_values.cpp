@@ -1,50 +1,113 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "KbGeometry.h"
+#include "KbName.h"
+#include "KbString.h"
 
 #include <QTest>
 
 #include <cmath>
-#include <limits>
 #include <numbers>
+#include <numeric>
+#include <random>
 
-/// The rest of the value types is proven by the texts of the fields that hold them.
+/// Strings, names and rotations. The rest of the value types is proven by the texts of the fields
+/// that hold them.
 class TestValues : public QObject {
     Q_OBJECT
-
 private Q_SLOTS:
-    void rotations();
-};
+    void utf16SurvivesTheWayInAndOut()
+    {
+        // Also surrogates alone and the wrong way round, and a zero.
+        const std::u16string text
+            = u"a\x7f\x80\x7ff\x800\xffff\xd800\xdc00\xdbff\xdfff\xd800x\xdfffy\xdc00\xd800"
+            + std::u16string(1, u'\0') + u'z';
+        const KbString string = KbString::fromUtf16(text.data(), std::ssize(text));
+        QCOMPARE(QByteArray::fromStdString(string.toUtf8()),
+            QByteArray("a\x7f\xc2\x80\xdf\xbf\xe0\xa0\x80\xef\xbf\xbf\xf0\x90\x80\x80"
+                       "\xf4\x8f\xbf\xbf\xed\xa0\x80x\xed\xbf\xbfy\xed\xb0\x80\xed\xa0\x80")
+                + '\0' + 'z');
+        QCOMPARE(string.toUtf16(), text);
+        QCOMPARE(KbString::fromUtf16(text.data() + 6, 1).toUtf16(), text.substr(6, 1));
+        QCOMPARE(KbString::fromUtf16(text.data()).toUtf16() + u'\0' + u'z', text);
 
-void TestValues::rotations()
-{
-    const auto q = KbRotation(KbVec3f(0.0F, 3.0F, 4.0F), 10.0F).getValue();
-    QCOMPARE((QList<float>(q.begin(), q.end())),
-        (QList<float> { 0, 0.6F * std::sin(5.0F), 0.8F * std::sin(5.0F), std::cos(5.0F) }));
-    const std::array<float, 4> none { 0, 0, 0, 1 };
-    for (const float length : { 0.0F, INFINITY, NAN })
-        QCOMPARE(KbRotation(KbVec3f(length, 0.0F, 0.0F), 2.0F).getValue(), none);
-
-    const float pi = std::numbers::pi_v<float>;
-    const float max = std::numeric_limits<float>::max();
-    const struct {
-        float quaternion[4];
-        QList<float> axisAndAngle;
-    } rows[] = {
-        { { 1, 0, 0, 0 }, { 1, 0, 0, pi } },
-        { { 0, 5, 0, 5 }, { 0, 1, 0, pi / 2 } }, // of any length
-        { { 0, 0, max, max }, { 0, 0, 1, pi / 2 } },
-        { { 0, 0, 0, -1 }, { 0, 0, 1, 0 } }, // no rotation, as all the others
-        { { 0, 0, 0, 0 }, { 0, 0, 1, 0 } },
-        { { NAN, 0, 0, 1 }, { 0, 0, 1, 0 } },
-        { { 1, 0, 0, INFINITY }, { 0, 0, 1, 0 } },
-    };
-    for (const auto& [quaternion, axisAndAngle] : rows) {
-        KbVec3f axis;
-        float radians = 0;
-        KbRotation(quaternion).getValue(axis, radians);
-        QCOMPARE((QList<float> { axis[0], axis[1], axis[2], radians }), axisAndAngle);
+        std::mt19937 random(1); // NOLINT: the same texts each time
+        std::u16string any(200000, u'\0');
+        for (char16_t& unit : any) {
+            // Surrogates are rare among all units, so half of them are made surrogates.
+            const auto bits = random();
+            unit = static_cast<char16_t>(bits & 0x10000 ? 0xd800 + bits % 0x800 : bits);
+        }
+        QVERIFY(KbString::fromUtf16(any.data(), std::ssize(any)).toUtf16() == any);
     }
-}
+
+    void brokenUtf8BecomesReplacements()
+    {
+        // A tail without a head, heads without their tails, longer than needed (two for one, three
+        // for two), beyond Unicode, never a head; each byte is replaced by itself.
+        const KbString text("a\x80z \xe2\x82 \xc3z \xc0\x80 \xe0\x80\x80 \xf4\x90\x80\x80 \xff");
+        QCOMPARE(text.toUtf16(),
+            u"a\xfffdz \xfffd\xfffd \xfffdz \xfffd\xfffd \xfffd\xfffd\xfffd"
+            u" \xfffd\xfffd\xfffd\xfffd \xfffd");
+        QCOMPARE(KbString("a\xe2\x82").toUtf16(), u"a\xfffd\xfffd"); // where the text ends
+    }
+
+    void latin1()
+    {
+        std::string all(256, '\0');
+        std::iota(all.begin(), all.end(), '\0');
+        QCOMPARE(KbString::fromLatin1(all).toLatin1(), all);
+        QCOMPARE(KbString::fromLatin1("\xe4").toUtf8(), "\xc3\xa4");
+        QCOMPARE(KbString("\xc3\xa4\xe2\x82\xac\xf0\x90\x80\x80.").toLatin1(), "\xe4??.");
+    }
+
+    void nullAndEmpty()
+    {
+        KbString string = "";
+        QVERIFY(string == KbString() && !string.isNull() && !KbString::fromUtf16(u"").isNull());
+        string = "text";
+        string.makeNull();
+        for (const KbString& null :
+            { string, KbString(), KbString(static_cast<const char*>(nullptr)),
+                KbString::fromUtf16(static_cast<const char16_t*>(nullptr)) })
+            QVERIFY(null.isNull() && null.isEmpty());
+
+        const KbName name("wing");
+        QVERIFY(&name.getString() == &KbName(std::string("wing").c_str()).getString());
+        QVERIFY(name == KbName(KbString("wing")) && !(name == KbName("wings")));
+        QVERIFY(KbName() == KbName("") && KbName() == KbName(static_cast<const char*>(nullptr)));
+    }
+
+    void rotations()
+    {
+        const auto q = KbRotation(KbVec3f(0.0F, 3.0F, 4.0F), 10.0F).getValue();
+        QCOMPARE((QList<float>(q.begin(), q.end())),
+            (QList<float> { 0, 0.6F * std::sin(5.0F), 0.8F * std::sin(5.0F), std::cos(5.0F) }));
+        const std::array<float, 4> none { 0, 0, 0, 1 };
+        for (const float length : { 0.0F, INFINITY, NAN })
+            QCOMPARE(KbRotation(KbVec3f(length, 0.0F, 0.0F), 2.0F).getValue(), none);
+
+        const float pi = std::numbers::pi_v<float>;
+        const float max = std::numeric_limits<float>::max();
+        const struct {
+            float quaternion[4];
+            QList<float> axisAndAngle;
+        } rows[] = {
+            { { 1, 0, 0, 0 }, { 1, 0, 0, pi } },
+            { { 0, 5, 0, 5 }, { 0, 1, 0, pi / 2 } }, // of any length
+            { { 0, 0, max, max }, { 0, 0, 1, pi / 2 } },
+            { { 0, 0, 0, -1 }, { 0, 0, 1, 0 } }, // no rotation, as all the others
+            { { 0, 0, 0, 0 }, { 0, 0, 1, 0 } },
+            { { NAN, 0, 0, 1 }, { 0, 0, 1, 0 } },
+            { { 1, 0, 0, INFINITY }, { 0, 0, 1, 0 } },
+        };
+        for (const auto& [quaternion, axisAndAngle] : rows) {
+            KbVec3f axis;
+            float radians = 0;
+            KbRotation(quaternion).getValue(axis, radians);
+            QCOMPARE((QList<float> { axis[0], axis[1], axis[2], radians }), axisAndAngle);
+        }
+    }
+};
 
 QTEST_APPLESS_MAIN(TestValues)
 #include "test_values.moc"

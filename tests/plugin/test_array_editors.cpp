@@ -7,41 +7,28 @@
 #include "WfRealSlider.h"
 
 #include <QCheckBox>
-#include <QValidator>
 
-#include <functional>
 #include <optional>
 
 namespace {
 
-/// An owner whose table can be given any kind; it notes the rows that it is asked for.
-class ProbeEditor : public WfMFieldWidget {
+/// Notes the rows that it is asked for.
+class ProbeEditor : public WfMFInt32Widget {
 public:
-    ProbeEditor()
-        : WfMFieldWidget("ProbeEditor")
-    {
-        setLabel(QStringLiteral("Probe"));
-        load();
-        m_table->setColumnCount(1);
-    }
+    ProbeEditor() { load(); }
     ~ProbeEditor() override { unload(); }
 
-    QString getCellText(int row, int) override
+    QString getCellText(int row, int column) override
     {
         m_rowsAsked << row;
-        return QStringLiteral("1");
+        return WfMFInt32Widget::getCellText(row, column);
     }
-    bool acceptsField(KnField*) override { return true; }
-    WfMFieldTable& table() { return *m_table; }
+    WfMFieldTable* table() { return m_table; }
 
     QSet<int> m_rowsAsked;
 };
 
-using Leave = std::function<void(ArrayFixture&)>;
-
 } // namespace
-
-Q_DECLARE_METATYPE(Leave)
 
 /// Cell editors, from their opening to their end.
 class TestArrayEditors : public QObject {
@@ -54,70 +41,63 @@ private Q_SLOTS:
     }
     void cleanup() { m_fixture.reset(); }
 
-    void openingWritesNothing_data()
-    {
-        QTest::addColumn<QByteArray>("values");
-        QTest::newRow("MFUInt32") << QByteArray("[ 0x0, 0xa, 0xb, 0xffffffff ]");
-        QTest::newRow("MFUShort") << QByteArray("[ 0, 10, 11, 65535 ]");
-        QTest::newRow("MFInt32") << QByteArray("[ 0, -2147483648, 2147483647, 11 ]");
-        QTest::newRow("MFShort") << QByteArray("[ 0, -32768, 32767, 11 ]");
-        QTest::newRow("MFFloat") << QByteArray("[ 0.12345678, inf, 1e+30, nan ]");
-        QTest::newRow("MFDouble") << QByteArray("[ 0.12345678901234568, inf, 1e+300, nan ]");
-        QTest::newRow("MFString") << QByteArray("[ \"\", \"a\\nb\", \"\\\"\", \"x\" ]");
-    }
     void openingWritesNothing()
     {
-        QFETCH(QByteArray, values);
-        KnField& field = m_fixture->show(QTest::currentDataTag(), values);
-        for (int row = 0; row < 4; ++row) {
-            m_fixture->table().open(row, 0);
-            EditorFixture::settle();
-            m_fixture->press(row % 2 == 0 ? Qt::Key_Return : Qt::Key_Escape);
-            QVERIFY(!m_fixture->table().openEditor());
+        const char* const rows[][2] = {
+            { "MFUInt32", "[ 0x0, 0xa, 0xb, 0xffffffff ]" },
+            { "MFUShort", "[ 0, 10, 11, 65535 ]" },
+            { "MFInt32", "[ 0, -2147483648, 2147483647, 11 ]" },
+            { "MFShort", "[ 0, -32768, 32767, 11 ]" },
+            { "MFFloat", "[ 0.12345678, inf, 1e+30, nan ]" },
+            { "MFDouble", "[ 0.12345678901234568, inf, 1e+300, nan ]" },
+            { "MFString", "[ \"\", \"a\\nb\", \"\\\"\", \"x\" ]" },
+        };
+        for (const auto& [type, values] : rows) {
+            const KnField& field = m_fixture->show(type, values);
+            for (int row = 0; row < 4; ++row) {
+                m_fixture->table().open(row, 0);
+                EditorFixture::settle();
+                m_fixture->press(row % 2 == 0 ? Qt::Key_Return : Qt::Key_Escape);
+                QVERIFY(!m_fixture->table().openEditor());
+            }
+            QCOMPARE(EditorFixture::text(&field), QLatin1String(values));
         }
-        QCOMPARE(EditorFixture::text(&field), QString::fromLatin1(values));
         QCOMPARE(m_fixture->commands(), 0);
     }
 
-    void whatWasTypedIsWrittenOnLeaving_data()
-    {
-        QTest::addColumn<Leave>("leave");
-        QTest::addColumn<int>("written");
-        const auto add = [](const char* name, const Leave& leave, int written = 78) {
-            QTest::newRow(name) << leave << written;
-        };
-        add("Return", [](ArrayFixture& fixture) { fixture.press(Qt::Key_Return); });
-        add("Tab", [](ArrayFixture& fixture) { fixture.press(Qt::Key_Tab); });
-        add(
-            "Escape", [](ArrayFixture& fixture) { fixture.press(Qt::Key_Escape); }, 1);
-        add("click", [](ArrayFixture& fixture) { fixture.table().click(2, 0); });
-        add("row button", [](ArrayFixture& fixture) { fixture.clickButton("m_upButton"); });
-        add("no field", [](ArrayFixture& fixture) { fixture.select(nullptr); });
-        add("another editor",
-            [](ArrayFixture& fixture) { fixture.select(&fixture.otherNode().MFFloat); });
-        add("the same editor", [](ArrayFixture& fixture) {
-            const bool isString = fixture.editor()->getEditedObject() == &fixture.node().MFString;
-            fixture.select(fixture.otherField(isString ? "MFString" : "MFInt32"));
-        });
-    }
     void whatWasTypedIsWrittenOnLeaving()
     {
-        QFETCH(Leave, leave);
-        QFETCH(int, written);
-        // A slider without commands, a line with commands.
-        for (const char* type : { "MFInt32", "MFString" }) {
-            KnField& other = *m_fixture->otherField(type);
-            other.set("[ 1, 2 ]");
-            const QString before = EditorFixture::text(&other);
-            const QString after = QString(before).replace(u'1', QString::number(written));
-            KnField& field = m_fixture->show(type, "[ 1, 2, 3 ]");
-            m_fixture->table().type(0, 0, QStringLiteral("78"));
-            const QPointer<QWidget> editor = m_fixture->table().openEditor();
-            leave(*m_fixture);
-            QTRY_VERIFY(!editor);
-            QVERIFY(EditorFixture::text(&field).startsWith(after.chopped(2)));
-            QCOMPARE(EditorFixture::text(&other), before);
-            QCOMPARE(m_fixture->commands(), written == 78 && qstrcmp(type, "MFString") == 0);
+        const struct {
+            const char* name;
+            int written;
+            void (*leave)(ArrayFixture& fixture, const char* type);
+        } ways[] = {
+            { "Return", 78, [](ArrayFixture& f, const char*) { f.press(Qt::Key_Return); } },
+            { "Tab", 78, [](ArrayFixture& f, const char*) { f.press(Qt::Key_Tab); } },
+            { "Escape", 1, [](ArrayFixture& f, const char*) { f.press(Qt::Key_Escape); } },
+            { "click", 78, [](ArrayFixture& f, const char*) { f.table().click(2, 0); } },
+            { "button", 78, [](ArrayFixture& f, const char*) { f.clickButton("m_upButton"); } },
+            { "no field", 78, [](ArrayFixture& f, const char*) { f.select(nullptr); } },
+            { "editor", 78, [](ArrayFixture& f, const char*) { f.select(f.field("MFFloat")); } },
+            { "field", 78, [](ArrayFixture& f, const char* t) { f.select(f.otherField(t)); } },
+        };
+        for (const auto& [name, written, leave] : ways) {
+            // A slider without commands, a line with commands.
+            for (const char* type : { "MFInt32", "MFString" }) {
+                m_fixture.emplace();
+                KnField* const other = m_fixture->otherField(type);
+                other->set("[ 1, 2 ]");
+                const KnField& field = m_fixture->show(type, "[ 1, 2, 3 ]");
+                const QString before = EditorFixture::text(&field) + QLatin1String(name);
+                m_fixture->table().type(0, 0, QStringLiteral("78"));
+                const QPointer<QWidget> editor = m_fixture->table().openEditor();
+                leave(*m_fixture, type);
+                QTRY_VERIFY(!editor);
+                QCOMPARE(EditorFixture::text(&field) + QLatin1String(name),
+                    QString(before).replace(u'1', QString::number(written)));
+                QVERIFY(!EditorFixture::text(other).contains(u'7'));
+                QCOMPARE(m_fixture->commands(), written == 78 && qstrcmp(type, "MFString") == 0);
+            }
         }
     }
 
@@ -226,26 +206,23 @@ private Q_SLOTS:
     {
         KnMFInt32 first;
         KnMFInt32 second;
-        for (KnMFInt32* field : { &first, &second })
-            field->set("[ 1, 2, 3 ]");
-        WfMFInt32Widget editor;
-        editor.load();
-        const TableInput cells(editor.getFrame()->findChild<WfMFieldTable*>());
-        editor.setEditedObject(&first);
-        editor.activate();
-        QVERIFY(QTest::qWaitForWindowExposed(editor.getFrame()));
-        const auto typeUnfocused = [this, &cells](int row, const char* text) {
-            QMainWindow& otherWindow = m_fixture->shell().window();
-            otherWindow.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&otherWindow));
+        first.set("[ 1, 2, 3 ]");
+        second.set("[ 1, 2, 3 ]");
+        ProbeEditor editor;
+        const TableInput cells(editor.table());
+        const auto typeUnfocused = [&](int row, const char* text) {
+            editor.activate();
+            QVERIFY(QTest::qWaitForWindowExposed(editor.getFrame()));
+            m_fixture->shell().window().activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&m_fixture->shell().window()));
             cells->edit(cells->model()->index(row, 0));
             QTest::keyClicks(TableInput::line(cells.openEditor()), QLatin1String(text));
         };
+        editor.setEditedObject(&first);
         typeUnfocused(0, "7");
         editor.deactivate();
         QCOMPARE(first[0], 7);
         // A field that comes without a word to the one before is not written for it.
-        editor.activate();
         typeUnfocused(1, "8");
         editor.setEditedObject(&second);
         editor.activate();
@@ -254,7 +231,6 @@ private Q_SLOTS:
         QCOMPARE(EditorFixture::text(&first), QStringLiteral("[ 7, 2, 3 ]"));
         QCOMPARE(EditorFixture::text(&second), QStringLiteral("[ 1, 2, 3 ]"));
         editor.deactivate();
-        editor.unload();
     }
 
     void everythingThatUnicodeHoldsSurvives()
@@ -275,17 +251,6 @@ private Q_SLOTS:
         QCOMPARE(toQString(m_fixture->node().MFString[0]), QString());
     }
 
-    void anArrayWithoutANodeHasNoDefault()
-    {
-        KnMFFloat alone;
-        alone.set("[ 1 ]");
-        m_fixture->select(&alone);
-        m_fixture->clickButton("m_defaultButton");
-        QCOMPARE(EditorFixture::text(&alone), QStringLiteral("[ 1 ]"));
-        QCOMPARE(m_fixture->commands(), 0);
-        m_fixture->select(nullptr);
-    }
-
     void onlyWhatIsSeenIsAsked()
     {
         ProbeEditor probe;
@@ -295,58 +260,41 @@ private Q_SLOTS:
         probe.activate();
         QVERIFY(QTest::qWaitForWindowExposed(probe.getFrame()));
         probe.m_rowsAsked.clear();
-        probe.table().showTableRow(500'000);
+        probe.table()->showTableRow(500'000);
         probe.updateFromField();
         QTRY_VERIFY(probe.m_rowsAsked.contains(499'999));
         QVERIFY(probe.m_rowsAsked.size() < 100);
         probe.deactivate();
     }
 
-    void kindsFixTheEditor_data()
-    {
-        QTest::addColumn<bool>("isSlider");
-        QTest::addColumn<QString>("accepted");
-        QTest::addColumn<QString>("refused"); // null: there is no validator
-        QTest::newRow("0") << false << "anything" << QString();
-        QTest::newRow("1") << true << "-32767"
-                           << "-32768";
-        QTest::newRow("2") << true << "65535"
-                           << "-1";
-        QTest::newRow("3") << false << "2147483647"
-                           << "2147483648";
-        QTest::newRow("4") << false << "4294967295"
-                           << "4294967296";
-        QTest::newRow("5") << true << "-2147483647"
-                           << "-2147483648";
-        QTest::newRow("6") << true << "4294967295"
-                           << "4294967296";
-        QTest::newRow("7") << true << "3.4e38"
-                           << "0,5";
-        QTest::newRow("8") << false << "1.7e308"
-                           << "0,5";
-    }
     void kindsFixTheEditor()
     {
-        QFETCH(bool, isSlider);
-        QFETCH(QString, accepted);
-        QFETCH(QString, refused);
+        // A text that a line takes, and one that it refuses, by kind.
+        const char* const texts[][2] = { { "anything", "" }, { "-32767", "-32768" },
+            { "65535", "-1" }, { "2147483647", "2147483648" }, { "4294967295", "4294967296" },
+            { "-2147483647", "-2147483648" }, { "4294967295", "4294967296" }, { "3.4e38", "0,5" },
+            { "1.7e308", "0,5" } };
         ProbeEditor probe;
-        probe.table().setEditorKind(QByteArray(QTest::currentDataTag()).toInt());
-        probe.table().setRowCount(1);
-        const auto makeEditor = [&probe] {
-            return std::unique_ptr<QWidget>(probe.table().itemDelegate()->createEditor(
-                nullptr, QStyleOptionViewItem(), probe.table().model()->index(0, 0)));
+        probe.table()->setRowCount(1);
+        const auto makeEditor = [&probe](int columns) {
+            probe.table()->setColumnCount(columns);
+            return std::unique_ptr<QWidget>(probe.table()->itemDelegate()->createEditor(
+                nullptr, QStyleOptionViewItem(), probe.table()->model()->index(0, 0)));
         };
-        QCOMPARE(qobject_cast<WfSlider*>(makeEditor().get()) != nullptr, isSlider);
-        probe.table().setColumnCount(2);
-        const auto editor = makeEditor();
-        const QValidator* const validator = TableInput::line(editor.get())->validator();
-        QCOMPARE(validator == nullptr, refused.isNull());
-        int at = 0;
-        if (validator) {
-            QCOMPARE(validator->validate(accepted, at), QValidator::Acceptable);
-            QVERIFY(validator->validate(refused, at) != QValidator::Acceptable);
+        QString sliders;
+        QString taken;
+        for (int kind = 0; kind < 9; ++kind) {
+            probe.table()->setEditorKind(kind);
+            if (qobject_cast<WfSlider*>(makeEditor(1).get()))
+                sliders += QString::number(kind);
+            const auto editor = makeEditor(2);
+            QLineEdit* const line = TableInput::line(editor.get());
+            for (const char* text : texts[kind]) {
+                line->setText(QLatin1String(text));
+                taken += line->hasAcceptableInput() ? u'+' : u'-';
+            }
         }
+        QCOMPARE(sliders + taken, QStringLiteral("12567++") + QStringLiteral("+-").repeated(8));
     }
 
 private:

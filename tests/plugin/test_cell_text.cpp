@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Ten pixels a code point; a combining mark takes no room of its own.
@@ -14,64 +16,49 @@ int tenACharacter(const QString& text)
     return width;
 }
 
-QString fromUtf8(const char* text) { return QString::fromUtf8(text); }
-
 } // namespace
 
 class TestCellText : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void cut_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("available");
-        QTest::addColumn<QString>("shown");
-        const QString digits = QStringLiteral("1234567890");
-        QTest::newRow("wide") << digits << 500 << digits;
-        QTest::newRow("fits exactly") << digits << 100 << digits;
-        // Dots and characters together stay below the room, they don't fill it.
-        QTest::newRow("one pixel short") << digits << 99 << QStringLiteral("123456...");
-        QTest::newRow("full up to the edge") << digits << 90 << QStringLiteral("12345...");
-        QTest::newRow("room for one") << digits << 41 << QStringLiteral("1...");
-        QTest::newRow("no room for one") << digits << 40 << QStringLiteral("1...");
-        QTest::newRow("no room at all") << digits << -4 << QStringLiteral("1...");
-        QTest::newRow("nothing to cut") << QString() << 0 << QString();
-        QTest::newRow("nothing in no room") << QString() << -4 << QStringLiteral("...");
-        // U+1F600 and U+10400 take two code units each.
-        QTest::newRow("pairs") << fromUtf8("\xF0\x9F\x98\x80\xF0\x90\x90\x80x") << 60
-                               << fromUtf8("\xF0\x9F\x98\x80\xF0\x90\x90\x80x");
-        QTest::newRow("pair stays whole")
-            << fromUtf8("\xF0\x9F\x98\x80\xF0\x9F\x98\x80\xF0\x9F\x98\x80\xF0\x9F\x98\x80xxx") << 55
-            << fromUtf8("\xF0\x9F\x98\x80\xF0\x9F\x98\x80...");
-        QTest::newRow("first pair stays whole")
-            << fromUtf8("\xF0\x9F\x98\x80xxx") << 5 << fromUtf8("\xF0\x9F\x98\x80...");
-        QTest::newRow("lone surrogates")
-            << QString(5, QChar(0xD83D)) << 45 << QString(1, QChar(0xD83D)) + QLatin1String("...");
-        // The mark goes with its letter where the letter has room.
-        QTest::newRow("combining")
-            << fromUtf8("ae\xCC\x81iouxyz") << 55 << fromUtf8("ae\xCC\x81...");
-        QTest::newRow("right to left")
-            << fromUtf8("\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D\xD7\xA9\xD7\x9C") << 55
-            << fromUtf8("\xD7\xA9\xD7\x9C...");
-    }
     void cut()
     {
-        QFETCH(QString, text);
-        QFETCH(int, available);
-        QFETCH(QString, shown);
-        QCOMPARE(cellText(text, available, tenACharacter), shown);
+        const struct {
+            QString text;
+            int available;
+            QString shown;
+        } rows[] = {
+            { u"1234567890"_s, 100, u"1234567890"_s },
+            // Dots and characters together stay below the room, they don't fill it.
+            { u"1234567890"_s, 99, u"123456..."_s },
+            { u"1234567890"_s, 90, u"12345..."_s },
+            { u"1234567890"_s, 40, u"1..."_s },
+            { u"1234567890"_s, -4, u"1..."_s },
+            { QString(), 0, QString() },
+            { QString(), -4, u"..."_s },
+            // These take two code units each, and stay whole.
+            { u"\U0001F600\U00010400x"_s, 60, u"\U0001F600\U00010400x"_s },
+            { u"\U0001F600\U0001F600\U0001F600xxx"_s, 55, u"\U0001F600\U0001F600..."_s },
+            { u"\U0001F600xxx"_s, 5, u"\U0001F600..."_s },
+            { QString(5, QChar(0xD83D)), 45, QChar(0xD83D) + u"..."_s },
+            // The mark goes with its letter where the letter has room.
+            { u"ae\u0301iouxyz"_s, 55, u"ae\u0301..."_s },
+            { u"\u05E9\u05DC\u05D5\u05DD\u05E9\u05DC"_s, 55, u"\u05E9\u05DC..."_s },
+        };
+        for (const auto& [text, available, shown] : rows)
+            QCOMPARE(cellText(text, available, tenACharacter), shown);
     }
 
     void aVeryLongTextIsNotMeasured()
     {
         qsizetype longest = 0;
-        const QString text(10'000'000, QLatin1Char('x'));
+        const QString text(10'000'000, u'x');
         const QString shown = cellText(text, 100, [&longest](const QString& part) {
             longest = qMax(longest, part.size());
             return tenACharacter(part);
         });
-        QCOMPARE(shown, QStringLiteral("xxxxxx..."));
-        QVERIFY2(longest < 10'000, qPrintable(QString::number(longest)));
+        QCOMPARE(shown, u"xxxxxx..."_s);
+        QVERIFY(longest < 10'000);
     }
 };
 

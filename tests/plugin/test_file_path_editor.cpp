@@ -11,6 +11,25 @@
 
 namespace {
 
+/// The editor of a path, with its button for a dialog.
+class Paths : public EditorFixture {
+public:
+    Paths() { select(field("SFFilePathString")); }
+
+    template <class Act>
+    bool inFileDialog(Act act)
+    {
+        return inDialog<QFileDialog>(child<QPushButton>("openFileButton"), act);
+    }
+    /// Of both fields, the line and the undo stack.
+    QString state()
+    {
+        return QStringList { text(field("SFFilePathString")), text(otherField("SFFilePathString")),
+            linesShown(*this, "lineEdit"), QString::number(undoStack().count()) }
+            .join(u'|');
+    }
+};
+
 void enterPath(QFileDialog* dialog, const QString& path)
 {
     auto* const line = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
@@ -35,66 +54,45 @@ private Q_SLOTS:
 
     void aChosenFileIsWrittenAtOnce()
     {
-        EditorFixture fixture;
-        fixture.select(fixture.field("SFFilePathString"));
-        QVERIFY(inDialog<QFileDialog>(
-            fixture.child<QPushButton>("openFileButton"), [this](QFileDialog* dialog) {
-                QCOMPARE(dialog->windowTitle(), QStringLiteral("Open File"));
-                enterPath(dialog, m_path);
-            }));
-        QCOMPARE(linesShown(fixture, "lineEdit"), m_path);
-        QCOMPARE(
-            QString::fromStdString(fixture.node().SFFilePathString.getValue().toUtf8()), m_path);
-        QCOMPARE(fixture.undoStack().count(), 1);
-        fixture.undo();
-        QCOMPARE(linesShown(fixture, "lineEdit"), QString());
-        fixture.redo();
-        QCOMPARE(linesShown(fixture, "lineEdit"), m_path);
+        Paths paths;
+        QVERIFY(paths.inFileDialog([this](QFileDialog* dialog) { enterPath(dialog, m_path); }));
+        const QString chosen = QStringLiteral("\"%1\"|\"\"|%1|1").arg(m_path);
+        QCOMPARE(paths.state(), chosen);
+        paths.undo();
+        QCOMPARE(paths.state(), QStringLiteral("\"\"|\"\"||1"));
+        paths.redo();
+        QCOMPARE(paths.state(), chosen);
     }
 
-    void aCancelledDialogChangesNothing()
+    void anUnwantedChoiceChangesNothing()
     {
-        EditorFixture fixture;
-        EditorFixture::write(fixture.field("SFFilePathString"), "\"old\"");
-        fixture.select(fixture.field("SFFilePathString"));
-        QVERIFY(inDialog<QFileDialog>(fixture.child<QPushButton>("openFileButton"),
+        Paths paths;
+        EditorFixture::write(paths.field("SFFilePathString"), "\"old\"");
+        QVERIFY(paths.inFileDialog(
             [](QFileDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); }));
-        QCOMPARE(linesShown(fixture, "lineEdit"), QStringLiteral("old"));
-        QCOMPARE(EditorFixture::text(fixture.field("SFFilePathString")), QStringLiteral("\"old\""));
-        QCOMPARE(fixture.undoStack().count(), 0);
-    }
-
-    void aPathChosenForOneFieldNeverReachesAnother()
-    {
-        EditorFixture fixture;
-        fixture.select(fixture.field("SFFilePathString"));
-        QVERIFY(inDialog<QFileDialog>(
-            fixture.child<QPushButton>("openFileButton"), [&](QFileDialog* dialog) {
-                fixture.select(fixture.otherField("SFFilePathString"));
-                enterPath(dialog, m_path);
-            }));
-        QVERIFY(fixture.node().SFFilePathString.getValue().isEmpty());
-        QVERIFY(fixture.otherNode().SFFilePathString.getValue().isEmpty());
-        QCOMPARE(fixture.undoStack().count(), 0);
+        QCOMPARE(paths.state(), QStringLiteral("\"old\"|\"\"|old|0"));
+        // What was chosen for one field never reaches another.
+        QVERIFY(paths.inFileDialog([&](QFileDialog* dialog) {
+            paths.select(paths.otherField("SFFilePathString"));
+            enterPath(dialog, m_path);
+        }));
+        QCOMPARE(paths.state(), QStringLiteral("\"old\"|\"\"||0"));
     }
 
     void leavingTheLineAlwaysWrites()
     {
-        EditorFixture fixture;
-        fixture.select(fixture.field("SFFilePathString"));
-        auto* const line = fixture.child<QLineEdit>("lineEdit");
-        line->setFocus();
+        Paths paths;
+        auto* const line = paths.child<QLineEdit>("lineEdit");
         QGuiApplication::clipboard()->setText(m_path);
-        QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(fixture.undoStack().count(), 0);
-        QTest::keyClick(line, Qt::Key_Tab);
-        EditorFixture::settle();
-        QCOMPARE(fixture.undoStack().count(), 1);
-        QCOMPARE(
-            QString::fromStdString(fixture.node().SFFilePathString.getValue().toUtf8()), m_path);
         line->setFocus();
-        QTest::keyClick(line, Qt::Key_Tab);
-        QCOMPARE(fixture.undoStack().count(), 2);
+        QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(paths.undoStack().count(), 0);
+        for (int commands = 1; commands < 3; ++commands) {
+            line->setFocus();
+            QTest::keyClick(line, Qt::Key_Tab);
+            EditorFixture::settle();
+            QCOMPARE(paths.state(), QStringLiteral("\"%1\"|\"\"|%1|%2").arg(m_path).arg(commands));
+        }
     }
 
 private:

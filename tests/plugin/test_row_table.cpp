@@ -27,98 +27,58 @@ private Q_SLOTS:
     }
     void cleanup() { m_fixture.reset(); }
 
-    void nothingToDoInAnEmptyTable()
+    void rowsAreAddedDeletedAndMoved()
     {
-        show("[]");
-        QCOMPARE(box()->minimum(), 0);
-        QCOMPARE(box()->maximum(), 0);
-        for (const char* button : { "m_deleteButton", "m_upButton", "m_downButton" })
-            clickButton(button);
-        press(table().operator->(), Qt::Key_Delete);
-        press(box(), Qt::Key_Return);
-        QCOMPARE(stack().count(), 0);
-
-        clickButton("m_addButton");
-        QCOMPARE(text(), QStringLiteral("[ 0 ]"));
-        QCOMPARE(box()->minimum(), 1);
-        QCOMPARE(box()->maximum(), 1);
-        clickButton("m_deleteButton");
-        QCOMPARE(text(), QStringLiteral("[]"));
-        QCOMPARE(stack().count(), 2);
-    }
-
-    void addGoesBehindTheCurrentRow()
-    {
-        clickButton("m_addButton"); // no cell is current yet
-        QCOMPARE(text(), QStringLiteral("[ 0, 10, 11, 12, 13, 14 ]"));
-        table().click(2, 0);
-        press(table().operator->(), Qt::Key_Plus);
-        QCOMPARE(text(), QStringLiteral("[ 0, 10, 11, 0, 12, 13, 14 ]"));
-        QCOMPARE(table()->currentRow(), 2);
-        QCOMPARE(table()->rowCount(), 7);
-        QCOMPARE(box()->maximum(), 7);
-        m_fixture->undo();
-        m_fixture->undo();
-        QCOMPARE(text(), QString::fromLatin1(Five));
-        QCOMPARE(table()->rowCount(), 5);
-    }
-
-    void deleteTakesTheCurrentRow()
-    {
-        for (const int key : { Qt::Key_Minus, Qt::Key_Delete }) {
-            table().click(1, 0);
-            press(table().operator->(), key);
-            QCOMPARE(text(), QStringLiteral("[ 10, 12, 13, 14 ]"));
-            QCOMPARE(box()->maximum(), 4);
-            m_fixture->undo();
-            QCOMPARE(text(), QString::fromLatin1(Five));
+        const char* const rows[][3] = {
+            { "[]", "duvxr", "[] 0-0 0" },
+            { "[]", "a", "[ 0 ] 1-1 1" },
+            { "[]", "ad", "[] 0-0 2" },
+            // No cell is current yet.
+            { Five, "a", "[ 0, 10, 11, 12, 13, 14 ] 1-6 1" },
+            { Five, "2+", "[ 10, 11, 12, 0, 13, 14 ] 1-6 1" },
+            { Five, "2+-", "[ 10, 11, 0, 13, 14 ] 1-5 2" },
+            { Five, "2+z", "[ 10, 11, 12, 13, 14 ] 1-5 1" },
+            { Five, "1xz", "[ 10, 11, 12, 13, 14 ] 1-5 1" },
+            // The next row to go is the one before, not the fourth, to which the box was cut.
+            { Five, "E1--", "[ 12, 13, 14 ] 1-3 2" },
+            // Up and down move the row of the access box; the current one has no say.
+            { Five, "AuEv", "[ 10, 11, 12, 13, 14 ] 1-5 0" },
+            { Five, "B4vv", "[ 10, 12, 13, 11, 14 ] 1-5 2" },
+            { Five, "B4vu", "[ 10, 11, 12, 13, 14 ] 1-5 2" },
+            // The table and the field disagree until the next refresh.
+            { Five, "E!a", "[ 10, 11, 0 ] 1-3 1" },
+            { Five, "E!az", "[ 10, 11 ] 1-2 1" },
+            { Five, "E!d", "[ 10 ] 1-1 1" },
+            { Five, "E!dz", "[ 10, 11 ] 1-2 1" },
+            { Five, "E!uv", "[ 10, 11 ] 1-2 0" },
+        };
+        for (const auto& [start, steps, end] : rows) {
+            m_fixture.emplace();
+            m_field = &m_fixture->node().MFInt32;
+            show(start);
+            for (const char* step = steps; *step; ++step)
+                take(*step);
+            QCOMPARE(QLatin1String(steps) + state(), QLatin1String(steps) + QLatin1String(end));
         }
-    }
-
-    void theCurrentRowStaysWhenTheAccessBoxIsCut()
-    {
-        box()->setValue(5);
-        table().click(1, 0);
-        clickButton("m_deleteButton");
-        QCOMPARE(box()->value(), 4);
-        QCOMPARE(table()->currentRow(), 0); // next to the deleted one, not the fourth
     }
 
     void shiftDeletesTheSelectedRows()
     {
         WfMFieldTable* const widget = table().operator->();
         QTest::keyPress(widget, Qt::Key_Shift);
-        table()->clearSelection();
+        widget->clearSelection();
         press(widget, Qt::Key_Delete); // nothing is selected
         QCOMPARE(stack().count(), 0);
         table().click(1, 0);
         table().click(3, 0, Qt::ShiftModifier);
         press(widget, Qt::Key_Delete);
         QTest::keyRelease(widget, Qt::Key_Shift);
-        QCOMPARE(text(), QStringLiteral("[ 10, 14 ]"));
-        QCOMPARE(box()->maximum(), 2);
+        QCOMPARE(state(), QStringLiteral("[ 10, 14 ] 1-2 1"));
         QCOMPARE(widget->selectionMode(), QAbstractItemView::NoSelection);
         m_fixture->undo();
-        QCOMPARE(text(), QString::fromLatin1(Five));
+        QCOMPARE(text(), QLatin1String(Five));
         m_fixture->redo();
-        QCOMPARE(text(), QStringLiteral("[ 10, 14 ]"));
-    }
-
-    void upAndDownMoveTheRowOfTheAccessBox()
-    {
-        clickButton("m_upButton"); // the first row
-        QCOMPARE(stack().count(), 0);
-        box()->setValue(2);
-        table().click(4, 0); // which has no say
-        clickButton("m_downButton");
-        QCOMPARE(text(), QStringLiteral("[ 10, 12, 11, 13, 14 ]"));
-        QCOMPARE(box()->value(), 3);
-        QCOMPARE(table()->currentRow(), 2);
-        clickButton("m_upButton");
-        QCOMPARE(text(), QString::fromLatin1(Five));
-        box()->setValue(5);
-        clickButton("m_downButton"); // the last row
-        QCOMPARE(stack().count(), 2);
+        QCOMPARE(state(), QStringLiteral("[ 10, 14 ] 1-2 1"));
     }
 
     void theAccessBoxJumps()
@@ -127,13 +87,11 @@ private Q_SLOTS:
         EditorFixture::settle();
         box()->selectAll();
         QTest::keyClicks(box(), QStringLiteral("654321"));
-        QCOMPARE(table()->currentRow(), 654320);
         QVERIFY(table()->viewport()->rect().contains(table().cell(654320, 0)));
         // Return repeats the jump to the same number.
         table()->scrollToTop();
         table().click(0, 0);
         press(box(), Qt::Key_Return);
-        QCOMPARE(table()->currentRow(), 654320);
         QVERIFY(table()->viewport()->rect().contains(table().cell(654320, 0)));
         table()->showTableRow(0);
         table()->showTableRow(1'000'001);
@@ -143,7 +101,6 @@ private Q_SLOTS:
     void keysAreCharactersInAnOpenEditor()
     {
         QLineEdit* const line = table().type(1, 0, QStringLiteral("-5"));
-        QCOMPARE(line->text(), QStringLiteral("-5"));
         QTest::keyClick(line, Qt::Key_Home);
         QTest::keyClick(line, Qt::Key_Delete);
         QTest::keyClicks(line, QStringLiteral("+"));
@@ -153,8 +110,8 @@ private Q_SLOTS:
         scale->setFocus();
         for (const int key : { Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Delete })
             press(scale, key);
-        QCOMPARE(table()->rowCount(), 5);
-        QCOMPARE(stack().count(), 0);
+        // The number is taken when the focus goes on to the scale.
+        QCOMPARE(state(), QStringLiteral("[ 10, 5, 12, 13, 14 ] 1-5 0"));
     }
 
     void aChangeFromOutsideIsPainted()
@@ -167,50 +124,19 @@ private Q_SLOTS:
         QTRY_VERIFY(onScreen(1, 0) == before);
     }
 
-    void theCountsDisagreeUntilTheNextRefresh_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("after");
-        QTest::newRow("add") << "m_addButton"
-                             << "[ 10, 11, 0 ]";
-        QTest::newRow("delete") << "m_deleteButton"
-                                << "[ 10 ]";
-        QTest::newRow("up") << "m_upButton"
-                            << "[ 10, 11 ]";
-        QTest::newRow("down") << "m_downButton"
-                              << "[ 10, 11 ]";
-    }
-    void theCountsDisagreeUntilTheNextRefresh()
-    {
-        QFETCH(QString, button);
-        QFETCH(QString, after);
-        box()->setValue(5);
-        m_field->set("[ 10, 11 ]"); // the sensors haven't run
-        table()->viewport()->repaint();
-        QTest::mouseClick(m_fixture->child<QAbstractButton>(button.toLatin1()), Qt::LeftButton);
-        EditorFixture::settle();
-        QCOMPARE(text(), after);
-        QCOMPARE(table()->rowCount(), m_field->getNum());
-        while (stack().canUndo())
-            m_fixture->undo();
-        QCOMPARE(text(), QStringLiteral("[ 10, 11 ]"));
-    }
-
     void randomRowOperationsGoBackAndForth()
     {
         QRandomGenerator random(4711);
         const char* const buttons[]
             = { "m_addButton", "m_addButton", "m_deleteButton", "m_upButton", "m_downButton" };
         for (int i = 0; i < 300; ++i) {
-            if (table()->rowCount() > 0)
-                box()->setValue(1 + random.bounded(table()->rowCount()));
+            box()->setValue(1 + random.bounded(table()->rowCount() + 1));
             clickButton(buttons[random.bounded(5)]);
             QCOMPARE(table()->rowCount(), m_field->getNum());
         }
         const QString end = text();
-        QVERIFY(stack().count() > 200);
         stack().setIndex(0);
-        QCOMPARE(text(), QString::fromLatin1(Five));
+        QCOMPARE(text(), QLatin1String(Five));
         stack().setIndex(stack().count());
         QCOMPARE(text(), end);
         EditorFixture::settle();
@@ -219,8 +145,6 @@ private Q_SLOTS:
     void theColumnsShareTheWidthUntilOneIsSized()
     {
         QCOMPARE(table()->columnWidth(0), table()->viewport()->width());
-        m_fixture->shell().window().resize(1200, 700);
-        EditorFixture::settle();
         table()->setColumnWidth(0, 40);
         m_fixture->shell().window().resize(900, 600);
         EditorFixture::settle();
@@ -233,7 +157,41 @@ private:
     QSpinBox* box() const { return m_fixture->child<QSpinBox>("m_accessBox"); }
     QUndoStack& stack() const { return m_fixture->undoStack(); }
     QString text() const { return EditorFixture::text(m_field); }
+    /// The values, the limits of the access box, which are those of the rows shown, and the count
+    /// of commands.
+    QString state() const
+    {
+        if (box()->maximum() != table()->rowCount())
+            return QStringLiteral("%1 rows").arg(table()->rowCount());
+        return QStringLiteral("%1 %2-%3 %4")
+            .arg(text(), QString::number(box()->minimum()), QString::number(box()->maximum()))
+            .arg(stack().count());
+    }
     void clickButton(const char* name) { m_fixture->clickButton(name); }
+    /// A digit clicks a row, a capital goes to one with the access box, and the others stand for
+    /// the keys and buttons below.
+    void take(char step)
+    {
+        const QHash<char, int> keys
+            = { { '+', Qt::Key_Plus }, { '-', Qt::Key_Minus }, { 'x', Qt::Key_Delete } };
+        const QHash<char, const char*> buttons = { { 'a', "m_addButton" },
+            { 'd', "m_deleteButton" }, { 'u', "m_upButton" }, { 'v', "m_downButton" } };
+        if (keys.contains(step))
+            press(table().operator->(), keys[step]);
+        else if (buttons.contains(step))
+            clickButton(buttons[step]);
+        else if (step == 'r')
+            press(box(), Qt::Key_Return);
+        else if (step == 'z')
+            m_fixture->undo();
+        else if (step == '!') {
+            m_field->set("[ 10, 11 ]"); // the sensors haven't run
+            table()->viewport()->repaint();
+        } else if (step < 'A')
+            table().click(step - '0', 0);
+        else
+            box()->setValue(step - 'A' + 1);
+    }
     /// A key with the focus on `widget`.
     void press(QWidget* widget, int key)
     {
