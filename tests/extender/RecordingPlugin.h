@@ -16,15 +16,16 @@
 /// text is copied, since a module and its literals go away.
 inline void note(const std::string& call)
 {
-    const QString calls = qApp->property("calls").toString();
-    qApp->setProperty("calls", calls + QLatin1String(", ") + QString::fromStdString(call));
+    const QString calls = QCoreApplication::instance()->property("calls").toString();
+    QCoreApplication::instance()->setProperty(
+        "calls", calls + QLatin1String(", ") + QString::fromStdString(call));
 }
 
 /// What has been noted since this was last called, as "a, b, c".
 inline QString takeCalls()
 {
-    const QString calls = qApp->property("calls").toString();
-    qApp->setProperty("calls", QVariant());
+    const QString calls = QCoreApplication::instance()->property("calls").toString();
+    QCoreApplication::instance()->setProperty("calls", QVariant());
     return calls.mid(2);
 }
 
