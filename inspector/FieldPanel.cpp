@@ -3,19 +3,19 @@
 
 #include "CrvServices.h"
 #include "KnField.h"
+#include "PaneTree.h"
 #include "SceneText.h"
 
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 FieldPanel::FieldPanel(QWidget* parent)
     : QWidget(parent)
     , m_heading(new QLabel(this))
-    , m_list(new QTreeView(this))
+    , m_list(new PaneTree(this))
 {
     setObjectName(QStringLiteral("fieldPanel"));
     m_heading->setObjectName(QStringLiteral("fieldHeading"));

@@ -6,7 +6,7 @@
 #include <QWidget>
 
 class QLabel;
-class QTreeView;
+class PaneTree;
 
 /// The fields of the selected node below a line that names it. A person's choice becomes the host's
 /// selected field, and the host's selected field is shown in the list.
@@ -22,6 +22,6 @@ private:
 
     FieldListModel m_model;
     QLabel* m_heading; // child
-    QTreeView* m_list; // child
+    PaneTree* m_list; // child
     bool m_following = false; // the list is being brought in line with the host's selection
 };

@@ -2,11 +2,11 @@
 #include "ScenePanel.h"
 
 #include "CrvServices.h"
+#include "PaneTree.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace {
@@ -34,7 +34,7 @@ void expandSome(QTreeView& tree, const QModelIndex& parent, int& budget)
 ScenePanel::ScenePanel(QWidget* parent)
     : QWidget(parent)
     , m_filterEdit(new QLineEdit(this))
-    , m_tree(new QTreeView(this))
+    , m_tree(new PaneTree(this))
 {
     setObjectName(QStringLiteral("scenePanel"));
     m_filterEdit->setObjectName(QStringLiteral("sceneFilter"));

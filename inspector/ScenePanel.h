@@ -7,7 +7,7 @@
 #include <QWidget>
 
 class QLineEdit;
-class QTreeView;
+class PaneTree;
 
 /// The scene as a tree below a filter line. A person's choice becomes the host's selection, and
 /// the host's selection is shown in the tree.
@@ -28,6 +28,6 @@ private:
     SceneModel m_model;
     SceneFilterModel m_filter;
     QLineEdit* m_filterEdit; // child
-    QTreeView* m_tree; // child
+    PaneTree* m_tree; // child
     bool m_following = false; // the tree is being brought in line with the host's selection
 };

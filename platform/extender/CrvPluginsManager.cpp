@@ -47,7 +47,7 @@ struct CrvPluginsManager::Private {
     void replaceProfiles(Profiles newProfiles);
     void carryOut();
     void carryOutOnce();
-    void finish();
+    void announceProfile();
     CrvProfileResolution* resolve();
 
     CrvPluginsManager* const q;
@@ -106,11 +106,19 @@ void CrvPluginsManager::Private::carryOut()
         return;
     }
     busy = true;
-    do {
-        interrupted = false;
-        carryOutOnce();
-    } while (interrupted);
-    finish();
+    {
+        // A dock that goes hands the focus on, and who gets it may select something.
+        const CrvServices::SelectionHold hold(*CrvServices::getInstance());
+        do {
+            interrupted = false;
+            carryOutOnce();
+        } while (interrupted);
+        busy = false;
+        // The docks choose their editors among what is there now.
+        if (!active.empty())
+            CrvServices::getInstance()->announceSelection();
+    }
+    announceProfile();
 }
 
 void CrvPluginsManager::Private::carryOutOnce()
@@ -139,12 +147,8 @@ void CrvPluginsManager::Private::carryOutOnce()
     }
 }
 
-void CrvPluginsManager::Private::finish()
+void CrvPluginsManager::Private::announceProfile()
 {
-    busy = false;
-    // The docks choose their editors among what is there now.
-    if (!active.empty())
-        CrvServices::getInstance()->announceSelection();
     if (std::exchange(profileChanged, false))
         Q_EMIT q->activeProfileChanged(activeProfile);
 }
@@ -222,6 +226,7 @@ void CrvPluginsManager::unloadAll()
     services->selectNode(nullptr);
     // The code of the commands goes away with the plug-ins.
     services->getUndoStack()->clear();
+    const CrvServices::SelectionHold hold(*services);
 
     while (!d->active.empty()) {
         CrvExtension* const extension = d->active.back();
@@ -239,7 +244,10 @@ void CrvPluginsManager::unloadAll()
     }
     d->resolution.reset();
     d->interrupted = false;
-    d->finish();
+    // Whatever was chosen in the meantime.
+    services->selectNode(nullptr);
+    d->busy = false;
+    d->announceProfile();
 }
 
 std::vector<CrvExtension*> CrvPluginsManager::getExtensions() const

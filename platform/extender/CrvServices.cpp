@@ -7,6 +7,7 @@
 #include "KnFieldContainer.h"
 
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 #include <QUndoCommand>
 #include <QUndoStack>
 
@@ -85,61 +86,87 @@ CrvServices::~CrvServices()
 {
     // The commands name fields that may live in the selected node.
     m_undoStack->clear();
-    if (m_node)
-        m_node->unref();
 }
 
-// A slot may select something else while the signals of a selection are being emitted. The later
-// selection has the last word: what the earlier one has not said by then stays unsaid.
-void CrvServices::selectNode(KnFieldContainer* node)
+CrvServices::SelectionHold::SelectionHold(CrvServices& services)
+    : m_services(services)
 {
-    KnFieldContainer* const former = m_node;
-    const bool nodeChanges = node != former;
-    if (nodeChanges) {
-        if (node)
-            node->ref();
-        m_node = node;
-    }
-    if (std::exchange(m_field, nullptr))
-        announceField(nullptr);
-    if (!nodeChanges)
-        return;
-    if (m_node == node)
-        Q_EMIT selectedNodeChanged(node);
-    // Only now, so that whoever showed the former node or its field found it alive.
-    if (former)
-        former->unref();
+    ++m_services.m_holds;
 }
+
+CrvServices::SelectionHold::~SelectionHold()
+{
+    --m_services.m_holds;
+    m_services.carryOutRequests();
+}
+
+void CrvServices::selectNode(KnFieldContainer* node) { request({ KnNodePtr(node), nullptr }); }
 
 void CrvServices::selectField(KnField* field)
 {
-    if (field == m_field)
+    request({ field ? KnNodePtr(field->getContainer()) : latestSelection().node, field });
+}
+
+void CrvServices::announceSelection()
+{
+    Selection selection = latestSelection();
+    selection.again = true;
+    request(std::move(selection));
+}
+
+CrvServices::Selection CrvServices::latestSelection() const
+{
+    return m_requested.value_or(Selection { m_node, m_field });
+}
+
+void CrvServices::request(Selection selection)
+{
+    // A repeated announcement that still waits is due whatever is selected then.
+    selection.again = selection.again || (m_requested && m_requested->again);
+    m_requested = std::move(selection);
+    carryOutRequests();
+}
+
+void CrvServices::carryOutRequests()
+{
+    // Listeners that answer each other's selections would never come to an end.
+    constexpr int maxRounds = 100;
+    if (m_holds > 0)
         return;
-    if (field && field->getContainer() != m_node) {
-        KnFieldContainer* const node = field->getContainer();
-        selectNode(node);
-        if (m_node != node || m_field)
+    const QScopedValueRollback hold(m_holds, 1);
+    for (int round = 0; m_requested; ++round) {
+        const Selection next = *std::exchange(m_requested, std::nullopt);
+        if (round == maxRounds) {
+            qWarning("CrvServices: listeners go on selecting in answer to each other");
             return;
+        }
+        apply(next);
     }
-    m_field = field;
-    announceField(field);
+}
+
+void CrvServices::apply(const Selection& selection)
+{
+    const bool nodeChanges = selection.node.get() != m_node.get();
+    // Lives to the end of this function, so that whoever shows the former node finds it alive.
+    const KnNodePtr former = std::exchange(m_node, selection.node);
+    if (nodeChanges && m_field)
+        announceField(nullptr);
+    if (nodeChanges || selection.again)
+        Q_EMIT selectedNodeChanged(m_node.get());
+    if (m_field != selection.field || selection.again)
+        announceField(selection.field);
 }
 
 void CrvServices::announceField(KnField* field)
 {
+    m_field = field;
     Q_EMIT selectedFieldChanged(field);
-    m_shownField = m_field;
+    m_shownField = field;
 }
 
-KnFieldContainer* CrvServices::getSelectedNode() const { return m_node; }
+KnFieldContainer* CrvServices::getSelectedNode() const { return m_node.get(); }
 
 KnField* CrvServices::getSelectedField() const { return m_field; }
-
-void CrvServices::announceSelection()
-{
-    Q_EMIT selectedNodeChanged(m_node);
-    announceField(m_field);
-}
 
 void CrvServices::executeCommand(CrvCommand* command)
 {

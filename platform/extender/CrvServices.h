@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "KnNodePtr.h"
+
 #include <QObject>
+
+#include <optional>
 
 class CrvCommand;
 class KnField;
@@ -11,6 +15,9 @@ class QUndoStack;
 /// The host's selection and its undo stack. There is one object, made at first use, also
 /// before the application object, and destroyed with the application object. It also runs the
 /// kernel's sensors from the event loop.
+///
+/// One selection is announced at a time. What a listener selects meanwhile comes after: the last
+/// request wins, and until then the getters answer with what is being announced.
 class CrvServices : public QObject {
     Q_OBJECT
 public:
@@ -28,6 +35,18 @@ public:
     /// Emits both signals again with what is selected.
     void announceSelection();
 
+    /// Makes selections wait while it lives; the last one that was asked for is carried out at the
+    /// end. For whoever takes panes away: they hand the focus on, and who gets it may select.
+    class SelectionHold {
+    public:
+        explicit SelectionHold(CrvServices& services);
+        ~SelectionHold();
+        Q_DISABLE_COPY_MOVE(SelectionHold)
+
+    private:
+        CrvServices& m_services; // outlives this object
+    };
+
     /// Takes ownership, calls `execute` once and keeps the command for undo and redo, under the
     /// name of the selected field: "Edit Material.transparency". Null is ignored.
     virtual void executeCommand(CrvCommand* command);
@@ -44,10 +63,23 @@ protected:
     ~CrvServices() override;
 
 private:
+    struct Selection {
+        KnNodePtr node;
+        KnField* field = nullptr; // lives in the node, or stands alone
+        bool again = false; // to be announced also where nothing changes
+    };
+
+    /// What will be selected when all requests have been carried out.
+    Selection latestSelection() const;
+    void request(Selection selection);
+    void carryOutRequests();
+    void apply(const Selection& selection);
     void announceField(KnField* field);
 
-    KnFieldContainer* m_node = nullptr; // a reference is held
+    KnNodePtr m_node;
     KnField* m_field = nullptr; // lives in m_node, or stands alone
+    std::optional<Selection> m_requested; // waits while another selection is announced
+    int m_holds = 0; // nobody is told of a selection while there are any
     // What an editor may still show, and commit, while a new selection is being announced.
     KnField* m_shownField = nullptr;
     QUndoStack* m_undoStack; // child

@@ -85,22 +85,59 @@ private Q_SLOTS:
             "no field, field, no field, node A, no node, field, no field"_s);
     }
 
-    void laterSelectionWins()
+    void oneSelectionAtATime()
     {
         m_services->selectField(&m_number);
-        connect(m_services, &CrvServices::selectedFieldChanged, this, [&](KnField* field) {
-            if (!field)
-                m_services->selectField(&m_b.ambientColor);
-        });
+        // Both ask for something else whenever nothing is selected; the later one has its way.
+        for (const char* const wanted : { "transparency", "shininess" }) {
+            connect(m_services, &CrvServices::selectedFieldChanged, this,
+                [this, wanted](const KnField* field) {
+                    if (field)
+                        return;
+                    m_services->selectField(m_b.getField(wanted));
+                    m_services->selectField(nullptr);
+                    m_services->selectField(m_b.getField(wanted));
+                    note(m_services->getSelectedField() ? "early" : "as announced");
+                });
+        }
         // Whoever still shows the former node finds it alive.
         connect(m_services, &CrvServices::selectedNodeChanged, this,
             [&] { note(std::to_string(m_a.getReferenceCount())); });
         takeCalls();
         m_services->selectNode(nullptr);
-        QCOMPARE(takeCalls(), u"no field, node B, 2, field"_s);
-        QCOMPARE(m_services->getSelectedField(), &m_b.ambientColor);
-        QCOMPARE(m_a.getReferenceCount(), 1);
+        QCOMPARE(
+            takeCalls(), u"no field, as announced, as announced, no node, 2, node B, 1, field"_s);
+        QCOMPARE(m_services->getSelectedField(), &m_b.shininess);
         QCOMPARE(m_b.getReferenceCount(), 2);
+    }
+
+    void heldSelectionsWait()
+    {
+        {
+            const CrvServices::SelectionHold hold(*m_services);
+            m_services->selectField(&m_number);
+            m_services->announceSelection();
+            m_services->selectNode(&m_b);
+            const CrvServices::SelectionHold inner(*m_services);
+            QCOMPARE(m_services->getSelectedNode(), nullptr);
+            QCOMPARE(m_b.getReferenceCount(), 2);
+        }
+        QCOMPARE(takeCalls(), u"node B, no field"_s);
+    }
+
+    void listenersThatNeverAgreeAreStopped()
+    {
+        connect(
+            m_services, &CrvServices::selectedNodeChanged, this, [&](const KnFieldContainer* node) {
+                m_services->selectNode(node == &m_a ? &m_b : &m_a);
+            });
+        QTest::ignoreMessage(
+            QtWarningMsg, "CrvServices: listeners go on selecting in answer to each other");
+        m_services->selectNode(&m_a);
+        QVERIFY(m_services->getSelectedNode());
+        disconnect(m_services, nullptr, this, nullptr);
+        m_services->selectNode(nullptr);
+        QCOMPARE(m_services->getSelectedNode(), nullptr);
     }
 
     void commandRunsOnce()

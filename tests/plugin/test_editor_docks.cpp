@@ -6,6 +6,7 @@
 #include "EditorSelection.h"
 
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -196,6 +197,27 @@ private Q_SLOTS:
         // The selection is announced again when the dock comes back.
         manager->setActiveProfile(profiles.front());
         QVERIFY(fixture.editor() && frame->isVisible());
+    }
+
+    void aDockThatGoesTakesNoFurtherSelection()
+    {
+        EditorFixture fixture;
+        const auto extensions = CrvPluginsManager::getInstance()->getExtensions();
+        const auto dock = std::find_if(extensions.begin(), extensions.end(),
+            [](CrvExtension* e) { return qobject_cast<CrvFieldEditorDockWin*>(e); });
+        fixture.select(fixture.field("SFString"));
+        fixture.child<QLineEdit>("lineEdit")->setFocus();
+        // Whoever gets the focus from the editor selects something.
+        connect(qApp, &QApplication::focusChanged, this, [&fixture](QWidget* old) {
+            if (old)
+                CrvServices::getInstance()->selectField(fixture.field("SFFloat"));
+        });
+        (*dock)->deactivate();
+        disconnect(qApp, nullptr, this, nullptr);
+        for (CrvExtension* extension : extensions)
+            QVERIFY(!qobject_cast<CrvEditor*>(extension) || !extension->isActive());
+        QCOMPARE(CrvServices::getInstance()->getSelectedField(), fixture.field("SFFloat"));
+        (*dock)->activate();
     }
 
     void aNodeEditorOfAnotherPlugInShows()

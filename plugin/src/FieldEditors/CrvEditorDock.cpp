@@ -7,6 +7,7 @@
 #include "EditorSelection.h"
 
 #include <QDockWidget>
+#include <QScopedValueRollback>
 
 CrvEditorDock::CrvEditorDock(const char* name, const char* description)
 {
@@ -65,6 +66,8 @@ void CrvEditorDock::deactivate()
 
 void CrvEditorDock::releaseEditor()
 {
+    // Hiding the editor hands the focus on, and who gets it may select something.
+    const QScopedValueRollback releasing(m_releasing, true);
     m_currentEditor->deactivate();
     m_currentEditor->setEditedObject(nullptr);
     m_dockWidget->setWidget(nullptr);
@@ -76,6 +79,10 @@ void CrvEditorDock::releaseEditor()
 
 void CrvEditorDock::showEditorFor(KnTypedObject* object)
 {
+    // The host announces one selection at a time, so this one comes while the dock is being
+    // deactivated: it has no more use for it.
+    if (m_releasing)
+        return;
     if (m_currentEditor)
         releaseEditor();
     if (!object)
