@@ -3,7 +3,7 @@
 
 #include "KnField.h"
 #include "KnGroup.h"
-#include "ReadErrorCapture.h"
+#include "KnReadErrorCapture.h"
 #include "SceneFormat.h"
 #include "SceneText.h"
 
@@ -171,9 +171,10 @@ bool SceneReader::readField(KnField& field, const QJsonValue& value, const QStri
     if (!checkString(text, path))
         return false;
 
-    const ReadErrorCapture capture;
+    const KnReadErrorCapture capture;
     if (!field.set(toKbString(text.toString())))
-        return refuse(path, capture.text().isEmpty() ? tr("refused text") : capture.text());
+        return refuse(
+            path, capture.getText().isEmpty() ? tr("refused text") : toQString(capture.getText()));
     return true;
 }
 

@@ -3,6 +3,7 @@
 
 #include "KnField.h"
 #include "KnFieldContainer.h"
+#include "KnReadErrorCapture.h"
 
 #include <algorithm>
 
@@ -46,7 +47,11 @@ std::string excerpt(std::string_view text)
 
 KN_ERROR_SOURCE(KnReadError, KnError)
 
-void KnReadError::post(const KbString& text) { handler().call(KnReadError(text)); }
+void KnReadError::post(const KbString& text)
+{
+    if (!KnReadErrorCapture::keep(text))
+        handler().call(KnReadError(text));
+}
 
 void KnReadError::postRefusal(const KnField& field, int row, std::string_view text,
     std::size_t offset, std::string_view expected)

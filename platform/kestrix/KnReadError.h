@@ -12,7 +12,8 @@ class KnReadError : public KnError {
     KN_ERROR(KnReadError)
     using KnError::KnError;
 
-    /// Makes the error and gives it to the handler of this class, on the calling thread.
+    /// Makes the error and gives it to the handler of this class, on the calling thread; or to the
+    /// KnReadErrorCapture of this thread, if there is one.
     static void post(const KbString& text);
     /// The same for a text that a field refused: the message names the field by node and field
     /// name, the row (counted from 0; -1 for a field of one value), the place in the text (in

@@ -11,6 +11,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <atomic>
+#include <thread>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -111,6 +114,30 @@ private Q_SLOTS:
         QCOMPARE(document.fileName(), m_sample);
         QCOMPARE(CrvServices::getInstance()->getSelectedNode(), root.get());
         QVERIFY(KnReadError::getHandlerCallback() == handler);
+    }
+
+    // A refused text is the file's own fault only if this thread set it.
+    void errorsOfOtherThreadsPassBy()
+    {
+        static std::atomic<int> heard;
+        KnReadError::setHandlerCallback([](const KnError*, void*) { ++heard; }, nullptr);
+        int posted = 0;
+        std::jthread other([&posted](const std::stop_token& stop) {
+            for (; !stop.stop_requested(); ++posted)
+                KnReadError::post("foreign");
+        });
+        const QByteArray json
+            = sceneWith(R"({ "type": "Text", "fields": { "size": "1", "spacing": "x" } })");
+        SceneReader reader;
+        for (int i = 0; i < 100; ++i) {
+            QVERIFY(!reader.readText(json, u"bad.json"_s));
+            QVERIFY2(reader.errorText().contains(u"(SFFloat)"), qPrintable(reader.errorText()));
+        }
+        QTRY_VERIFY(heard > 0);
+        other.request_stop();
+        other.join();
+        QCOMPARE(heard, posted);
+        KnReadError::setHandlerCallback(&KnErrorHandler::writeToStandardError, nullptr);
     }
 
     void scenesSurvive()

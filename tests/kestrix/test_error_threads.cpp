@@ -2,6 +2,7 @@
 #include "KnDebugError.h"
 #include "KnMemoryError.h"
 #include "KnReadError.h"
+#include "KnReadErrorCapture.h"
 
 #include <atomic>
 #include <cstdio>
@@ -83,6 +84,39 @@ bool handlersPostAndReplace()
     return together == 0 && readErrors == half && memoryErrors == half + half / 2;
 }
 
+/// Threads that capture their own read errors, beside threads that don't: nobody gets the error of
+/// another thread, and all that isn't captured reaches the handler.
+bool capturesTakeOnlyTheirOwn()
+{
+    static std::atomic<int> handled, wrong;
+    KnReadError::setHandlerCallback(
+        [](const KnError* error, void*) {
+            ++handled;
+            wrong += error->getDebugString() == "free" ? 0 : 1;
+        },
+        nullptr);
+    startThreads([](int thread) {
+        const KbString own(std::to_string(thread));
+        for (int i = 0; i < rounds; ++i) {
+            if (thread % 2 == 0) {
+                const KnReadErrorCapture capture;
+                KnReadError::post(own);
+                std::this_thread::yield();
+                wrong += capture.getText() == own ? 0 : 1;
+            }
+            KnReadError::post("free");
+        }
+    }).clear();
+    std::fprintf(stderr, "%d errors in the wrong place, %d of %d handled\n", wrong.load(),
+        handled.load(), threadCount * rounds);
+    return wrong == 0 && handled == threadCount * rounds;
+}
+
 } // namespace
 
-int main() { return dataMayGoWithTheHandler() && handlersPostAndReplace() ? 0 : 1; }
+int main()
+{
+    const bool passed
+        = dataMayGoWithTheHandler() && handlersPostAndReplace() && capturesTakeOnlyTheirOwn();
+    return passed ? 0 : 1;
+}

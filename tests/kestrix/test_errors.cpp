@@ -4,6 +4,7 @@
 #include "KnErrorStack.h"
 #include "KnGLError.h"
 #include "KnMemoryError.h"
+#include "KnReadErrorCapture.h"
 #include "StandardError.h"
 
 #include <QTest>
@@ -83,6 +84,29 @@ private Q_SLOTS:
         KnError::post("x");
         KnError::post("y");
         QCOMPARE(errors.texts, (QByteArrayList { "nested in x", "again", "y" }));
+    }
+
+    void capturesNest()
+    {
+        ReadErrors errors;
+        {
+            const KnReadErrorCapture outer;
+            KnReadError::post("a");
+            {
+                const KnReadErrorCapture inner;
+                QVERIFY(inner.getText().isEmpty());
+                KnReadError::post("b");
+                KnReadError::post("c");
+                KnError::setHandlerCallback(
+                    [](const KnError*, void*) { KnReadError::post("from a handler"); }, nullptr);
+                KnError::post("d"); // the handler runs on this thread
+                QCOMPARE(inner.getText().toUtf8(), "from a handler");
+            }
+            QCOMPARE(outer.getText().toUtf8(), "a");
+            QVERIFY(errors.texts.isEmpty());
+        }
+        KnReadError::post("e");
+        QCOMPARE(errors.texts, QByteArrayList { "e" });
     }
 
     void endlessPostingEnds()

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KbString.h"
+
+/// Keeps the read errors that its own thread posts while it lives, so that whoever sets a text can
+/// report a refusal itself, and once. The handler of the class doesn't hear of these errors; those
+/// of other threads reach it as always. Captures nest: the innermost one takes the error. Made and
+/// destroyed on one thread, in the order of a stack.
+class KnReadErrorCapture {
+public:
+    KnReadErrorCapture();
+    KnReadErrorCapture(const KnReadErrorCapture&) = delete;
+    KnReadErrorCapture& operator=(const KnReadErrorCapture&) = delete;
+    ~KnReadErrorCapture();
+
+    /// The text of the last error; empty if there was none.
+    const KbString& getText() const { return m_text; }
+
+private:
+    friend class KnReadError;
+
+    /// Gives false if nothing captures on the calling thread.
+    static bool keep(const KbString& text);
+
+    KnReadErrorCapture* const m_outer; // null for the outermost one of the thread
+    KbString m_text;
+};
