@@ -5,6 +5,7 @@
 #include "CrvExtension.h"
 #include "CrvPluginLibrary.h"
 #include "CrvProfile.h"
+#include "CrvProfileActivation.h"
 #include "CrvProfileReader.h"
 #include "CrvProfileResolution.h"
 #include "CrvServices.h"
@@ -25,11 +26,6 @@ CrvPluginsManager* instance = nullptr; // owned, until the application object go
 
 using Profiles = std::vector<std::unique_ptr<CrvProfile>>;
 
-bool contains(const std::vector<CrvExtension*>& extensions, const CrvExtension* extension)
-{
-    return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
-}
-
 } // namespace
 
 struct CrvPluginsManager::Private {
@@ -46,22 +42,20 @@ struct CrvPluginsManager::Private {
     void startPlugin(CrvPlugin* plugin, std::unique_ptr<CrvPluginLibrary> library);
     void replaceProfiles(Profiles newProfiles);
     void carryOut();
-    void carryOutOnce();
     void announceProfile();
+    void unloadPlugins();
     CrvProfileResolution* resolve();
+    std::vector<CrvExtension*> wantedExtensions();
 
     CrvPluginsManager* const q;
     std::vector<LoadedPlugin> plugins; // those whose extensions are loaded
-    std::vector<CrvExtension*> active; // in the order of their activation; not owned
     Profiles ownedProfiles;
     std::list<CrvProfile*> profiles;
     CrvProfile* activeProfile = nullptr;
     std::unique_ptr<CrvProfileResolution> resolution; // of the active profile, made when asked for
     CrvProfileSetting noSetting; // of whatever the profile doesn't list
 
-    bool busy = false; // extensions are being activated or deactivated
-    bool interrupted = false; // what is to be active changed meanwhile
-    bool reactivateAll = false; // also those extensions that stay active
+    CrvProfileActivation activation { [this] { return wantedExtensions(); } };
     bool profileChanged = false; // the signal is due
 };
 
@@ -90,67 +84,42 @@ void CrvPluginsManager::Private::replaceProfiles(Profiles newProfiles)
         profiles.push_back(profile.get());
     profileChanged = true;
     // The profile selector reads the list when it is activated.
-    reactivateAll = true;
+    activation.renewAll();
     Q_EMIT q->profilesChanged();
     carryOut();
 }
 
-/// Brings the active extensions in line with the active profile. An extension may change plug-ins
-/// and profiles from within the calls that it gets here: that only ends the round, and the next
-/// one goes for the newest state.
 void CrvPluginsManager::Private::carryOut()
 {
     resolution.reset();
-    if (busy) {
-        interrupted = true;
-        return;
-    }
-    busy = true;
-    {
-        // A dock that goes hands the focus on, and who gets it may select something.
-        const CrvServices::SelectionHold hold(*CrvServices::getInstance());
-        do {
-            interrupted = false;
-            carryOutOnce();
-        } while (interrupted);
-        busy = false;
-        // The docks choose their editors among what is there now.
-        if (!active.empty())
-            CrvServices::getInstance()->announceSelection();
-    }
-    announceProfile();
-}
-
-void CrvPluginsManager::Private::carryOutOnce()
-{
-    std::vector<CrvExtension*> wanted;
-    if (const CrvProfileResolution* resolved = resolve())
-        wanted = resolved->getTopExtensions();
-
-    for (std::size_t i = active.size(); i-- > 0;) {
-        CrvExtension* const extension = active[i];
-        if (!reactivateAll && contains(wanted, extension))
-            continue;
-        active.erase(active.begin() + static_cast<std::ptrdiff_t>(i));
-        extension->deactivate();
-        if (interrupted)
-            return;
-    }
-    reactivateAll = false;
-    for (CrvExtension* extension : wanted) {
-        if (contains(active, extension))
-            continue;
-        active.push_back(extension);
-        extension->activate();
-        if (interrupted)
-            return;
-    }
+    if (activation.update())
+        announceProfile();
 }
 
 void CrvPluginsManager::Private::announceProfile()
 {
     if (std::exchange(profileChanged, false))
         Q_EMIT q->activeProfileChanged(activeProfile);
+}
+
+std::vector<CrvExtension*> CrvPluginsManager::Private::wantedExtensions()
+{
+    const CrvProfileResolution* const resolved = resolve();
+    return resolved ? resolved->getTopExtensions() : std::vector<CrvExtension*>();
+}
+
+void CrvPluginsManager::Private::unloadPlugins()
+{
+    while (!plugins.empty()) {
+        const LoadedPlugin last = std::move(plugins.back());
+        plugins.pop_back();
+        resolution.reset();
+        const std::vector<CrvExtension*> extensions = last.plugin->getExtensions();
+        std::for_each(extensions.rbegin(), extensions.rend(),
+            [](CrvExtension* extension) { extension->unload(); });
+        last.plugin->unload();
+    }
+    resolution.reset();
 }
 
 CrvProfileResolution* CrvPluginsManager::Private::resolve()
@@ -179,7 +148,7 @@ CrvPluginsManager::CrvPluginsManager()
 
 CrvPluginsManager::~CrvPluginsManager()
 {
-    if (d->active.empty() || CrvShell::getInstance()) {
+    if (!d->activation.hasActiveExtensions() || CrvShell::getInstance()) {
         unloadAll();
         return;
     }
@@ -216,37 +185,16 @@ void CrvPluginsManager::adoptPlugin(CrvPlugin* plugin)
 
 void CrvPluginsManager::unloadAll()
 {
-    if (d->busy) {
+    if (d->activation.isBusy()) {
         qWarning("CrvPluginsManager: an extension can't unload the plug-ins while it is activated "
                  "or deactivated");
         return;
     }
-    d->busy = true;
     CrvServices* const services = CrvServices::getInstance();
     services->selectNode(nullptr);
     // The code of the commands goes away with the plug-ins.
     services->getUndoStack()->clear();
-    const CrvServices::SelectionHold hold(*services);
-
-    while (!d->active.empty()) {
-        CrvExtension* const extension = d->active.back();
-        d->active.pop_back();
-        extension->deactivate();
-    }
-    while (!d->plugins.empty()) {
-        const Private::LoadedPlugin last = std::move(d->plugins.back());
-        d->plugins.pop_back();
-        d->resolution.reset();
-        const std::vector<CrvExtension*> extensions = last.plugin->getExtensions();
-        std::for_each(extensions.rbegin(), extensions.rend(),
-            [](CrvExtension* extension) { extension->unload(); });
-        last.plugin->unload();
-    }
-    d->resolution.reset();
-    d->interrupted = false;
-    // Whatever was chosen in the meantime.
-    services->selectNode(nullptr);
-    d->busy = false;
+    d->activation.shutDown([this] { d->unloadPlugins(); });
     d->announceProfile();
 }
 
