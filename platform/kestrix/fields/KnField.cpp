@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "KnField.h"
 
+#include "KnFieldOwner.h"
 #include "KnFieldSensor.h"
 #include "KnMField.h"
 #include "KnSensorQueue.h"
@@ -35,6 +36,11 @@ void KnField::setIgnored(int ignored)
 {
     m_ignored = ignored != 0;
     touch();
+}
+
+KnFieldContainer* KnField::getContainer() const
+{
+    return m_owner ? m_owner->asContainer() : nullptr;
 }
 
 void KnField::touch()

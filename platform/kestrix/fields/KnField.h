@@ -6,6 +6,7 @@
 #include <vector>
 
 class KnFieldContainer;
+class KnFieldOwner;
 class KnFieldSensor;
 
 /// One value, or one array of values, of a node. A field belongs to its container, which has it as
@@ -28,7 +29,9 @@ public:
     void setIgnored(int ignored);
 
     /// Null for a field that stands alone.
-    KnFieldContainer* getContainer() const { return m_container; }
+    KnFieldContainer* getContainer() const;
+    /// The same object, as far as fields know it.
+    const KnFieldOwner* getOwner() const { return m_owner; }
 
     /// Tells the sensors that something changed; they run later, from the kernel's queue.
     void touch();
@@ -37,10 +40,10 @@ protected:
     KnField();
 
 private:
-    friend class KnFieldContainer;
+    friend class KnFieldOwner;
     friend class KnFieldSensor;
 
-    KnFieldContainer* m_container = nullptr; // the owner of this field
+    KnFieldOwner* m_owner = nullptr; // not owned; it has this field as a member
     std::vector<KnFieldSensor*> m_sensors; // not owned
     bool m_ignored = false;
 };

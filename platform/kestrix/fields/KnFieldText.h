@@ -1,10 +1,18 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "KnReadError.h"
+#include "KbString.h"
 #include "KnTextReader.h"
 
 #include <utility>
+
+class KnField;
+
+/// Posts a KnReadError for a text that a field refused. The message names the field by node and
+/// field name, the row (counted from 0; -1 for a field of one value), the place in the text (in
+/// characters, counted from 0), what was expected and what stands there. `offset` counts bytes.
+void knPostRefusal(const KnField& field, int row, std::string_view text, std::size_t offset,
+    std::string_view expected);
 
 /// Takes one value out of a text that must hold nothing else; `""` gives the default value. `read`
 /// is called with the reader and the fresh value. False, after a KnReadError in the name of the
@@ -18,6 +26,6 @@ bool knReadWhole(const KnField& field, int row, const KbString& text, Value& val
         value = std::move(fresh);
         return true;
     }
-    KnReadError::postRefusal(field, row, text.toUtf8(), reader.failureOffset(), reader.expected());
+    knPostRefusal(field, row, text.toUtf8(), reader.failureOffset(), reader.expected());
     return false;
 }

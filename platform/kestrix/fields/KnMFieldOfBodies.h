@@ -142,8 +142,8 @@ bool KnMFieldOf<Value_>::set(const KbString& text)
     std::vector<Value> values;
     const bool read = reader.acceptDefault() || readArray(reader, values);
     if (!read || !reader.expectEnd()) {
-        KnReadError::postRefusal(*this, read ? -1 : static_cast<int>(values.size()) - 1,
-            text.toUtf8(), reader.failureOffset(), reader.expected());
+        knPostRefusal(*this, read ? -1 : static_cast<int>(values.size()) - 1, text.toUtf8(),
+            reader.failureOffset(), reader.expected());
         return false;
     }
     m_values = std::move(values);
@@ -168,7 +168,7 @@ template <class Value_>
 bool KnMFieldOf<Value_>::set1(int row, const KbString& text)
 {
     if (row < 0 || row >= getNum()) {
-        KnReadError::postRefusal(*this, row, text.toUtf8(), 0,
+        knPostRefusal(*this, row, text.toUtf8(), 0,
             "a row of the array, which has " + std::to_string(getNum()));
         return false;
     }

@@ -17,7 +17,7 @@ void KnSFEnum::setValue(const KbName& name)
     if (findEnumValue(name, value))
         setValue(value);
     else
-        KnReadError::postRefusal(*this, -1, name.getString().toUtf8(), 0, describeNames());
+        knPostRefusal(*this, -1, name.getString().toUtf8(), 0, describeNames());
 }
 
 void KnSFEnum::getEnums(int& num, int*& values, KbName*& names)

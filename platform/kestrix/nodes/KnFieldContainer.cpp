@@ -30,9 +30,21 @@ KnField* KnFieldContainer::getField(const KbName& name)
     return data->getField(this, data->getIndex(name));
 }
 
+std::string KnFieldContainer::describeField(const KnField& field) const
+{
+    const KnFieldData* data = getContainerFieldData();
+    const int index = data ? data->getIndex(this, &field) : -1;
+    if (index < 0)
+        return {};
+    std::string text = getObjectType().getName().getString().toUtf8();
+    if (!m_name.isEmpty())
+        text += " \"" + m_name.getString().toUtf8() + '"';
+    return text + ", field " + data->getName(index).getString().toUtf8();
+}
+
 void KnFieldContainer::addField(KnFieldData& data, const char* name, KnField& field)
 {
-    field.m_container = this;
+    adopt(field);
     const std::ptrdiff_t offset = KnFieldData::offsetOf(this, &field);
     if (data.findOffset(offset) < 0)
         data.m_entries.push_back({ name, offset });

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "KnFieldData.h"
-#include "KnTypedObject.h"
+#include "KnFieldOwner.h"
 
 /// Base of all nodes: a reference-counted holder of fields. It starts with a count of 0; the last
 /// `unref` destroys it.
-class KnFieldContainer : public KnTypedObject {
+class KnFieldContainer : public KnFieldOwner {
 public:
     static KnType getClassTypeId();
 
@@ -20,6 +20,9 @@ public:
 
     const KbName& getName() const { return m_name; }
     void setName(const KbName& name) { m_name = name; }
+
+    KnFieldContainer* asContainer() override { return this; }
+    std::string describeField(const KnField& field) const override;
 
 protected:
     KnFieldContainer() = default;
