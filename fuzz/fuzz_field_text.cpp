@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "KnDatabase.h"
 #include "KnMField.h"
 #include "KnReadError.h"
 #include "KnSFBitMask.h"
@@ -19,6 +20,7 @@ int s_errors = 0;
 
 std::unique_ptr<KnField> make(const char* type)
 {
+    KnDatabase::init();
     auto* field = static_cast<KnField*>(KnType::fromName(type).createInstance());
     if (field->isOfType(KnSFEnum::getClassTypeId()))
         static_cast<KnSFEnum*>(field)->setEnums({ { "A", 1 }, { "B", 2 }, { "AB", 3 } });

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "SceneReader.h"
 
+#include "KnDatabase.h"
 #include "KnField.h"
 #include "KnGroup.h"
 #include "KnReadErrorCapture.h"
@@ -88,6 +89,7 @@ NodePtr SceneReader::readScene(const QJsonObject& scene)
     }
     if (!checkMembers(scene, QString(), { Key::format, Key::version, Key::root }))
         return NodePtr();
+    KnDatabase::init(); // a scene names the types of its nodes
     return readNode(scene.value(Key::root), Key::root, 0);
 }
 

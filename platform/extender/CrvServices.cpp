@@ -3,6 +3,7 @@
 
 #include "CrvCommand.h"
 #include "CrvSensorPump.h"
+#include "KnDatabase.h"
 #include "KnField.h"
 #include "KnFieldContainer.h"
 
@@ -79,6 +80,7 @@ CrvServices* CrvServices::getInstance()
 CrvServices::CrvServices()
     : m_undoStack(new QUndoStack(this))
 {
+    KnDatabase::init();
     new CrvSensorPump(this);
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "KnType.h"
 
-#include "KnDatabase.h"
-
 #include <deque>
 #include <mutex>
 #include <unordered_map>
@@ -48,7 +46,6 @@ KnType KnType::create(const KbName& name, KnType parent, Factory factory)
 
 KnType KnType::fromName(const KbName& name)
 {
-    KnDatabase::init();
     const std::lock_guard lock(registry().mutex);
     const auto found = registry().indices.find(&name.getString());
     return found == registry().indices.end() ? KnType() : KnType(found->second);

@@ -18,7 +18,8 @@ public:
     /// gives the type of that name, whose factory is replaced: a plug-in that is loaded again
     /// registers its types again.
     static KnType create(const KbName& name, KnType parent, Factory factory = nullptr);
-    /// The bad type if there is none of that name.
+    /// The bad type if none of that name is registered. The kernel's own types are there from
+    /// KnDatabase::init on; before it, only those whose class was asked for its type.
     static KnType fromName(const KbName& name);
 
     bool isBad() const { return m_index == 0; }

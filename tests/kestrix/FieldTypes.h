@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "KnDatabase.h"
 #include "KnReadError.h"
 #include "KnSFEnum.h"
 
@@ -18,11 +19,17 @@ inline const QByteArrayList fieldTypeNames
                  " MFVec2s MFVec3f MFVec4f")
           .split(' ');
 
+inline KnType typeOf(const QByteArray& name)
+{
+    KnDatabase::init();
+    return KnType::fromName(name.constData());
+}
+
 /// A fresh field of a type, which must have instances. One that has names gets A = 1, B = 2, AB = 3
 /// and D = 4, in this order.
 inline std::unique_ptr<KnField> makeField(const QByteArray& typeName)
 {
-    KnTypedObject* made = KnType::fromName(typeName.constData()).createInstance();
+    KnTypedObject* made = typeOf(typeName).createInstance();
     if (made->isOfType(KnSFEnum::getClassTypeId()))
         static_cast<KnSFEnum*>(made)->setEnums({ { "A", 1 }, { "B", 2 }, { "AB", 3 }, { "D", 4 } });
     return std::unique_ptr<KnField>(static_cast<KnField*>(made));

@@ -40,8 +40,6 @@ protected:
     ~CountedNode() override { --count; }
 };
 
-KnType typeOf(const QByteArray& name) { return KnType::fromName(name.constData()); }
-
 } // namespace
 
 class TestNodes : public QObject {

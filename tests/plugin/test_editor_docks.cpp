@@ -4,6 +4,7 @@
 #include "CrvServices.h"
 #include "EditorFixture.h"
 #include "EditorSelection.h"
+#include "KnDatabase.h"
 
 #include <QDockWidget>
 #include <QLineEdit>
@@ -94,6 +95,7 @@ private Q_SLOTS:
         QFETCH(QString, object);
         QFETCH(int, winner);
 
+        KnDatabase::init();
         // The map is ordered by pointer, so one array gives the order of the editors.
         std::array<ProbeEditor, 4> editors;
         struct NoEditor : CrvExtension { };
