@@ -3,7 +3,6 @@
 
 #include "KnFieldOwner.h"
 #include "KnFieldSensor.h"
-#include "KnMField.h"
 #include "KnSensorQueue.h"
 
 KnType KnField::getClassTypeId()
@@ -15,12 +14,6 @@ KnType KnField::getClassTypeId()
 KnType KnSField::getClassTypeId()
 {
     static const KnType type = KnType::create("SField", KnField::getClassTypeId());
-    return type;
-}
-
-KnType KnMField::getClassTypeId()
-{
-    static const KnType type = KnType::create("MField", KnField::getClassTypeId());
     return type;
 }
 
@@ -48,5 +41,3 @@ void KnField::touch()
     for (KnFieldSensor* sensor : m_sensors)
         KnSensorQueue::getInstance().schedule(sensor);
 }
-
-void KnMField::valueChanged(int, int, int) { touch(); }

@@ -1,7 +1,180 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "KnMFields.h"
 
-#include "KnMFieldOfBodies.h"
+#include "KnFieldText.h"
+#include "KnMemoryError.h"
+#include "KnTextForm.h"
+
+#include <algorithm>
+#include <limits>
+#include <stdexcept>
+
+/// After so many values of a long array, the room for the others is estimated from them.
+inline constexpr std::size_t knSampleSize = 256;
+
+template <class Value_>
+bool KnMFieldOf<Value_>::resize(std::int64_t num)
+{
+    if (num == static_cast<std::int64_t>(m_values.size()))
+        return true;
+    if (num <= std::numeric_limits<int>::max()) {
+        try {
+            m_values.resize(static_cast<std::size_t>(num));
+            return true;
+        } catch (const std::bad_alloc&) {
+        } catch (const std::length_error&) {
+        }
+    }
+    KnMemoryError::post(KbString(getObjectType().getName().getString().toUtf8() + ": no memory for "
+        + std::to_string(num) + " values"));
+    return false;
+}
+
+template <class Value_>
+void KnMFieldOf<Value_>::setNum(int num)
+{
+    if (resize(std::max(num, 0)))
+        touch();
+}
+
+template <class Value_>
+void KnMFieldOf<Value_>::set1Value(int row, const Value& value)
+{
+    if (row < 0)
+        return;
+    if (row < getNum()) {
+        m_values[static_cast<std::size_t>(row)] = value;
+    } else {
+        Value copy = value; // which may be one of our rows, and these may move
+        if (!resize(std::int64_t { row } + 1))
+            return;
+        m_values.back() = std::move(copy);
+    }
+    touch();
+}
+
+template <class Value_>
+void KnMFieldOf<Value_>::setValues(int start, int num, const Value* values)
+{
+    if (start < 0 || num <= 0)
+        return;
+    const std::vector<Value> copy(values, values + num); // for the same reason
+    if (!resize(std::max<std::int64_t>(getNum(), std::int64_t { start } + num)))
+        return;
+    std::copy(copy.begin(), copy.end(), m_values.begin() + start);
+    touch();
+}
+
+template <class Value_>
+void KnMFieldOf<Value_>::insertValues(int start, int num)
+{
+    if (num <= 0)
+        return;
+    const int old = getNum();
+    if (!resize(std::int64_t { old } + num))
+        return;
+    const auto gap = m_values.begin() + std::clamp(start, 0, old);
+    std::rotate(gap, m_values.begin() + old, m_values.end());
+    touch();
+}
+
+template <class Value_>
+void KnMFieldOf<Value_>::removeValues(int start, int num)
+{
+    const auto end
+        = static_cast<int>(std::clamp<std::int64_t>(std::int64_t { start } + num, 0, getNum()));
+    start = std::max(start, 0);
+    if (start >= end)
+        return;
+    m_values.erase(m_values.begin() + start, m_values.begin() + end);
+    touch();
+}
+
+template <class Value_>
+void KnMFieldOf<Value_>::get(KbString& text) const
+{
+    std::string out;
+    {
+        KnTextWriter writer(out);
+        writer.put('[');
+        for (std::size_t i = 0; i < m_values.size(); ++i) {
+            if (i == knSampleSize)
+                writer.reserve(m_values.size() / knSampleSize);
+            if (i > 0)
+                writer.put(',');
+            writer.put(' ');
+            KnTextForm<Value>::write(writer, m_values[i]);
+        }
+        if (!m_values.empty())
+            writer.put(' ');
+        writer.put(']');
+    }
+    text = KbString(std::move(out));
+}
+
+template <class Value_>
+bool KnMFieldOf<Value_>::readArray(KnTextReader& reader, std::vector<Value>& values)
+{
+    if (!reader.accept('['))
+        return KnTextForm<Value>::read(reader, values.emplace_back());
+    reader.setInArray(true);
+    while (!reader.accept(']')) { // also behind a last comma
+        if (values.size() == knSampleSize)
+            values.reserve(knSampleSize * (reader.remaining() / reader.consumed() + 2));
+        if (reader.acceptDefault())
+            values.emplace_back();
+        else if (!KnTextForm<Value>::read(reader, values.emplace_back()))
+            return false;
+        if (reader.accept(','))
+            continue;
+        return reader.accept(']') || reader.fail("a comma or a closing bracket");
+    }
+    return true;
+}
+
+template <class Value_>
+bool KnMFieldOf<Value_>::set(const KbString& text)
+{
+    KnTextReader reader(text.toUtf8());
+    std::vector<Value> values;
+    const bool read = reader.acceptDefault() || readArray(reader, values);
+    if (!read || !reader.expectEnd()) {
+        knPostRefusal(*this, read ? -1 : static_cast<int>(values.size()) - 1, text.toUtf8(),
+            reader.failureOffset(), reader.expected());
+        return false;
+    }
+    m_values = std::move(values);
+    touch();
+    return true;
+}
+
+template <class Value_>
+bool KnMFieldOf<Value_>::get1(int row, KbString& text) const
+{
+    std::string out;
+    const bool known = row >= 0 && row < getNum();
+    if (known) {
+        KnTextWriter writer(out);
+        KnTextForm<Value>::write(writer, m_values[static_cast<std::size_t>(row)]);
+    }
+    text = KbString(std::move(out));
+    return known;
+}
+
+template <class Value_>
+bool KnMFieldOf<Value_>::set1(int row, const KbString& text)
+{
+    if (row < 0 || row >= getNum()) {
+        knPostRefusal(*this, row, text.toUtf8(), 0,
+            "a row of the array, which has " + std::to_string(getNum()));
+        return false;
+    }
+    Value& value = m_values[static_cast<std::size_t>(row)];
+    if (!knReadWhole(*this, row, text, value, &KnTextForm<Value>::read))
+        return false;
+    touch();
+    return true;
+}
 
 #define KN_MFIELD_SOURCE(Name, ValueType)                                                          \
     KN_TYPE_SOURCE(KnMF##Name, KnMField)                                                           \

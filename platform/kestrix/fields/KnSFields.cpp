@@ -1,7 +1,28 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "KnSFields.h"
 
-#include "KnSFieldOfBodies.h"
+#include "KnFieldText.h"
+#include "KnTextForm.h"
+
+template <class Value_>
+void KnSFieldOf<Value_>::get(KbString& text) const
+{
+    std::string out;
+    {
+        KnTextWriter writer(out);
+        KnTextForm<Value>::write(writer, m_value);
+    }
+    text = KbString(std::move(out));
+}
+
+template <class Value_>
+bool KnSFieldOf<Value_>::set(const KbString& text)
+{
+    if (!knReadWhole(*this, -1, text, m_value, &KnTextForm<Value>::read))
+        return false;
+    touch();
+    return true;
+}
 
 #define KN_SFIELD_SOURCE(Name, ValueType)                                                          \
     KN_TYPE_SOURCE(KnSF##Name, KnSField)                                                           \

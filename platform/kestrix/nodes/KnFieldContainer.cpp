@@ -2,17 +2,10 @@
 #include "KnFieldContainer.h"
 
 #include "KnField.h"
-#include "KnNode.h"
 
 KnType KnFieldContainer::getClassTypeId()
 {
     static const KnType type = KnType::create("FieldContainer", KnType());
-    return type;
-}
-
-KnType KnNode::getClassTypeId()
-{
-    static const KnType type = KnType::create("Node", KnFieldContainer::getClassTypeId());
     return type;
 }
 
