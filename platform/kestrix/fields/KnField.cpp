@@ -11,12 +11,6 @@ KnType KnField::getClassTypeId()
     return type;
 }
 
-KnType KnSField::getClassTypeId()
-{
-    static const KnType type = KnType::create("SField", KnField::getClassTypeId());
-    return type;
-}
-
 KnField::KnField() = default;
 
 KnField::~KnField()

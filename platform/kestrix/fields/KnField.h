@@ -47,9 +47,3 @@ private:
     std::vector<KnFieldSensor*> m_sensors; // not owned
     bool m_ignored = false;
 };
-
-/// Base of all fields that hold one value.
-class KnSField : public KnField {
-public:
-    static KnType getClassTypeId();
-};

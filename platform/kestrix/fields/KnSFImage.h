@@ -2,7 +2,7 @@
 #pragma once
 
 #include "KbVec.h"
-#include "KnField.h"
+#include "KnSField.h"
 #include "KnTypeMacros.h"
 
 #include <vector>

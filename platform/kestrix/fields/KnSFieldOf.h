@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "KnField.h"
+#include "KnSField.h"
 
 #include <concepts>
 #include <utility>

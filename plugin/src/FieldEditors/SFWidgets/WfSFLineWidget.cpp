@@ -2,7 +2,7 @@
 #include "WfSFLineWidget.h"
 
 #include "FieldEdit.h"
-#include "KnField.h"
+#include "KnSField.h"
 #include "LineEdits.h"
 #include "StringConversion.h"
 
