@@ -2,6 +2,7 @@
 #pragma once
 
 #include "KnDatabase.h"
+#include "KnFieldTypes.h"
 #include "KnReadError.h"
 #include "KnSFEnum.h"
 
@@ -10,14 +11,14 @@
 #include <memory>
 
 /// The names of all field types that make instances.
-inline const QByteArrayList fieldTypeNames
-    = QByteArray("SFBitMask SFBool SFBox2f SFBox3s SFColor SFColorRGBA SFDouble SFEnum"
-                 " SFFilePathString SFFloat SFImage SFInt32 SFMatrix SFName SFPlane SFRotation"
-                 " SFShort SFString SFTime SFUInt32 SFUShort SFVec2f SFVec2i32 SFVec2s SFVec3f"
-                 " SFVec4f MFColor MFColorRGBA MFDouble MFFloat MFInt32 MFMatrix MFName MFPlane"
-                 " MFRotation MFShort MFString MFTime MFUInt32 MFUShort MFVec2f MFVec2i32"
-                 " MFVec2s MFVec3f MFVec4f")
-          .split(' ');
+inline const QByteArrayList fieldTypeNames {
+#define KN_SFIELD_NAME(Name, ValueType) "SF" #Name,
+#define KN_MFIELD_NAME(Name, ValueType) "MF" #Name,
+    KN_SFIELD_TYPES(KN_SFIELD_NAME) KN_SPECIAL_SFIELD_TYPES(KN_SFIELD_NAME)
+        KN_MFIELD_TYPES(KN_MFIELD_NAME)
+#undef KN_SFIELD_NAME
+#undef KN_MFIELD_NAME
+};
 
 inline KnType typeOf(const QByteArray& name)
 {

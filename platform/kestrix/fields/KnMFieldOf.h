@@ -3,10 +3,15 @@
 
 #include "KnMField.h"
 
+#include <concepts>
 #include <cstdint>
 #include <vector>
 
 class KnTextReader;
+
+/// Whether a value type extends a plain one that it can be made of, as a KbColor does a KbVec3f.
+template <class Value, class Plain>
+concept KnExtends = std::derived_from<Value, Plain> && std::constructible_from<Value, const Plain&>;
 
 /// What all multi-value field classes share: the values in one contiguous array, and their text by
 /// the text form of the value type. A field class adds its type and nothing else; see KnMFields.h.
@@ -25,6 +30,10 @@ public:
     /// Writes one row. A row at or beyond the end makes the array longer, with default values in
     /// between; a negative one is ignored.
     void set1Value(int row, const Value& value);
+    /// The same with a plain value that the value type extends.
+    template <class Plain>
+    requires KnExtends<Value, Plain>
+    void set1Value(int row, const Plain& value) { set1Value(row, Value(value)); }
     /// Writes `num` rows from `start` on, making the array longer where needed.
     void setValues(int start, int num, const Value* values);
 

@@ -9,8 +9,12 @@
 #include <limits>
 #include <stdexcept>
 
+namespace {
+
 /// After so many values of a long array, the room for the others is estimated from them.
-inline constexpr std::size_t knSampleSize = 256;
+constexpr std::size_t sampleSize = 256;
+
+} // namespace
 
 template <class Value_>
 bool KnMFieldOf<Value_>::resize(std::int64_t num)
@@ -98,8 +102,8 @@ void KnMFieldOf<Value_>::get(KbString& text) const
         KnTextWriter writer(out);
         writer.put('[');
         for (std::size_t i = 0; i < m_values.size(); ++i) {
-            if (i == knSampleSize)
-                writer.reserve(m_values.size() / knSampleSize);
+            if (i == sampleSize)
+                writer.reserve(m_values.size() / sampleSize);
             if (i > 0)
                 writer.put(',');
             writer.put(' ');
@@ -119,8 +123,8 @@ bool KnMFieldOf<Value_>::readArray(KnTextReader& reader, std::vector<Value>& val
         return KnTextForm<Value>::read(reader, values.emplace_back());
     reader.setInArray(true);
     while (!reader.accept(']')) { // also behind a last comma
-        if (values.size() == knSampleSize)
-            values.reserve(knSampleSize * (reader.remaining() / reader.consumed() + 2));
+        if (values.size() == sampleSize)
+            values.reserve(sampleSize * (reader.remaining() / reader.consumed() + 2));
         if (reader.acceptDefault())
             values.emplace_back();
         else if (!KnTextForm<Value>::read(reader, values.emplace_back()))
@@ -179,23 +183,5 @@ bool KnMFieldOf<Value_>::set1(int row, const KbString& text)
 #define KN_MFIELD_SOURCE(Name, ValueType)                                                          \
     KN_TYPE_SOURCE(KnMF##Name, KnMField)                                                           \
     template class KnMFieldOf<ValueType>;
-
-KN_MFIELD_SOURCE(Color, KbColor)
-KN_MFIELD_SOURCE(ColorRGBA, KbColorRGBA)
-KN_MFIELD_SOURCE(Double, double)
-KN_MFIELD_SOURCE(Float, float)
-KN_MFIELD_SOURCE(Int32, std::int32_t)
-KN_MFIELD_SOURCE(Matrix, KbMatrix)
-KN_MFIELD_SOURCE(Name, KbName)
-KN_MFIELD_SOURCE(Plane, KbPlane)
-KN_MFIELD_SOURCE(Rotation, KbRotation)
-KN_MFIELD_SOURCE(Short, std::int16_t)
-KN_MFIELD_SOURCE(String, KbString)
-KN_MFIELD_SOURCE(Time, KbTime)
-KN_MFIELD_SOURCE(UInt32, std::uint32_t)
-KN_MFIELD_SOURCE(UShort, std::uint16_t)
-KN_MFIELD_SOURCE(Vec2f, KbVec2f)
-KN_MFIELD_SOURCE(Vec2i32, KbVec2i32)
-KN_MFIELD_SOURCE(Vec2s, KbVec2s)
-KN_MFIELD_SOURCE(Vec3f, KbVec3f)
-KN_MFIELD_SOURCE(Vec4f, KbVec4f)
+KN_MFIELD_TYPES(KN_MFIELD_SOURCE)
+#undef KN_MFIELD_SOURCE

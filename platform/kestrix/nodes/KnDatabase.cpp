@@ -32,56 +32,25 @@
 #include "KnViewpoint.h"
 #include "KnVoxelGrid.h"
 
-void KnDatabase::init()
+namespace {
+
+// Asking a class for its type registers it, and its ancestors before it.
+
+void registerFields()
 {
-    // Asking a class for its type registers it, and its ancestors before it.
+#define KN_REGISTER_SFIELD(Name, ValueType) KnSF##Name::getClassTypeId();
+#define KN_REGISTER_MFIELD(Name, ValueType) KnMF##Name::getClassTypeId();
+    KN_SFIELD_TYPES(KN_REGISTER_SFIELD)
+    KN_SPECIAL_SFIELD_TYPES(KN_REGISTER_SFIELD)
+    KN_MFIELD_TYPES(KN_REGISTER_MFIELD)
+#undef KN_REGISTER_SFIELD
+#undef KN_REGISTER_MFIELD
+}
+
+void registerNodesAndErrors()
+{
     using TypeId = KnType (*)();
     static constexpr TypeId all[] = {
-        &KnSFBool::getClassTypeId,
-        &KnSFBox2f::getClassTypeId,
-        &KnSFBox3s::getClassTypeId,
-        &KnSFColor::getClassTypeId,
-        &KnSFColorRGBA::getClassTypeId,
-        &KnSFDouble::getClassTypeId,
-        &KnSFFloat::getClassTypeId,
-        &KnSFInt32::getClassTypeId,
-        &KnSFMatrix::getClassTypeId,
-        &KnSFName::getClassTypeId,
-        &KnSFPlane::getClassTypeId,
-        &KnSFRotation::getClassTypeId,
-        &KnSFShort::getClassTypeId,
-        &KnSFString::getClassTypeId,
-        &KnSFTime::getClassTypeId,
-        &KnSFUInt32::getClassTypeId,
-        &KnSFUShort::getClassTypeId,
-        &KnSFVec2f::getClassTypeId,
-        &KnSFVec2i32::getClassTypeId,
-        &KnSFVec2s::getClassTypeId,
-        &KnSFVec3f::getClassTypeId,
-        &KnSFVec4f::getClassTypeId,
-        &KnSFFilePathString::getClassTypeId,
-        &KnSFEnum::getClassTypeId,
-        &KnSFBitMask::getClassTypeId,
-        &KnSFImage::getClassTypeId,
-        &KnMFColor::getClassTypeId,
-        &KnMFColorRGBA::getClassTypeId,
-        &KnMFDouble::getClassTypeId,
-        &KnMFFloat::getClassTypeId,
-        &KnMFInt32::getClassTypeId,
-        &KnMFMatrix::getClassTypeId,
-        &KnMFName::getClassTypeId,
-        &KnMFPlane::getClassTypeId,
-        &KnMFRotation::getClassTypeId,
-        &KnMFShort::getClassTypeId,
-        &KnMFString::getClassTypeId,
-        &KnMFTime::getClassTypeId,
-        &KnMFUInt32::getClassTypeId,
-        &KnMFUShort::getClassTypeId,
-        &KnMFVec2f::getClassTypeId,
-        &KnMFVec2i32::getClassTypeId,
-        &KnMFVec2s::getClassTypeId,
-        &KnMFVec3f::getClassTypeId,
-        &KnMFVec4f::getClassTypeId,
         &KnAnimation::getClassTypeId,
         &KnClipPlane::getClassTypeId,
         &KnClipPlanes::getClassTypeId,
@@ -109,9 +78,17 @@ void KnDatabase::init()
         &KnMemoryError::getClassTypeId,
         &KnReadError::getClassTypeId,
     };
+    for (const TypeId typeId : all)
+        typeId();
+}
+
+} // namespace
+
+void KnDatabase::init()
+{
     static const bool done = [] {
-        for (const TypeId typeId : all)
-            typeId();
+        registerFields();
+        registerNodesAndErrors();
         return true;
     }();
     static_cast<void>(done);
