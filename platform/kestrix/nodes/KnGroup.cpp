@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 KN_NODE_SOURCE(KnGroup, KnNode)
 
@@ -19,21 +20,17 @@ KnGroup::KnGroup(KnFieldData& data)
     visible.setValue(true);
 }
 
-KnGroup::~KnGroup()
-{
-    for (KnFieldContainer* child : m_children)
-        child->unref();
-}
-
 KnFieldContainer* KnGroup::getChild(int index) const
 {
-    return index >= 0 && index < getNumChildren() ? m_children[static_cast<std::size_t>(index)]
-                                                  : nullptr;
+    return index >= 0 && index < getNumChildren()
+        ? m_children[static_cast<std::size_t>(index)].get()
+        : nullptr;
 }
 
 int KnGroup::findChild(const KnFieldContainer* child) const
 {
-    const auto found = std::find(m_children.begin(), m_children.end(), child);
+    const auto found = std::find_if(m_children.begin(), m_children.end(),
+        [child](const KnNodePtr& each) { return each.get() == child; });
     return found == m_children.end() ? -1 : static_cast<int>(found - m_children.begin());
 }
 
@@ -47,18 +44,18 @@ bool KnGroup::insertChild(KnFieldContainer* child, int index)
                   : "A null child was given to a group");
         return false;
     }
-    child->ref();
-    m_children.insert(m_children.begin() + std::clamp(index, 0, getNumChildren()), child);
+    m_children.insert(
+        m_children.begin() + std::clamp(index, 0, getNumChildren()), KnNodePtr(child));
     return true;
 }
 
 bool KnGroup::removeChild(int index)
 {
-    KnFieldContainer* child = getChild(index);
-    if (!child)
+    if (!getChild(index))
         return false;
-    m_children.erase(m_children.begin() + index);
-    child->unref();
+    const auto place = m_children.begin() + index;
+    const KnNodePtr child = std::move(*place); // released only once the list is in order
+    m_children.erase(place);
     return true;
 }
 
@@ -76,8 +73,8 @@ bool KnGroup::isBelow(KnFieldContainer* root) const
             return true;
         if (!node->isOfType(KnGroup::getClassTypeId()) || !seen.insert(node).second)
             continue;
-        const auto& children = static_cast<const KnGroup*>(node)->m_children;
-        waiting.insert(waiting.end(), children.begin(), children.end());
+        for (const KnNodePtr& child : static_cast<const KnGroup*>(node)->m_children)
+            waiting.push_back(child.get());
     }
     return false;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "KnNode.h"
+#include "KnNodePtr.h"
 #include "KnSFields.h"
 
 #include <vector>
@@ -34,11 +35,11 @@ class KnGroup : public KnNode {
 protected:
     /// For a derived class, whose table `data` is.
     explicit KnGroup(KnFieldData& data);
-    ~KnGroup() override;
+    ~KnGroup() override = default;
     static KnFieldData& fieldData();
 
 private:
     bool isBelow(KnFieldContainer* root) const;
 
-    std::vector<KnFieldContainer*> m_children; // a reference is held on each
+    std::vector<KnNodePtr> m_children; // none is null
 };
