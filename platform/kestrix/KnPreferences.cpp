@@ -11,7 +11,7 @@ bool KnPreferences::getBool(const char* name, int defaultValue)
     if (!variable || !*variable)
         return defaultValue != 0;
     std::string value(variable);
-    // ASCII only: the locale has no say in it.
+    // ASCII only, whatever the locale.
     for (char& c : value)
         c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
     const auto falseWords = { "0", "off", "no", "false" };

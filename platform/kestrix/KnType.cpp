@@ -13,7 +13,7 @@ struct Entry {
     KnType::Factory factory = nullptr;
 };
 
-/// Types are made on the user interface thread, but an error handler asks for them on any.
+/// Types are registered on the user interface thread, but an error handler may ask for one on any.
 struct Registry {
     std::mutex mutex;
     std::deque<Entry> entries { Entry {} }; // the bad type is the first; entries never move

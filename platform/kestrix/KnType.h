@@ -11,15 +11,15 @@ class KnType {
 public:
     using Factory = KnTypedObject* (*)();
 
-    /// The bad type: derived from nothing, nothing is derived from it but itself.
+    /// The bad type, which stands for no type at all. It derives from nothing but itself.
     KnType() = default;
 
-    /// Registers a type. `factory` is null for an abstract type. A name that is already taken
-    /// gives the type of that name, whose factory is replaced: a plug-in that is loaded again
-    /// registers its types again.
+    /// Registers a type. `factory` is null for an abstract type. If the name is taken, this gives
+    /// the type of that name and replaces its factory: a plug-in that is loaded again registers its
+    /// types again.
     static KnType create(const KbName& name, KnType parent, Factory factory = nullptr);
-    /// The bad type if none of that name is registered. The kernel's own types are there from
-    /// KnDatabase::init on; before it, only those whose class was asked for its type.
+    /// The bad type if none of that name is registered. The kernel's own types are all registered
+    /// once KnDatabase::init has run; until then, only those whose class was asked for its type.
     static KnType fromName(const KbName& name);
 
     bool isBad() const { return m_index == 0; }

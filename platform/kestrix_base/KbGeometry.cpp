@@ -10,7 +10,7 @@ KbRotation::KbRotation(const float (&quaternion)[4])
     const double z = quaternion[2];
     const double w = quaternion[3];
     const double length = std::sqrt(x * x + y * y + z * z);
-    // A zero vector part is no rotation, whichever w it comes with.
+    // A zero vector part is no rotation, whatever w is.
     if (length == 0.0 || !std::isfinite(length) || !std::isfinite(w))
         return;
     m_axis = KbVec3f(x / length, y / length, z / length);

@@ -26,8 +26,8 @@ private:
     float m_distance = 0.0F;
 };
 
-/// A rotation about an axis. Axis and angle are the truth and are kept as given, so that a text of
-/// a rotation reads back to the same bits; the quaternion is computed from them.
+/// A rotation about an axis. Axis and angle are kept as given, so that a text of a rotation reads
+/// back to the same bits; the quaternion is computed from them.
 class KbRotation {
 public:
     /// No rotation: axis (0, 0, 1), angle 0.

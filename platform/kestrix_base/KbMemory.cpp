@@ -13,10 +13,11 @@ namespace {
 std::atomic<std::uint64_t> s_calls { 0 };
 std::atomic<std::uint64_t> s_bytes { 0 };
 
-/// Takes a block from one of the operators and counts it; without one it ends the process.
+/// Gets a block from one of the operators and counts it; if there is none, it ends the process.
 ///
-/// The throwing forms are asked, not those that take std::nothrow: they are what a process with
-/// operators of its own replaces, and only the library's own other forms are sure to call them.
+/// It calls the throwing forms rather than those that take std::nothrow. The throwing ones are what
+/// a process with operators of its own replaces; only the standard library's own nothrow forms are
+/// sure to call them.
 template <class New>
 void* counted(std::size_t size, New take)
 {

@@ -7,7 +7,7 @@
 #include <string_view>
 
 /// The kernel's text class. It holds UTF-8, generalised so that a lone UTF-16 surrogate survives
-/// the way in and out. A string is null until it is given a text; a null string is empty too.
+/// the round trip. A string is null until it is given a text; a null string is empty too.
 class KbString {
 public:
     KbString() = default;

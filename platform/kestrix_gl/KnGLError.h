@@ -6,7 +6,7 @@
 /// An error that the graphics library reported.
 class KnGLError : public KnError {
     KN_ERROR(KnGLError)
-    /// `code` is what the graphics library's own error query gave; `where` says what was being
+    /// `code` is what the graphics library's error query returned; `where` says what was being
     /// done.
     KnGLError(unsigned int code, const KbString& where);
 

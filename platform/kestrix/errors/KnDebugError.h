@@ -14,7 +14,7 @@ class KnDebugError : public KnError {
     {
     }
 
-    /// 0 for an error, 1 for a warning, 2 for an information.
+    /// 0 for an error, 1 for a warning, 2 for information.
     int getSeverity() const { return m_severity; }
 
     /// Makes the error and gives it to the handler of this class, on the calling thread.

@@ -7,11 +7,11 @@
 
 namespace {
 
-constexpr int maxNesting = 16; // of errors that callbacks post
+constexpr int maxNesting = 16; // how deep errors posted by callbacks may nest
 
-/// What all handlers share. One lock for all of them, held while a callback runs: this is how a
-/// change of handler can promise that the former callback is over, and with a lock for each class
-/// two callbacks that post errors of each other's class would wait for each other for ever.
+/// What all handlers share. One lock serves them all and is held while a callback runs. That is how
+/// a change of handler can promise that the former callback has finished; with a lock for each
+/// class, two callbacks that post errors of each other's class would deadlock.
 struct Shared {
     std::recursive_mutex mutex;
     int nesting = 0;

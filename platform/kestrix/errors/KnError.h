@@ -22,8 +22,8 @@ public:
     /// Null means silence. When this returns, the former callback no longer runs on any other
     /// thread, so that its data may go.
     void set(KnErrorCallback callback, void* data);
-    /// Errors that callbacks post are nested calls; those nested deeper than any sane callback
-    /// would go are written to the standard error stream instead.
+    /// Calls nest when a callback posts errors. Beyond a depth that no sane callback reaches,
+    /// errors are written to the standard error stream instead.
     void call(const KnError& error);
 
     static void writeToStandardError(const KnError* error, void* data);
@@ -62,7 +62,7 @@ public:
     }
 
 /// Something that went wrong, with a text for the person who reads it in a console. Base of all
-/// error classes; each class has a handler of its own and no other class's handler hears of it.
+/// error classes. Each class has a handler of its own, and an error reaches that of its class only.
 class KnError : public KnTypedObject {
     KN_ERROR(KnError)
     explicit KnError(KbString text);

@@ -6,7 +6,7 @@
 #include <vector>
 
 /// Several texts that belong to one failure: what went wrong first, then what failed because of it.
-/// The debug string has one line each.
+/// The debug string has a line for each.
 class KnErrorStack : public KnError {
     KN_ERROR(KnErrorStack)
     explicit KnErrorStack(const std::vector<KbString>& texts);

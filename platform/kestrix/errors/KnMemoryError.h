@@ -3,7 +3,7 @@
 
 #include "KnError.h"
 
-/// Memory that couldn't be had.
+/// Memory that couldn't be allocated.
 class KnMemoryError : public KnError {
     KN_ERROR(KnMemoryError)
     using KnError::KnError;

@@ -4,8 +4,8 @@
 #include "KbString.h"
 
 /// Keeps the read errors that its own thread posts while it lives, so that whoever sets a text can
-/// report a refusal itself, and once. The handler of the class doesn't hear of these errors; those
-/// of other threads reach it as always. Captures nest: the innermost one takes the error. Made and
+/// report a refusal itself, and once. These errors don't reach the handler of the class; those of
+/// other threads do, as always. Captures nest: the innermost one takes the error. Made and
 /// destroyed on one thread, in the order of a stack.
 class KnReadErrorCapture {
 public:
@@ -20,7 +20,7 @@ public:
 private:
     friend class KnReadError;
 
-    /// Gives false if nothing captures on the calling thread.
+    /// False if there is no capture on the calling thread.
     static bool keep(const KbString& text);
 
     KnReadErrorCapture* const m_outer; // null for the outermost one of the thread

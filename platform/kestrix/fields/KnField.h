@@ -24,13 +24,13 @@ public:
     virtual bool set(const KbString& text) = 0;
     bool set(const char* text) { return set(KbString(text)); }
 
-    /// An ignored field keeps its value, which takes no part in what the scene does.
+    /// An ignored field keeps its value, but the scene makes no use of it.
     int isIgnored() const { return m_ignored ? 1 : 0; }
     void setIgnored(int ignored);
 
     /// Null for a field that stands alone.
     KnFieldContainer* getContainer() const;
-    /// The same object, as far as fields know it.
+    /// The container as its fields know it; null for a field that stands alone.
     const KnFieldOwner* getOwner() const { return m_owner; }
 
     /// Tells the sensors that something changed; they run later, from the kernel's queue.

@@ -3,7 +3,7 @@
 
 class KnField;
 
-/// Base of what the kernel's queue runs.
+/// Base of everything that the kernel's queue runs.
 class KnSensor {
 public:
     using Callback = void (*)(void* data, KnSensor* sensor);

@@ -14,18 +14,18 @@ public:
 
     /// One value as text. A row outside the array gives an empty text and false.
     virtual bool get1(int row, KbString& text) const = 0;
-    /// Takes one value as text; refusals are those of KnField::set, a row outside the array among
-    /// them.
+    /// Takes one value as text. A bad text is refused as by KnField::set, and so is a row outside
+    /// the array.
     virtual bool set1(int row, const KbString& text) = 0;
     bool set1(int row, const char* text) { return set1(row, KbString(text)); }
 
     /// Inserts `num` default values before row `start`; a start outside 0 to `getNum()` is moved
     /// to the nearer end.
     virtual void insertValues(int start, int num) = 0;
-    /// Removes what the array has of the rows from `start` to `start + num - 1`.
+    /// Removes the rows from `start` to `start + num - 1`, as far as the array has them.
     virtual void removeValues(int start, int num) = 0;
 
-    /// Says that `num` rows from `start` on were changed, `reason` 1 standing for rows that were
-    /// added. It touches the field.
+    /// Reports that `num` rows from `start` on have changed; a `reason` of 1 means that rows were
+    /// added. This touches the field.
     void valueChanged(int start, int num, int reason);
 };

@@ -47,7 +47,7 @@ public:
     void removeValues(int start, int num) override;
 
 private:
-    /// False, after a KnMemoryError, when there is no memory for so many.
+    /// False, after a KnMemoryError, if there is no memory for so many values.
     bool resize(std::int64_t num);
     static bool readArray(KnTextReader& reader, std::vector<Value>& values);
 

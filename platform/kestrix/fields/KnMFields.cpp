@@ -11,7 +11,7 @@
 
 namespace {
 
-/// After so many values of a long array, the room for the others is estimated from them.
+/// After this many values of a long array, the room that the rest will need is estimated.
 constexpr std::size_t sampleSize = 256;
 
 } // namespace
@@ -49,7 +49,7 @@ void KnMFieldOf<Value_>::set1Value(int row, const Value& value)
     if (row < getNum()) {
         m_values[static_cast<std::size_t>(row)] = value;
     } else {
-        Value copy = value; // which may be one of our rows, and these may move
+        Value copy = value; // it may be one of our own rows, which are about to move
         if (!resize(std::int64_t { row } + 1))
             return;
         m_values.back() = std::move(copy);
@@ -62,7 +62,7 @@ void KnMFieldOf<Value_>::setValues(int start, int num, const Value* values)
 {
     if (start < 0 || num <= 0)
         return;
-    const std::vector<Value> copy(values, values + num); // for the same reason
+    const std::vector<Value> copy(values, values + num); // of what may be our own rows, too
     if (!resize(std::max<std::int64_t>(getNum(), std::int64_t { start } + num)))
         return;
     std::copy(copy.begin(), copy.end(), m_values.begin() + start);
@@ -122,7 +122,7 @@ bool KnMFieldOf<Value_>::readArray(KnTextReader& reader, std::vector<Value>& val
     if (!reader.accept('['))
         return KnTextForm<Value>::read(reader, values.emplace_back());
     reader.setInArray(true);
-    while (!reader.accept(']')) { // also behind a last comma
+    while (!reader.accept(']')) { // also after a trailing comma
         if (values.size() == sampleSize)
             values.reserve(sampleSize * (reader.remaining() / reader.consumed() + 2));
         if (reader.acceptDefault())

@@ -21,7 +21,7 @@ void KnSFBitMask::get(KbString& text) const
         const char* separator = "(";
         for (std::size_t i = 0; i < m_values.size(); ++i) {
             const auto bits = static_cast<std::uint32_t>(m_values[i]);
-            // A name of several bits stands for all of them, and says something new.
+            // All bits of a name must be set, and at least one not yet covered by an earlier name.
             if ((bits & static_cast<std::uint32_t>(m_value)) != bits || (bits & rest) == 0)
                 continue;
             writer.put(separator);

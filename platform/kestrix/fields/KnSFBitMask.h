@@ -4,7 +4,7 @@
 #include "KnSFEnum.h"
 
 /// Any combination of named bits. As text it is `(A | B)`, `()` when no bit is set; bits without a
-/// name stand behind the names as one `0x` number. One name or number may stand without brackets.
+/// name follow the names as one `0x` number. A single name or number needs no brackets.
 class KnSFBitMask : public KnSFEnum {
     KN_TYPE(KnSFBitMask)
 

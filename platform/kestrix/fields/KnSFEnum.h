@@ -17,7 +17,7 @@ class KnSFEnum : public KnSField {
     using Value = int;
 
     int getValue() const { return m_value; }
-    /// Any number is taken, also one without a name.
+    /// Any number is accepted, even one without a name.
     void setValue(int value);
     /// A name that the field doesn't have changes nothing and posts a KnReadError.
     void setValue(const KbName& name);

@@ -89,7 +89,7 @@ bool KnSFImage::read(KnTextReader& reader, Picture& picture)
         return true;
     picture.size = KbVec2s(width, height);
     picture.components = components;
-    // The text bounds what is set aside: each pixel takes two characters or more.
+    // Each pixel takes at least two characters, so the text limits how much is reserved.
     picture.bytes.reserve(std::min<std::size_t>(std::size_t(count), reader.remaining() / 2 + 1)
         * std::size_t(components));
     for (std::int64_t i = 0; i < count; ++i) {

@@ -9,9 +9,10 @@
 
 class KnTextReader;
 
-/// A picture of 1 to 8 bytes a pixel: grey, grey and alpha, RGB, RGBA and what a host makes of the
-/// rest. The row stored first is the lowest. As text it is `width height components` and one `0x`
-/// number a pixel, whose highest byte is the first component; an image without pixels is `0 0 0`.
+/// A picture of 1 to 8 bytes per pixel: grey, grey and alpha, RGB or RGBA; what more bytes mean is
+/// up to the host. The row stored first is the lowest. As text it is `width height components` and
+/// one `0x` number per pixel, whose highest byte is the first component. The text of an image
+/// without pixels is `0 0 0`.
 class KnSFImage : public KnSField {
     KN_TYPE(KnSFImage)
     static constexpr int maxComponents = 8;

@@ -19,7 +19,7 @@ public:
         m_value = value;
         touch();
     }
-    /// Makes the value from its components.
+    /// Sets a value made from its components.
     template <class... Components>
     requires(sizeof...(Components) > 1
         && std::constructible_from<Value, Components...>) void setValue(Components&&... components)

@@ -14,9 +14,9 @@ public:
 
     static KnSensorQueue& getInstance();
 
-    /// The host's means to be told that the queue is no longer empty: called once when the first
-    /// sensor enters an empty queue, outside of processing, and at once when sensors wait already.
-    /// Null takes it away.
+    /// Tells the host that sensors are waiting. The callback is called when the first sensor enters
+    /// an empty queue, at the end of a `process` if some wait by then, and at once if some are
+    /// waiting already. Null removes it.
     void setWakeCallback(WakeCallback callback, void* data);
 
     /// Puts a sensor at the end; one that already waits stays where it is.
@@ -34,7 +34,7 @@ private:
     void wake() const;
 
     std::deque<KnSensor*> m_sensors; // not owned; a sensor that goes away leaves
-    std::size_t m_remaining = 0; // how many at the front belong to the run under way
+    std::size_t m_remaining = 0; // how many at the front the current run still has to run
     WakeCallback m_wake = nullptr;
     void* m_wakeData = nullptr;
     bool m_processing = false;

@@ -5,7 +5,7 @@
 #include "KnNode.h"
 #include "KnSFields.h"
 
-/// Values over time for the nodes of a group.
+/// Values that change over time, for nodes given by name.
 class KnAnimation : public KnNode {
     KN_NODE(KnAnimation)
     KnSFBool loop;

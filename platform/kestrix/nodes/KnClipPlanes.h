@@ -10,5 +10,5 @@ class KnClipPlanes : public KnNode {
     KN_NODE(KnClipPlanes)
     KnSFBool on;
     KnMFPlane plane;
-    KnMFShort priority; ///< the lower, the sooner
+    KnMFShort priority; ///< the lowest goes first
 };

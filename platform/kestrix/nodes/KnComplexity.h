@@ -5,7 +5,7 @@
 #include "KnSFEnum.h"
 #include "KnSFields.h"
 
-/// How finely shapes are drawn, as a share of the best that there is.
+/// How finely shapes are drawn, as a fraction of the finest possible.
 class KnComplexity : public KnNode {
     KN_NODE(KnComplexity)
     KnSFEnum type;

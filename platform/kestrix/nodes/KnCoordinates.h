@@ -4,7 +4,7 @@
 #include "KnMFields.h"
 #include "KnNode.h"
 
-/// The points that the shapes after it are made of.
+/// The points of the shapes that follow.
 class KnCoordinates : public KnNode {
     KN_NODE(KnCoordinates)
     KnMFVec3f point;

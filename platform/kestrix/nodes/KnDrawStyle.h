@@ -12,7 +12,7 @@ class KnDrawStyle : public KnNode {
     KnSFBitMask parts;
     KnSFFloat pointSize; ///< pixels
     KnSFFloat lineWidth; ///< pixels
-    KnSFUShort linePattern; ///< a bit a pixel
+    KnSFUShort linePattern; ///< one bit per pixel
     KnSFInt32 linePatternScale;
     KnSFShort depthOffset;
     KnSFUInt32 selectionMask;

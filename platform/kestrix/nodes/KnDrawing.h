@@ -12,5 +12,5 @@ class KnDrawing : public KnNode {
     KnSFVec2s size; ///< pixels
     KnMFVec2i32 outline; ///< pixels
     KnMFVec2s mark; ///< pixels from the origin
-    KnMFColorRGBA color; ///< one a figure
+    KnMFColorRGBA color; ///< one per figure
 };

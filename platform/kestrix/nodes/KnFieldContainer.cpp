@@ -14,7 +14,7 @@ KnFieldContainer::~KnFieldContainer() = default;
 void KnFieldContainer::unref()
 {
     if (--m_referenceCount <= 0)
-        delete this; // the count is the owner
+        delete this; // the references own the node
 }
 
 KnField* KnFieldContainer::getField(const KbName& name)

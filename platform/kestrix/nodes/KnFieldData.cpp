@@ -20,7 +20,7 @@ int KnFieldData::findOffset(std::ptrdiff_t offset) const
 
 int KnFieldData::getIndex(const KnFieldContainer* container, const KnField* field) const
 {
-    // An offset means something only within one object, so a stranger is turned away first.
+    // Offsets only mean something within one object, so another node's field is ruled out first.
     if (!container || !field || field->getContainer() != container)
         return -1;
     return findOffset(offsetOf(container, field));

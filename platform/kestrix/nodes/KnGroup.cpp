@@ -64,7 +64,7 @@ bool KnGroup::removeChild(const KnFieldContainer* child) { return removeChild(fi
 /// Whether this group is `root` or one of its descendants.
 bool KnGroup::isBelow(KnFieldContainer* root) const
 {
-    std::unordered_set<const KnFieldContainer*> seen; // shared children are looked into once
+    std::unordered_set<const KnFieldContainer*> seen; // shared children are visited once
     std::vector<const KnFieldContainer*> waiting { root };
     while (!waiting.empty()) {
         const KnFieldContainer* node = waiting.back();

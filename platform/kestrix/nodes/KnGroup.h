@@ -27,13 +27,13 @@ class KnGroup : public KnNode {
     bool addChild(KnFieldContainer* child);
     /// The same before the child at `index`; an index outside the list is moved to the nearer end.
     bool insertChild(KnFieldContainer* child, int index);
-    /// Gives the reference back, which destroys a child that nobody else holds. False for what
-    /// isn't a child.
+    /// Gives the reference back, which destroys a child that nobody else holds. False if there
+    /// is no such child.
     bool removeChild(int index);
     bool removeChild(const KnFieldContainer* child);
 
 protected:
-    /// For a derived class, whose table `data` is.
+    /// For a derived class; `data` is its table.
     explicit KnGroup(KnFieldData& data);
     ~KnGroup() override = default;
     static KnFieldData& fieldData();

@@ -4,11 +4,11 @@
 #include "KnMFields.h"
 #include "KnNode.h"
 
-/// Faces made of points by their numbers.
+/// Faces, given by the indices of their points.
 class KnIndexedFaceSet : public KnNode {
     KN_NODE(KnIndexedFaceSet)
     KnMFInt32 coordIndex; ///< -1 ends a face
     KnMFInt32 normalIndex;
-    KnMFUInt32 packedColor; ///< RGBA, a byte each, one a face
-    KnMFUShort group; ///< one a face
+    KnMFUInt32 packedColor; ///< one per face: RGBA, a byte each
+    KnMFUShort group; ///< one per face
 };

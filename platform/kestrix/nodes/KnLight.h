@@ -14,6 +14,6 @@ public:
     KnSFColor color;
 
 protected:
-    /// `data` is the table of the class that is being made.
+    /// For a derived class; `data` is its table.
     explicit KnLight(KnFieldData& data);
 };

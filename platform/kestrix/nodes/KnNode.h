@@ -27,7 +27,7 @@ public:
         return data;                                                                               \
     }
 
-/// In the constructor of a node class: makes a member a field of its name.
+/// In the constructor of a node class: makes a member a field and names it after the member.
 #define KN_FIELD(member) addField(fieldData(), #member, member)
 
 /// Base of the nodes that a scene is made of.

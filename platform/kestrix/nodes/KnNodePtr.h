@@ -5,7 +5,7 @@
 
 #include <utility>
 
-/// Holds one reference on a node, or is null.
+/// Keeps a node alive by holding a reference on it; may be null.
 class KnNodePtr {
 public:
     KnNodePtr() = default;

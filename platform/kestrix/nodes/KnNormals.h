@@ -5,7 +5,7 @@
 #include "KnNode.h"
 #include "KnSFields.h"
 
-/// The normals of the shapes after it.
+/// The normals of the shapes that follow.
 class KnNormals : public KnNode {
     KN_NODE(KnNormals)
     KnMFVec3f vector;

@@ -7,5 +7,5 @@
 class KnPointLight : public KnLight {
     KN_NODE(KnPointLight)
     KnSFVec3f location;
-    KnSFVec3f attenuation; ///< with the square of the distance, with the distance, always
+    KnSFVec3f attenuation; ///< quadratic, linear and constant factors
 };

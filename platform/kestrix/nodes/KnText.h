@@ -9,10 +9,10 @@
 /// Lines of text in a plane.
 class KnText : public KnNode {
     KN_NODE(KnText)
-    KnMFString string; ///< one a line
+    KnMFString string; ///< one per line
     KnSFName fontName;
     KnSFFloat size;
     KnSFFloat spacing; ///< lines
     KnSFEnum justification;
-    KnMFFloat width; ///< of each line; 0: as wide as it comes
+    KnMFFloat width; ///< of each line; 0 for its natural width
 };

@@ -9,7 +9,7 @@
 /// The picture on the shapes that follow.
 class KnTexture : public KnNode {
     KN_NODE(KnTexture)
-    KnSFFilePathString filename; ///< empty: the image field counts
+    KnSFFilePathString filename; ///< if empty, `image` is used
     KnSFImage image;
     KnSFEnum wrapS;
     KnSFEnum wrapT;

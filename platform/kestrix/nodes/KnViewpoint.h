@@ -13,5 +13,5 @@ class KnViewpoint : public KnNode {
     KnSFDouble nearDistance;
     KnSFDouble farDistance;
     KnSFFloat heightAngle; ///< radians
-    KnSFBox2f viewport; ///< shares of the window
+    KnSFBox2f viewport; ///< in fractions of the window
 };

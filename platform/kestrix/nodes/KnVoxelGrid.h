@@ -10,5 +10,5 @@ class KnVoxelGrid : public KnNode {
     KN_NODE(KnVoxelGrid)
     KnSFBox3s extent; ///< cells
     KnSFVec3f cellSize;
-    KnMFUShort density; ///< one a cell
+    KnMFUShort density; ///< one per cell
 };

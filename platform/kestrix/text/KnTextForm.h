@@ -42,7 +42,7 @@ struct KnTextForm<Value> {
     }
 };
 
-/// Numbers that are read and written as such.
+/// Plain numbers.
 template <class Value>
 requires std::is_arithmetic_v<Value>
 struct KnTextForm<Value> {
@@ -50,7 +50,7 @@ struct KnTextForm<Value> {
     static bool read(KnTextReader& reader, Value& value) { return reader.read(value); }
 };
 
-/// These hold masks and packed colours.
+/// In hexadecimal, since these hold masks and packed colours.
 template <>
 struct KnTextForm<std::uint32_t> {
     static void write(KnTextWriter& writer, std::uint32_t value) { writer.hexadecimal(value); }

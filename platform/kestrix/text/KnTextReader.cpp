@@ -6,9 +6,9 @@
 
 namespace {
 
-/// Whether a number that no value could be made of is too small rather than too large: the place of
-/// its first digit that isn't 0, counted from the point, together with its exponent, decides.
-/// [first, last) is a sound number without an infinity.
+/// Whether a number that its type can't hold is too small rather than too large. The position of
+/// its first non-zero digit, counted from the point, and its exponent decide. [first, last) is a
+/// well-formed number that isn't infinite.
 bool isTooSmall(const char* first, const char* last)
 {
     long place = 0;
@@ -27,7 +27,7 @@ bool isTooSmall(const char* first, const char* last)
     if (first != last) {
         const bool negative = *++first == '-';
         first += *first == '+' || *first == '-' ? 1 : 0;
-        // An exponent beyond any text's length outweighs the digits, whatever its value.
+        // An exponent that a long can't hold outweighs any number of digits.
         if (std::from_chars(first, last, exponent).ec != std::errc())
             return negative;
         exponent = negative ? -exponent : exponent;
@@ -103,7 +103,7 @@ bool KnTextReader::readReal(Number& value)
     m_next = end;
     if (!atDelimiter())
         return fail("the end of a number");
-    // Some libraries give an infinity or a zero for what is out of range, others an error alone.
+    // Out of range, some libraries give an infinity or a zero, others nothing but the error.
     const bool negative = *first == '-';
     const char lead = first[negative ? 1 : 0];
     const bool digits = lead == '.' || (lead >= '0' && lead <= '9');

@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-/// Walks through a text and takes values from it. What it can't take is a failure with its place
-/// and what was expected there; the first failure of a text is the last step of reading it.
+/// Walks through a text and takes values from it. Where it finds something else than it was asked
+/// for, it notes the place and what was expected there; reading ends with the first such failure.
 class KnTextReader {
 public:
     explicit KnTextReader(std::string_view text)
@@ -33,17 +33,18 @@ public:
         ++m_next;
         return true;
     }
-    /// Skips blanks; whether nothing follows.
+    /// Skips blanks; true if nothing follows.
     bool atEnd()
     {
         skipBlanks();
         return m_next == m_last;
     }
     bool expectEnd() { return atEnd() || fail("the end of the text"); }
-    /// Takes a `""` that stands alone, which means the default of every type.
+    /// Takes a `""` that stands alone, which is the default value in the text form of every type.
     bool acceptDefault();
 
-    /// Decimal or `0x` hexadecimal, with a sign where the type has one, which must fit.
+    /// Decimal or `0x` hexadecimal, with or without a sign. A number outside the range of the type
+    /// is refused.
     template <std::integral Number>
     bool read(Number& value)
     {
@@ -62,8 +63,8 @@ public:
         value = static_cast<Number>(negative ? std::uint64_t { 0 } - magnitude : magnitude);
         return true;
     }
-    /// A decimal number, also `inf` and `nan`. One that is too large for the type is refused, one
-    /// that is too small becomes the nearest that there is, which may be 0.
+    /// A decimal number, also `inf` and `nan`. One that is too large for the type is refused; one
+    /// that is too small becomes the nearest that there is, or 0.
     bool read(float& value);
     bool read(double& value);
     /// A text in double quotes, or one bare word, which is taken as it stands.
@@ -71,8 +72,8 @@ public:
     /// One bare word; empty if there is none.
     std::string_view takeWord();
 
-    /// Skips blanks and takes all up to one of these characters or the end, without the blanks at
-    /// its end.
+    /// Skips blanks and takes everything up to one of these characters or the end of the text,
+    /// without trailing blanks.
     std::string_view takeUpTo(std::string_view characters);
 
     /// While set, a comma and a closing bracket end a bare word.
@@ -80,15 +81,16 @@ public:
 
     /// Notes that something else was expected here, and gives false.
     bool fail(std::string expected);
-    /// Says of a failure in the number just read which of several it was.
+    /// Adds to a failure of the number just read which of `count` numbers it was; `index` is from
+    /// 0.
     bool failComponent(int index, int count);
 
     const char* position() const { return m_next; }
-    /// Goes back to an earlier `position`, where a failure then belongs.
+    /// Goes back to an earlier `position`, so that a failure is reported there.
     void setPosition(const char* position) { m_next = position; }
     std::size_t remaining() const { return static_cast<std::size_t>(m_last - m_next); }
     std::size_t consumed() const { return static_cast<std::size_t>(m_next - m_first); }
-    /// Where the failure is, in bytes from the front.
+    /// Where the failure is, in bytes from the start of the text.
     std::size_t failureOffset() const { return static_cast<std::size_t>(m_failure - m_first); }
     const std::string& expected() const { return m_expected; }
 

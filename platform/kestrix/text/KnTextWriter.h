@@ -20,7 +20,7 @@ public:
     KnTextWriter& operator=(const KnTextWriter&) = delete;
     ~KnTextWriter() { flush(); }
 
-    /// Sets room aside for so many times the text written so far, and a little more.
+    /// Reserves room for `times` as much text again as was written so far, and a little more.
     void reserve(std::size_t times)
     {
         flush();
@@ -37,7 +37,7 @@ public:
         flush();
         m_out += text;
     }
-    /// In double quotes, with what would end it escaped.
+    /// In double quotes; quotes, backslashes and line breaks are escaped.
     void putQuoted(std::string_view text);
 
     void number(std::integral auto value)
@@ -54,7 +54,7 @@ public:
         m_next = std::to_chars(m_next, end(), value, 16).ptr;
     }
     /// The shortest text that reads back to the same bits: plain for magnitudes from 1e-4 to below
-    /// 1e15, with an exponent outside.
+    /// 1e15, otherwise with an exponent.
     template <std::floating_point Number>
     void number(Number value)
     {
