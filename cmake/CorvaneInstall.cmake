@@ -17,6 +17,8 @@ install(DIRECTORY platform/kestrix_base platform/kestrix platform/kestrix_gl pla
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/corvane"
         FILES_MATCHING PATTERN "*.h"
         PATTERN CrvBuiltInProfiles.h EXCLUDE
+        PATTERN CrvInputFile.h EXCLUDE
+        PATTERN CrvJsonReader.h EXCLUDE
         PATTERN CrvPluginLibrary.h EXCLUDE
         PATTERN CrvProfileActivation.h EXCLUDE
         PATTERN CrvProfileReader.h EXCLUDE

@@ -7,6 +7,7 @@
 #include "SceneReader.h"
 #include "SceneWriter.h"
 
+#include <QFile>
 #include <QUndoStack>
 
 SceneDocument::SceneDocument(QObject* parent)
@@ -42,8 +43,11 @@ bool SceneDocument::open(const QString& fileName, QString* error)
 
 void SceneDocument::openStarter()
 {
+    QFile starter(QStringLiteral(":/corvane/starter.json"));
+    [[maybe_unused]] const bool opened = starter.open(QIODevice::ReadOnly);
+    Q_ASSERT(opened);
     SceneReader reader;
-    NodePtr root = reader.readFile(QStringLiteral(":/corvane/starter.json"));
+    NodePtr root = reader.readText(starter.readAll(), starter.fileName());
     Q_ASSERT_X(root, "SceneDocument", qPrintable(reader.errorText()));
     replace(std::move(root), QString());
 }

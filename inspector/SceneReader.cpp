@@ -8,101 +8,49 @@
 #include "SceneFormat.h"
 #include "SceneText.h"
 
-#include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
 
-#include <algorithm>
+#include <utility>
 
-namespace {
-
-QString memberPath(const QString& path, const QString& member)
-{
-    return path.isEmpty() ? member : path + QLatin1Char('.') + member;
-}
-
-// Line and column from 1; the column counts bytes. Qt's offset stands behind the byte at fault.
-QString lineAndColumn(const QByteArray& text, qsizetype offset)
-{
-    const QByteArrayView before
-        = QByteArrayView(text).first(std::clamp<qsizetype>(offset - 1, 0, text.size()));
-    const qsizetype column = before.size() - before.lastIndexOf('\n');
-    return QStringLiteral("%1:%2").arg(before.count('\n') + 1).arg(column);
-}
-
-} // namespace
-
-NodePtr SceneReader::readFile(const QString& fileName)
-{
-    m_fileName = fileName;
-    m_error.clear();
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        refuse(QString(), file.errorString());
-        return NodePtr();
-    }
-    const QByteArray json = file.readAll();
-    // A directory opens on some systems and fails here.
-    if (file.error() != QFileDevice::NoError) {
-        refuse(QString(), file.errorString());
-        return NodePtr();
-    }
-    return readText(json, fileName);
-}
+NodePtr SceneReader::readFile(const QString& fileName) { return takeRoot(read(fileName)); }
 
 NodePtr SceneReader::readText(const QByteArray& json, const QString& fileName)
 {
-    m_fileName = fileName;
-    m_error.clear();
-    m_nodeCount = 0;
-    if (json.trimmed().isEmpty()) {
-        refuse(QString(), tr("the file is empty"));
-        return NodePtr();
-    }
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
-    if (error.error != QJsonParseError::NoError) {
-        // As a compiler says it.
-        m_fileName += QLatin1Char(':') + lineAndColumn(json, error.offset);
-        refuse(QString(), error.errorString());
-        return NodePtr();
-    }
-    if (!document.isObject()) {
-        refuse(QString(), tr("not a scene: the outermost value must be an object"));
-        return NodePtr();
-    }
-    return readScene(document.object());
+    return takeRoot(readContent(json, fileName));
 }
 
-NodePtr SceneReader::readScene(const QJsonObject& scene)
+NodePtr SceneReader::takeRoot(bool accepted)
+{
+    const NodePtr root = std::exchange(m_root, NodePtr());
+    return accepted ? root : NodePtr();
+}
+
+bool SceneReader::build(const QJsonValue& root)
 {
     using namespace SceneFormat;
-    if (scene.value(Key::format) != QJsonValue(SceneFormat::name)) {
-        refuse(Key::format, tr("not a scene: \"%1\" expected").arg(SceneFormat::name));
-        return NodePtr();
-    }
-    if (scene.value(Key::version) != QJsonValue(SceneFormat::version)) {
-        refuse(Key::version, tr("version %1 expected").arg(SceneFormat::version));
-        return NodePtr();
-    }
-    if (!checkMembers(scene, QString(), { Key::format, Key::version, Key::root }))
-        return NodePtr();
+    m_nodeCount = 0;
+    if (!root.isObject())
+        return refuse(QString(), tr("not a scene: the outermost value must be an object"));
+    const QJsonObject scene = root.toObject();
+    if (scene.value(Key::format) != QJsonValue(SceneFormat::name))
+        return refuse(Key::format, tr("not a scene: \"%1\" expected").arg(SceneFormat::name));
+    if (scene.value(Key::version) != QJsonValue(SceneFormat::version))
+        return refuse(Key::version, tr("version %1 expected").arg(SceneFormat::version));
+    if (!checkObject(root, QString(), { Key::format, Key::version, Key::root }))
+        return false;
     KnDatabase::init(); // a scene names the types of its nodes
-    return readNode(scene.value(Key::root), Key::root, 0);
+    m_root = readNode(scene.value(Key::root), Key::root, 0);
+    return bool { m_root };
 }
 
 NodePtr SceneReader::readNode(const QJsonValue& value, const QString& path, int depth)
 {
     using namespace SceneFormat;
-    if (!value.isObject()) {
-        refuse(path, value.isUndefined() ? tr("missing") : tr("an object expected"));
+    if (!checkObject(value, path, { Key::type, Key::name, Key::fields, Key::children }))
         return NodePtr();
-    }
     const QJsonObject object = value.toObject();
-    if (!checkMembers(object, path, { Key::type, Key::name, Key::fields, Key::children }))
-        return NodePtr();
 
     const NodePtr node = createNode(object, path);
     if (!node || !readFields(*node.get(), object.value(Key::fields), memberPath(path, Key::fields))
@@ -138,8 +86,8 @@ bool SceneReader::readFields(KnFieldContainer& node, const QJsonValue& value, co
 {
     if (value.isUndefined())
         return true;
-    if (!value.isObject())
-        return refuse(path, tr("an object expected"));
+    if (!checkObject(value, path))
+        return false;
     const QJsonObject fields = value.toObject();
     for (auto it = fields.begin(); it != fields.end(); ++it) {
         const QString fieldPath = memberPath(path, it.key());
@@ -159,9 +107,9 @@ bool SceneReader::readField(KnField& field, const QJsonValue& value, const QStri
     using namespace SceneFormat;
     QJsonValue text = value;
     if (value.isObject()) {
-        const QJsonObject object = value.toObject();
-        if (!checkMembers(object, path, { Key::value, Key::ignored }))
+        if (!checkObject(value, path, { Key::value, Key::ignored }))
             return false;
+        const QJsonObject object = value.toObject();
         const QJsonValue ignored = object.value(Key::ignored);
         if (!ignored.isUndefined() && !ignored.isBool())
             return refuse(memberPath(path, Key::ignored), tr("true or false expected"));
@@ -185,8 +133,8 @@ bool SceneReader::readChildren(
 {
     if (value.isUndefined())
         return true;
-    if (!value.isArray())
-        return refuse(path, tr("an array expected"));
+    if (!checkArray(value, path))
+        return false;
     auto* const group = dynamic_cast<KnGroup*>(&node);
     if (!group) {
         return refuse(
@@ -196,38 +144,10 @@ bool SceneReader::readChildren(
         return refuse(path, tr("more than %1 levels of children").arg(SceneFormat::maxDepth));
     const QJsonArray children = value.toArray();
     for (qsizetype i = 0; i < children.size(); ++i) {
-        const NodePtr child
-            = readNode(children.at(i), QStringLiteral("%1[%2]").arg(path).arg(i), depth + 1);
+        const NodePtr child = readNode(children.at(i), elementPath(path, i), depth + 1);
         if (!child)
             return false;
         group->addChild(child.get());
     }
     return true;
-}
-
-// A member that the reader doesn't know is most often misspelled, and the next save would drop it.
-bool SceneReader::checkMembers(
-    const QJsonObject& object, const QString& path, const QStringList& known)
-{
-    for (auto it = object.begin(); it != object.end(); ++it) {
-        if (!known.contains(it.key()))
-            return refuse(memberPath(path, it.key()), tr("unknown member"));
-    }
-    return true;
-}
-
-bool SceneReader::checkString(const QJsonValue& value, const QString& path)
-{
-    if (value.isString())
-        return true;
-    return refuse(path, value.isUndefined() ? tr("missing") : tr("a text in quotes expected"));
-}
-
-bool SceneReader::refuse(const QString& place, const QString& reason)
-{
-    if (m_error.isEmpty()) {
-        m_error = place.isEmpty() ? QStringLiteral("%1: %2").arg(m_fileName, reason)
-                                  : QStringLiteral("%1: %2: %3").arg(m_fileName, place, reason);
-    }
-    return false;
 }

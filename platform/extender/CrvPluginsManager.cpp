@@ -13,7 +13,6 @@
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QFile>
 #include <QFileInfo>
 #include <QUndoStack>
 
@@ -210,16 +209,11 @@ std::vector<CrvExtension*> CrvPluginsManager::getExtensions() const
 
 bool CrvPluginsManager::loadProfiles(const QString& fileName, QString* error)
 {
-    QString reason;
-    Profiles profiles;
-    QFile file(fileName);
-    if (file.open(QIODevice::ReadOnly))
-        profiles = readProfiles(file.readAll(), &reason);
-    else
-        reason = file.errorString();
+    CrvProfileReader reader;
+    Profiles profiles = reader.readFile(fileName);
     if (profiles.empty()) {
         if (error)
-            *error = fileName + QStringLiteral(": ") + reason;
+            *error = reader.errorText();
         return false;
     }
     d->replaceProfiles(std::move(profiles));

@@ -1,19 +1,37 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QString>
+#include "CrvJsonReader.h"
+#include "CrvProfile.h"
+
+#include <QSet>
 
 #include <memory>
 #include <vector>
 
-class CrvProfile;
-class QByteArray;
+class QJsonArray;
 
 /// Reads profiles from JSON:
 ///
 ///     {"profiles": [{"name": "Fields", "extensions": [
 ///         "Console", {"name": "Field Editor", "controls": ["*"]}]}]}
 ///
-/// An extension is a name, or a name with what it controls. Anything else is refused: the answer is
-/// empty, and `error`, which may be null, says where (line and column, or JSON path) and why.
-std::vector<std::unique_ptr<CrvProfile>> readProfiles(const QByteArray& json, QString* error);
+/// An extension is a name, or a name with what it controls. A file with anything else is refused.
+class CrvProfileReader : public CrvJsonReader {
+    Q_DECLARE_TR_FUNCTIONS(CrvProfileReader)
+public:
+    using Profiles = std::vector<std::unique_ptr<CrvProfile>>;
+
+    /// At least one profile, or none for a refused file.
+    Profiles readFile(const QString& fileName);
+
+private:
+    bool build(const QJsonValue& root) override;
+    std::unique_ptr<CrvProfile> readProfile(const QJsonValue& value, const QString& path);
+    std::vector<CrvProfileEntry> readEntries(const QJsonArray& list, const QString& path);
+    CrvProfileEntry readEntry(const QJsonValue& value, const QString& path);
+    QString readName(const QJsonValue& value, const QString& path);
+
+    Profiles m_profiles;
+    QSet<QString> m_names;
+};

@@ -64,25 +64,29 @@ private Q_SLOTS:
         m_manager->setActiveProfile(profile(Everything));
     }
 
+    void refusesFiles_data()
+    {
+        QTest::addColumn<QString>("reason");
+        const QString lacks = u"this library is no plug-in, it lacks "_s;
+        QTest::newRow("nowhere/plugin.so") << u"there is no such file"_s;
+        QTest::newRow("/") << u"this is not a file"_s;
+        QTest::newRow(CORVANE_SAMPLE_PROFILES)
+            << u"this is not a library that can be loaded: Cannot load"_s;
+        const auto module = [](const char* name, const QString& reason) {
+            QTest::newRow(qPrintable(modulePath(name))) << reason;
+        };
+        module("bare_module", lacks + u"loadPlugin, unloadPlugin"_s);
+        module("half_module", lacks + u"unloadPlugin"_s);
+        module("null_module", u"loadPlugin gave no plug-in"_s);
+    }
     void refusesFiles()
     {
-        QTemporaryFile text;
-        QVERIFY(text.open() && text.write("no library\n") > 0 && text.flush());
-        const QString lacks = u"this library is no plug-in, it lacks "_s;
-        const std::pair<QString, QString> rows[] = {
-            { u"nowhere/plugin.so"_s, u"there is no such file"_s },
-            { QDir::tempPath(), u"this is not a file"_s },
-            { text.fileName(), u"this is not a library that can be loaded: Cannot load"_s },
-            { modulePath("bare_module"), lacks + u"loadPlugin, unloadPlugin"_s },
-            { modulePath("half_module"), lacks + u"unloadPlugin"_s },
-            { modulePath("null_module"), u"loadPlugin gave no plug-in"_s },
-        };
-        for (const auto& [file, reason] : rows) {
-            QString error;
-            QCOMPARE(m_manager->loadPlugin(file, &error), nullptr);
-            QVERIFY2(error.startsWith(file + u": "_s + reason), qPrintable(error));
-            QCOMPARE(m_manager->loadPlugin(file), nullptr);
-        }
+        QFETCH(QString, reason);
+        const QString file = QString::fromUtf8(QTest::currentDataTag());
+        QString error;
+        QCOMPARE(m_manager->loadPlugin(file, &error), nullptr);
+        QVERIFY2(error.startsWith(file + u": "_s + reason), qPrintable(error));
+        QCOMPARE(m_manager->loadPlugin(file), nullptr);
     }
 
     void moduleLivesAndDiesInOrder()
@@ -123,29 +127,34 @@ private Q_SLOTS:
             "Profile Selector unload, unload, Console unload, A unload, unload"_s);
     }
 
+    void refusesProfiles_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        // The message behind the file's name, and what is refused with it.
+        const auto row
+            = [](const char* message, const QByteArray& json) { QTest::newRow(message) << json; };
+        row(": No such file", QByteArray());
+        row(":2:4: illegal number", "{\"profiles\":\n  [oops]}");
+        row(": an object expected", "[]");
+        row(": profile: unknown member", R"({"profile":[]})");
+        row(": profiles: missing", "{}");
+        row(": profiles: at least one", R"({"profiles":[]})");
+        row(": profiles[0].name: a name", R"({"profiles":[{"extensions":[]}]})");
+        row(": profiles[1].name: there are two profiles of the name \"a\"",
+            R"({"profiles":[{"name":"a","extensions":[]},{"name":"a","extensions":[]}]})");
+        row(": profiles[0].extensions[1]: a name", profileOf(R"(["b",1])"));
+        row(": profiles[0].extensions[0].x: unknown", profileOf(R"([{"name":"b","x":[]}])"));
+        row(": profiles[0].extensions[0].controls[1].controls: an array",
+            profileOf(R"([{"name":"b","controls":["c",{"name":"d","controls":"*"}]}])"));
+    }
     void refusesProfiles()
     {
-        const std::pair<QByteArray, QString> rows[] = {
-            { "", u"line 1, column 1: "_s },
-            { "{\"profiles\":\n  [oops]}", u"line 2, column 4: "_s },
-            { "[]", u"$: an object is expected"_s },
-            { R"({"profile":[]})", u"$.profile: unknown member"_s },
-            { R"({"profiles":[]})", u"$.profiles: at least one"_s },
-            { R"({"profiles":[{"extensions":[]}]})", u"$.profiles[0].name: a name"_s },
-            { R"({"profiles":[{"name":"a","extensions":[]},{"name":"a","extensions":[]}]})",
-                u"$.profiles[1].name: there are two profiles of the name \"a\""_s },
-            { profileOf(R"(["b",1])"), u"$.profiles[0].extensions[1]: a name"_s },
-            { profileOf(R"([{"name":"b","x":[]}])"), u"$.profiles[0].extensions[0].x: unknown"_s },
-            { profileOf(R"([{"name":"b","controls":["c",{"name":"d","controls":"*"}]}])"),
-                u"$.profiles[0].extensions[0].controls[1].controls: an array"_s },
-        };
+        QFETCH(QByteArray, json);
         const std::list<CrvProfile*> before = m_manager->getProfilesList();
-        for (const auto& [json, start] : rows)
-            QCOMPARE(load(json).left(start.size()), start);
-        QString error;
-        QVERIFY(!m_manager->loadProfiles(u"nowhere/profiles.json"_s, &error));
-        QVERIFY2(error.startsWith(u"nowhere/profiles.json: "), qPrintable(error));
+        const QString message = QString::fromUtf8(QTest::currentDataTag());
+        QCOMPARE(load(json).left(message.size()), message);
         QCOMPARE(m_manager->getProfilesList(), before);
+        QCOMPARE(takeCalls(), QString());
     }
 
     void controlledExtensions()
@@ -204,15 +213,17 @@ private Q_SLOTS:
     }
 
 private:
-    /// What is wrong with the profiles; empty when they were taken.
+    /// What is wrong with the profiles, behind the file's name; empty when they were taken.
     QString load(const QByteArray& json)
     {
         QTemporaryFile file;
         if (!file.open() || file.write(json) != json.size() || !file.flush())
             return file.errorString();
+        if (json.isNull())
+            file.remove();
         QString error;
         m_manager->loadProfiles(file.fileName(), &error);
-        return error.remove(file.fileName() + u": "_s);
+        return error.remove(0, file.fileName().size());
     }
 
     CrvProfile* profile(int index) const

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QCoreApplication>
+#include <QStringList>
+
+class QJsonValue;
+
+/// Base of what reads a JSON file of ours: it opens and parses the file, and words what is wrong
+/// with it in one way. The first refusal is kept, whatever is refused after it.
+class CrvJsonReader {
+    Q_DECLARE_TR_FUNCTIONS(CrvJsonReader)
+public:
+    /// In bytes; a larger file is refused unread. Qt's parser counts the bytes of a text in an int.
+    static constexpr qint64 maxFileSize = qint64 { 1 } << 30;
+
+    CrvJsonReader(const CrvJsonReader&) = delete;
+    CrvJsonReader& operator=(const CrvJsonReader&) = delete;
+
+    /// Why the file was refused, empty if it wasn't: the file, the place, the reason. Where the
+    /// text isn't JSON, the place is line and column of the byte at fault, which both count from 1
+    /// (a column is a byte); where the content is wrong, it is the path of the value, as in
+    /// "root.children[2].name".
+    const QString& errorText() const { return m_error; }
+
+protected:
+    CrvJsonReader() = default;
+    virtual ~CrvJsonReader() = default;
+
+    /// Reads the file and builds what it describes. Gives false for a refused file, be it for want
+    /// of memory.
+    bool read(const QString& fileName);
+    /// The same for the content of a file; `fileName` only stands in messages.
+    bool readContent(QByteArray json, const QString& fileName);
+
+    /// Called with the outermost value, an object or an array. May throw std::bad_alloc, for which
+    /// the file is refused.
+    virtual bool build(const QJsonValue& root) = 0;
+
+    static QString memberPath(const QString& path, const QString& member);
+    static QString elementPath(const QString& path, qsizetype index);
+
+    /// Each of these refuses what isn't as its name says, and gives whether it is.
+    bool checkObject(const QJsonValue& value, const QString& path);
+    /// A member that isn't known is most often misspelled.
+    bool checkObject(const QJsonValue& value, const QString& path, const QStringList& knownMembers);
+    bool checkArray(const QJsonValue& value, const QString& path);
+    bool checkString(const QJsonValue& value, const QString& path);
+
+    /// `path` may be empty, for the file as a whole. Gives false.
+    bool refuse(const QString& path, const QString& reason);
+    bool isRefused() const { return !m_error.isEmpty(); }
+
+private:
+    template <class Step>
+    bool guarded(const QString& fileName, const Step& step);
+    bool parse(QByteArray json);
+    bool refuseKind(const QJsonValue& value, const QString& path, const QString& expected);
+
+    QString m_fileName; // with line and column, once they are known
+    QString m_error;
+};
