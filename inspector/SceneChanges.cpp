@@ -34,15 +34,16 @@ bool isSmall(const KnField& field)
 } // namespace
 
 /// One field, and what of it was saved.
-class SceneChanges::Watch {
+class SceneChanges::Watch : private KnFieldSensor {
 public:
-    Watch(SceneChanges* owner, KnField* field)
-        : m_owner(owner)
+    Watch(SceneChanges* owner, const KnFieldContainer* node, KnField* field)
+        : KnFieldSensor(fieldChanged, this)
+        , m_owner(owner)
+        , m_node(node)
         , m_field(field)
-        , m_sensor(fieldChanged, this)
     {
         markSaved();
-        m_sensor.attach(field);
+        attach(field);
     }
 
     void markSaved()
@@ -81,20 +82,23 @@ private:
         watch->m_owner->fieldTouched(*watch);
     }
 
+    void fieldDestroyed() override { m_owner->forget(m_node); } // destroys this
+
     SceneChanges* m_owner;
-    KnField* m_field; // lives in a node of the scene
+    const KnFieldContainer* m_node; // has the field
+    KnField* m_field;
     KbString m_savedText; // null if the field is too large
     int m_savedRows = 0;
     int m_savedIgnored = 0;
     bool m_comparable = true;
     bool m_rewritten = false; // too large, and written without a command
-    KnFieldSensor m_sensor;
 };
 
 SceneChanges::SceneChanges(QUndoStack* stack, QObject* parent)
     : QObject(parent)
     , m_stack(stack)
     , m_batchEnd(endBatch, this)
+    , m_forgotten(nodesForgotten, this)
 {
     connect(m_stack, &QUndoStack::indexChanged, this, &SceneChanges::stackMoved);
     connect(m_stack, &QUndoStack::cleanChanged, this, &SceneChanges::update);
@@ -106,10 +110,21 @@ void SceneChanges::watch(KnFieldContainer* node)
 {
     if (!node || m_watches.contains(node))
         return;
-    auto& watches = m_watches[node];
+    // A node without fields could die unnoticed, and has nothing to watch.
     const KnFieldData* const data = node->getContainerFieldData();
     for (int i = 0; i < data->getNum(); ++i)
-        watches.push_back(std::make_unique<Watch>(this, data->getField(node, i)));
+        m_watches[node].push_back(std::make_unique<Watch>(this, node, data->getField(node, i)));
+}
+
+// The node's fields die one by one; the first of them takes all watches along, as the address may
+// be that of a new node at any time from then on.
+void SceneChanges::forget(const KnFieldContainer* node)
+{
+    const auto dead = m_watches.extract(node);
+    for (const auto& watch : dead.mapped())
+        m_differing -= int { watch->differs };
+    // Nobody should hear of it in the middle of a destructor.
+    KnSensorQueue::getInstance().schedule(&m_forgotten);
 }
 
 void SceneChanges::markSaved()
@@ -148,6 +163,11 @@ void SceneChanges::fieldTouched(Watch& watch)
 void SceneChanges::endBatch(void* data, KnSensor*)
 {
     static_cast<SceneChanges*>(data)->m_commandInBatch = false;
+}
+
+void SceneChanges::nodesForgotten(void* data, KnSensor*)
+{
+    static_cast<SceneChanges*>(data)->update();
 }
 
 void SceneChanges::update()

@@ -14,7 +14,7 @@ class QUndoStack;
 
 /// Says whether the scene differs from what was last read or saved. The undo stack alone doesn't
 /// know, since some edits write a field without a command; so the fields of every node that was
-/// ever selected are watched, for as long as the scene is open, and compared with what was saved.
+/// ever selected are watched, for as long as node and scene live, and compared with what was saved.
 /// A field too large to be compared at each change counts as changed from the first write on that
 /// came without a command.
 class SceneChanges : public QObject {
@@ -23,7 +23,8 @@ public:
     explicit SceneChanges(QUndoStack* stack, QObject* parent = nullptr);
     ~SceneChanges() override;
 
-    /// Watches the node's fields from now on. It must stay alive until `forgetNodes`.
+    /// Watches the node's fields from now on, without keeping the node alive. A node that dies is
+    /// forgotten, and no longer differs.
     void watch(KnFieldContainer* node);
     /// What the fields hold now is what was saved. The undo stack gets its clean state here.
     void markSaved();
@@ -40,13 +41,17 @@ private:
 
     void stackMoved();
     void fieldTouched(Watch& watch);
+    void forget(const KnFieldContainer* node);
     static void endBatch(void* data, KnSensor* sensor);
+    static void nodesForgotten(void* data, KnSensor* sensor);
     void update();
 
     QUndoStack* m_stack; // the host's
+    // The nodes are alive, since a node that dies takes its watches away.
     std::unordered_map<const KnFieldContainer*, std::vector<std::unique_ptr<Watch>>> m_watches;
     int m_differing = 0; // watches that differ
     bool m_commandInBatch = false; // the touches that come now may be a command's
     KnSensor m_batchEnd; // runs behind the sensors of the fields that a command has touched
+    KnSensor m_forgotten; // runs once dead nodes are gone for good
     bool m_modified = false;
 };

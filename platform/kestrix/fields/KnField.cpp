@@ -15,8 +15,11 @@ KnField::KnField() = default;
 
 KnField::~KnField()
 {
-    while (!m_sensors.empty())
-        m_sensors.back()->detach();
+    while (!m_sensors.empty()) {
+        KnFieldSensor* const sensor = m_sensors.back();
+        sensor->detach();
+        sensor->fieldDestroyed();
+    }
 }
 
 void KnField::setIgnored(int ignored)

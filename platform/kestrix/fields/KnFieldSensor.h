@@ -40,6 +40,12 @@ public:
     void detach();
     KnField* getAttachedField() const { return m_field; }
 
+protected:
+    /// The watched field is being destroyed, and with it the node that it belongs to. The sensor is
+    /// detached by now; it may be destroyed here, and others with it, but none may be attached to
+    /// the field, and neither field nor node may be used.
+    virtual void fieldDestroyed() { }
+
 private:
     friend class KnField;
 
