@@ -8,6 +8,7 @@
 #include "ScenePanel.h"
 #include "UndoKeys.h"
 #include "ViewMenu.h"
+#include "WindowLayout.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -15,7 +16,6 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QSettings>
 #include <QToolBar>
 #include <QUndoStack>
 #include <QUndoView>
@@ -32,10 +32,6 @@ constexpr int editorWidth = 400;
 constexpr int bottomHeight = 250;
 constexpr QSize windowSize(1280, 800);
 
-QString geometryKey() { return QStringLiteral("window/geometry"); }
-
-QString layoutKey() { return QStringLiteral("window/layout"); }
-
 // The one file of a drag; empty for anything else.
 QString draggedFile(const QMimeData* data)
 {
@@ -46,16 +42,17 @@ QString draggedFile(const QMimeData* data)
 
 MainWindow::MainWindow(QSettings* settings, QWidget* parent)
     : QMainWindow(parent)
-    , m_settings(settings)
 {
     setObjectName(QStringLiteral("mainWindow"));
     setAcceptDrops(true);
+    if (settings)
+        m_layout = new WindowLayout(this, settings, layoutVersion);
     // Both columns are as high as the window; what docks below stands between them.
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
 
     buildPanels();
-    m_fileMenu = new FileMenu(&m_document, m_settings, this);
+    m_fileMenu = new FileMenu(&m_document, settings, this);
     menuBar()->addMenu(m_fileMenu);
     buildEditMenu();
     buildViewMenu();
@@ -146,12 +143,11 @@ void MainWindow::showFileName()
 // places come back, and what the person had closed.
 void MainWindow::restoreLayout()
 {
-    if (!m_settings)
+    if (!m_layout)
         return;
     QList<QDockWidget*> hidden = findChildren<QDockWidget*>();
     hidden.removeIf([](const QDockWidget* dock) { return !dock->isHidden(); });
-    restoreGeometry(m_settings->value(geometryKey()).toByteArray());
-    m_layoutRestored = restoreState(m_settings->value(layoutKey()).toByteArray(), layoutVersion);
+    m_layoutRestored = m_layout->restore();
     for (QDockWidget* dock : std::as_const(hidden))
         dock->hide();
     m_viewMenu->takeOverPanes();
@@ -217,10 +213,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    if (m_settings) {
-        m_settings->setValue(geometryKey(), saveGeometry());
-        m_settings->setValue(layoutKey(), saveState(layoutVersion));
-    }
+    if (m_layout)
+        m_layout->save();
     event->accept();
 }
 

@@ -10,6 +10,7 @@ class FileMenu;
 class QSettings;
 class ScenePanel;
 class ViewMenu;
+class WindowLayout;
 
 /// The inspector's window: the scene on the left, the fields of the selected node in the middle,
 /// and around them what the extensions bring. It must be made before the plug-ins are loaded, and
@@ -46,7 +47,7 @@ private:
     void giveFirstSize(QDockWidget* dock);
     void showFileName();
 
-    QSettings* m_settings; // not owned, may be null
+    WindowLayout* m_layout = nullptr; // child; null if nothing is kept
     SceneDocument m_document;
     ScenePanel* m_scenePanel = nullptr; // child
     FileMenu* m_fileMenu = nullptr; // child

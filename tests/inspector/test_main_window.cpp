@@ -228,6 +228,54 @@ private Q_SLOTS:
         QVERIFY(inspector.window.document().root().get() != root.get());
     }
 
+    void doubtfulLayoutIsNotUsed_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value"); // nothing takes the key away
+        QTest::addColumn<QString>("word");
+        const QString damaged = u"The saved window layout is damaged and is not used."_s;
+        const QString died = u"The saved window layout is not used again: the program ended while "
+                             "it was being restored."_s;
+        QTest::newRow("damaged layout")
+            << u"layout"_s << QVariant(QByteArray("\0\0", 2)) << damaged;
+        QTest::newRow("damaged geometry") << u"geometry"_s << QVariant(7) << damaged;
+        QTest::newRow("lost layout") << u"layout"_s << QVariant() << damaged;
+        QTest::newRow("died of it") << u"restoring"_s << QVariant(true) << died;
+        QTest::newRow("saved without a check") << u"check"_s << QVariant() << QString();
+    }
+    void doubtfulLayoutIsNotUsed()
+    {
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        QFETCH(QString, word);
+        const auto hasWord = [&word](const InspectorFixture& inspector) {
+            const auto* const view = inspector.window.findChild<QTextEdit*>(u"m_consoleOutput"_s);
+            return view->toPlainText().contains(word.isEmpty() ? u"layout"_s : word);
+        };
+        {
+            InspectorFixture inspector(*m_folder);
+            inspector.dock(u"historyDock"_s)->hide();
+            inspector.window.close();
+        }
+        {
+            QSettings settings(m_folder->filePath(u"settings.ini"_s), QSettings::IniFormat);
+            settings.beginGroup(u"window"_s);
+            settings.setValue(key, value);
+            if (!value.isValid())
+                settings.remove(key);
+        }
+        {
+            InspectorFixture inspector(*m_folder);
+            QVERIFY(inspector.dock(u"historyDock"_s)->isVisible());
+            QCOMPARE(hasWord(inspector), !word.isEmpty());
+            inspector.dock(u"historyDock"_s)->hide();
+            inspector.window.close();
+        }
+        InspectorFixture inspector(*m_folder);
+        QVERIFY(inspector.dock(u"historyDock"_s)->isHidden());
+        QVERIFY(!hasWord(inspector));
+    }
+
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
