@@ -12,3 +12,16 @@ inline void clickThroughWindow(const QWidget* widget, const QPoint& offset = QPo
     QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {},
         widget->mapTo(widget->window(), offset));
 }
+
+/// Another window comes to the front of `window`, and goes again.
+inline void inAnotherWindow(QWidget* window)
+{
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    if (!QTest::qWaitForWindowActive(&other))
+        qFatal("the other window isn't active");
+    window->activateWindow();
+    if (!QTest::qWaitForWindowActive(window))
+        qFatal("the window isn't active again");
+}

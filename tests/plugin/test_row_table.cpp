@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ArrayFixture.h"
+#include "WindowInput.h"
 
 #include <QRandomGenerator>
 #include <QScreen>
@@ -17,6 +18,8 @@ const char Five[] = "[ 10, 11, 12, 13, 14 ]";
 /// Rows that are shown, added, deleted, moved and jumped to, as a person does it.
 class TestRowTable : public QObject {
     Q_OBJECT
+    using Act = void (*)(TestRowTable&);
+
 private Q_SLOTS:
     void init()
     {
@@ -79,6 +82,54 @@ private Q_SLOTS:
         QCOMPARE(text(), QLatin1String(Five));
         m_fixture->redo();
         QCOMPARE(state(), QStringLiteral("[ 10, 14 ] 1-2 1"));
+    }
+
+    void shiftCountsOnlyWhileItIsHeldOnTheTable_data()
+    {
+        QTest::addColumn<Act>("act");
+        const auto row = [](const char* name, Act act) { QTest::newRow(name) << act; };
+        row("typed in a cell", [](TestRowTable& t) {
+            QTest::keyClick(t.table().type(3, 0, QString()), Qt::Key_A, Qt::ShiftModifier);
+        });
+        row("on the scale of a cell", [](TestRowTable& t) {
+            auto* const scale = t.table().open(3, 0)->findChild<QSlider*>();
+            scale->setFocus();
+            QTest::keyClick(scale, Qt::Key_Shift);
+        });
+        row("released in a cell", [](TestRowTable& t) {
+            QTest::keyPress(t.table().operator->(), Qt::Key_Shift);
+            QTest::keyRelease(t.table().type(3, 0, QString()), Qt::Key_Shift);
+        });
+        row("released in another widget", [](TestRowTable& t) {
+            QTest::keyPress(t.table().operator->(), Qt::Key_Shift);
+            t.box()->setFocus();
+            QTest::keyRelease(t.box(), Qt::Key_Shift);
+        });
+        row("released in another window", [](TestRowTable& t) {
+            QTest::keyPress(t.table().operator->(), Qt::Key_Shift);
+            inAnotherWindow(&t.m_fixture->shell().window());
+        });
+    }
+
+    void shiftCountsOnlyWhileItIsHeldOnTheTable()
+    {
+        QFETCH(Act, act);
+        table().click(0, 0);
+        table().click(3, 0);
+        act(*this);
+        QVERIFY(table()->selectionMode() != QAbstractItemView::ContiguousSelection);
+        clickButton("m_deleteButton");
+        QCOMPARE(state(), QStringLiteral("[ 10, 11, 12, 14 ] 1-4 1"));
+    }
+
+    void theAccessBoxKnowsTheLastRowIsGoneAtOnce()
+    {
+        show("[ 10 ]");
+        table().click(0, 0);
+        QTest::mouseClick(m_fixture->child<QWidget>("m_deleteButton"), Qt::LeftButton);
+        QCOMPARE(state(), QStringLiteral("[] 0-0 1"));
+        QTest::mouseClick(m_fixture->child<QWidget>("m_addButton"), Qt::LeftButton);
+        QCOMPARE(state(), QStringLiteral("[ 0 ] 1-1 2"));
     }
 
     void theAccessBoxJumps()

@@ -159,31 +159,40 @@ void WfMFieldTable::deleteRow()
 
 void WfMFieldTable::deleteRows(int firstRow, int count)
 {
+    // With the last row the box has nothing left to point at.
     AccessButtonPrivate* const box = m_widget->m_accessBox;
-    setAccessLimits(box->minimum(), box->maximum() - count);
+    const int maximum = box->maximum() - count;
+    setAccessLimits(qMin(box->minimum(), maximum), maximum);
     CrvServices::getInstance()->executeCommand(
         new CrvMFDeleteRowsCommand(field(), firstRow, count));
     model()->removeRows(firstRow, count, QModelIndex());
 }
 
+/// The parts of an open cell editor pass on the keys that they have no use for; those are not meant
+/// for the rows.
+bool WfMFieldTable::isKeyForRows() const
+{
+    const QWidget* const focus = QApplication::focusWidget();
+    return !focus || !viewport()->isAncestorOf(focus);
+}
+
 void WfMFieldTable::keyPressEvent(QKeyEvent* event)
 {
-    // The parts of an open cell editor pass on what they have no use for.
-    const QWidget* const focus = QApplication::focusWidget();
-    const bool isForTable = !focus || !viewport()->isAncestorOf(focus);
     switch (event->key()) {
     case Qt::Key_Plus:
-        if (isForTable)
+        if (isKeyForRows())
             addRow();
         break;
     case Qt::Key_Minus:
     case Qt::Key_Delete:
-        if (isForTable)
+        if (isKeyForRows())
             deleteRow();
         break;
     case Qt::Key_Shift:
-        setSelectionMode(QAbstractItemView::ContiguousSelection);
-        m_multiSelect = true;
+        if (isKeyForRows()) {
+            setSelectionMode(QAbstractItemView::ContiguousSelection);
+            m_multiSelect = true;
+        }
         break;
     default:
         QAbstractItemView::keyPressEvent(event);
@@ -194,13 +203,25 @@ void WfMFieldTable::keyPressEvent(QKeyEvent* event)
 
 void WfMFieldTable::keyReleaseEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Shift) {
-        setSelectionMode(QAbstractItemView::NoSelection);
-        m_multiSelect = false;
-    } else {
+    if (event->key() != Qt::Key_Shift)
         QWidget::keyReleaseEvent(event);
-    }
+    else if (isKeyForRows())
+        endMultiSelect();
     event->accept();
+}
+
+void WfMFieldTable::focusOutEvent(QFocusEvent* event)
+{
+    // Whoever has the focus next is told when Shift is released.
+    if (m_multiSelect)
+        endMultiSelect();
+    QTableWidget::focusOutEvent(event);
+}
+
+void WfMFieldTable::endMultiSelect()
+{
+    setSelectionMode(QAbstractItemView::NoSelection);
+    m_multiSelect = false;
 }
 
 void WfMFieldTable::commitData(QWidget* editor)

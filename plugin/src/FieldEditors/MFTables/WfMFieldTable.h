@@ -47,6 +47,7 @@ public Q_SLOTS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     /// An editor that a commit has taken out of the table already has nothing left to commit.
     void commitData(QWidget* editor) override;
     /// The same editor is closed by what follows its commit: a move to the next cell, for example.
@@ -54,10 +55,12 @@ protected:
 
     WfMFieldWidget* m_widget; // the owner, not owned
     WfMFieldTableItemDelegate* m_delegate; // child
-    bool m_multiSelect = false; // true while Shift is held
+    bool m_multiSelect = false; // true while Shift is held on the table
 
 private:
     KnMField* field() const;
+    bool isKeyForRows() const;
+    void endMultiSelect();
     bool prepareRowOperation();
     void moveRow(int row, int target);
     void setAccessLimits(int minimum, int maximum);
