@@ -18,6 +18,10 @@ public:
         select(&shown);
         return shown;
     }
+    KnField& show(const QString& type, const QString& values)
+    {
+        return show(type.toLatin1().constData(), values.toLatin1().constData());
+    }
     TableInput table() const { return TableInput(*this); }
     int commands() const { return undoStack().count(); }
 

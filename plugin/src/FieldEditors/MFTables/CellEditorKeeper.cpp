@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CellEditorKeeper.h"
 
+#include "KnMField.h"
 #include "WfMFieldTable.h"
 #include "WfMFieldWidget.h"
 #include "WfSlider.h"
@@ -8,14 +9,15 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QSignalBlocker>
 #include <QSlider>
 
 namespace {
 
-bool hasFocusInside(const QWidget* editor)
+bool isInside(const QWidget* editor, const QWidget* widget)
 {
-    const QWidget* const focus = QApplication::focusWidget();
-    return focus && (focus == editor || editor->isAncestorOf(focus));
+    return widget && (widget == editor || editor->isAncestorOf(widget));
 }
 
 /// Nothing that happens to the slider from now on reaches its owner.
@@ -77,7 +79,10 @@ void CellEditorKeeper::editorOpened(QWidget* editor, const QModelIndex& index)
 {
     m_editor = editor;
     m_index = index;
-    m_text = cellText();
+    look();
+    disconnect(m_focusChanges);
+    m_focusChanges = connect(qApp, &QApplication::focusChanged, this,
+        [this](QWidget*, QWidget* now) { focusMoved(now); });
     if (qobject_cast<WfSlider*>(editor)) {
         for (QWidget* part : editor->findChildren<QWidget*>())
             part->installEventFilter(this);
@@ -86,13 +91,19 @@ void CellEditorKeeper::editorOpened(QWidget* editor, const QModelIndex& index)
 
 void CellEditorKeeper::takeOut(QWidget* editor, const QModelIndex& index)
 {
-    // Else Qt would pass the focus on to whatever comes next in the window.
-    if (hasFocusInside(editor))
-        m_table->setFocus();
+    letGo(editor);
+    takeFocusFrom(editor);
     m_table->removeCellWidget(index.row(), index.column());
     editor->hide();
     // It is deleted later, when another editor may be open, whose state isn't to be touched.
     disconnect(editor, &QObject::destroyed, m_table, nullptr);
+}
+
+/// Else Qt would pass the focus on to whatever comes next, with a move to another cell maybe.
+void CellEditorKeeper::takeFocusFrom(const QWidget* editor)
+{
+    if (isInside(editor, QApplication::focusWidget()))
+        m_table->setFocus();
 }
 
 QWidget* CellEditorKeeper::openEditor() const
@@ -101,18 +112,21 @@ QWidget* CellEditorKeeper::openEditor() const
     return m_editor && !m_editor->isHidden() ? m_editor.data() : nullptr;
 }
 
-QString CellEditorKeeper::cellText() const
+void CellEditorKeeper::letGo(const QWidget* editor)
 {
-    return m_widget->getCellText(m_index.row(), m_index.column());
+    if (editor != m_editor)
+        return;
+    // Closing moves the focus, which would ask for the end again.
+    m_editor = nullptr;
+    disconnect(m_focusChanges);
 }
 
 void CellEditorKeeper::end(QAbstractItemDelegate::EndEditHint hint)
 {
-    QWidget* const editor = openEditor();
-    if (!editor)
+    if (!follow())
         return;
-    // Closing moves the focus, which asks for the end again.
-    m_editor = nullptr;
+    QWidget* const editor = m_editor;
+    letGo(editor);
     if (auto* const slider = qobject_cast<WfSlider*>(editor))
         finish(slider);
     QAbstractItemDelegate* const delegate = m_table->itemDelegate();
@@ -120,14 +134,24 @@ void CellEditorKeeper::end(QAbstractItemDelegate::EndEditHint hint)
     Q_EMIT delegate->closeEditor(editor, hint);
 }
 
+void CellEditorKeeper::close()
+{
+    QWidget* const editor = openEditor();
+    if (editor && isBusy(editor))
+        end(QAbstractItemDelegate::NoHint);
+    else
+        drop();
+}
+
 void CellEditorKeeper::drop()
 {
     QWidget* const editor = openEditor();
     if (!editor)
         return;
-    m_editor = nullptr;
+    letGo(editor);
     if (const auto* const slider = qobject_cast<WfSlider*>(editor))
         silence(slider);
+    takeFocusFrom(editor);
     Q_EMIT m_table->itemDelegate()->closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
 }
 
@@ -137,27 +161,48 @@ void CellEditorKeeper::limitRows(int count)
         drop();
 }
 
-void CellEditorKeeper::fieldChanged(bool countChanged)
+QString CellEditorKeeper::cellText() const
+{
+    return m_widget->getCellText(m_index.row(), m_index.column());
+}
+
+/// Takes note of the cell and of the rows that tell where it is.
+void CellEditorKeeper::look()
+{
+    m_text = cellText();
+    if (const KnMField* const field = m_table->field())
+        m_rows.look(*field);
+}
+
+void CellEditorKeeper::cellWritten()
+{
+    if (openEditor())
+        look();
+}
+
+bool CellEditorKeeper::follow()
 {
     QWidget* const editor = openEditor();
-    if (!editor)
-        return;
-    const QString text = cellText();
-    if (text == m_text)
-        return;
-    m_text = text;
-    if (countChanged) {
+    const KnMField* const field = m_table->field();
+    if (!editor || !field)
+        return false;
+    const bool isSameCount = field->getNum() == m_rows.count();
+    const bool isSameValue = isSameCount && cellText() == m_text;
+    const bool isPlaceInDoubt = !isSameCount || (!isSameValue && isBusy(editor));
+    if (isPlaceInDoubt && !m_rows.isSamePlace(*field, m_index.row())) {
         drop();
-        return;
+        return false;
     }
-    if (isBusy(editor))
-        return;
+    look();
+    if (isSameValue || isBusy(editor))
+        return true;
     QLineEdit* const line = lineOf(editor);
     const bool wasSelected = line && line->hasSelectedText();
     m_table->itemDelegate()->setEditorData(editor, m_index);
     // As when it was opened, so that typing replaces it.
     if (wasSelected)
         line->selectAll();
+    return true;
 }
 
 bool CellEditorKeeper::eventFilter(QObject* watched, QEvent* event)
@@ -165,10 +210,9 @@ bool CellEditorKeeper::eventFilter(QObject* watched, QEvent* event)
     if (watched == m_table) {
         // Another field is being selected, or the panel leaves the screen.
         if (event->type() == QEvent::Hide)
-            commit();
+            close();
         return false;
     }
-    auto* const part = static_cast<QWidget*>(watched);
     switch (event->type()) {
     case QEvent::ShortcutOverride:
         if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
@@ -176,11 +220,20 @@ bool CellEditorKeeper::eventFilter(QObject* watched, QEvent* event)
         event->accept();
         return true;
     case QEvent::KeyPress:
-        return filterKey(part, *static_cast<QKeyEvent*>(event));
-    case QEvent::FocusOut:
-        if (auto* const slider = qobject_cast<WfSlider*>(part->parentWidget()))
-            focusLeft(slider);
-        return false;
+        return filterKey(static_cast<QWidget*>(watched), *static_cast<QKeyEvent*>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Wheel:
+        // The slider writes by itself.
+        return openEditor() && !follow();
+    case QEvent::FocusOut: {
+        // A line says that editing is finished whenever another window comes to the front; whether
+        // it is, the new focus tells.
+        const QSignalBlocker blocker(watched);
+        watched->event(event);
+        return true;
+    }
     default:
         return false;
     }
@@ -203,20 +256,41 @@ bool CellEditorKeeper::filterKey(const QWidget* part, const QKeyEvent& event)
         const auto* const line = qobject_cast<const QLineEdit*>(part);
         if (line && !line->hasAcceptableInput())
             return false;
-        // The line comes first: Return is its own signal.
+        if (!follow())
+            return true;
+        if (!line) {
+            end(QAbstractItemDelegate::SubmitModelCache);
+            return true;
+        }
+        // The line comes first: its signals write what was typed.
         QMetaObject::invokeMethod(
-            this, [this] { end(QAbstractItemDelegate::SubmitModelCache); }, Qt::QueuedConnection);
-        return line == nullptr;
+            this, [this, editor = m_editor] { endAfterReturn(editor); }, Qt::QueuedConnection);
+        return false;
     }
     default:
-        return false;
+        return openEditor() && !follow();
     }
 }
 
-void CellEditorKeeper::focusLeft(WfSlider* slider)
+void CellEditorKeeper::endAfterReturn(const QWidget* editor)
 {
-    if (!hasFocusInside(slider))
-        commit();
-    else if (slider->isModified())
+    if (!editor || editor != openEditor())
+        return;
+    // So that it isn't written once more.
+    lineOf(m_editor)->setModified(false);
+    end(QAbstractItemDelegate::SubmitModelCache);
+}
+
+void CellEditorKeeper::focusMoved(const QWidget* now)
+{
+    const QWidget* const editor = openEditor();
+    if (!editor || !now || now->window() != editor->window() || qobject_cast<const QMenuBar*>(now))
+        return;
+    if (!isInside(editor, now)) {
+        end(QAbstractItemDelegate::NoHint);
+        return;
+    }
+    auto* const slider = qobject_cast<WfSlider*>(m_editor);
+    if (slider && slider->isModified() && now != slider->m_lineEdit && follow())
         takeTyped(slider);
 }

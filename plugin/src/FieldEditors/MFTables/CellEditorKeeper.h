@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "SeenRows.h"
+
 #include <QAbstractItemDelegate>
 #include <QPersistentModelIndex>
 #include <QPointer>
@@ -12,6 +14,9 @@ class WfSlider;
 /// Looks after the one cell editor that a table may have open, from its opening to its end. A
 /// slider is made of several widgets, so that the view can't tell by itself when a person leaves
 /// it; and no editor may outlive its row, its table on the screen or the field it was opened for.
+///
+/// A person leaves an editor when the focus goes to another widget of its window. A menu or another
+/// window that comes to the front ends no edit: the focus comes back from there.
 class CellEditorKeeper : public QObject {
     Q_OBJECT
 public:
@@ -25,24 +30,35 @@ public:
 
     /// The editor that is open; null if none.
     QWidget* openEditor() const;
-    /// Writes what the open editor holds and closes it; does nothing when none is open.
-    void commit() { end(QAbstractItemDelegate::NoHint); }
+    /// Closes the open editor, for a reason that isn't the person's wish to end the edit: what was
+    /// typed is written, and an editor that nobody touched just goes. Does nothing when none is
+    /// open.
+    void close();
     /// Closes the open editor without a write.
     void drop();
+    /// The view closes `editor` by itself.
+    void letGo(const QWidget* editor);
     /// The table has this many rows from now on: an editor in a later row goes.
     void limitRows(int count);
-    /// The field has changed. An editor that a person isn't busy with shows the new value. When the
-    /// count has changed and the cell holds another value than before, rows have moved below the
-    /// editor: what it holds belongs to another row, and it goes.
-    void fieldChanged(bool countChanged);
+    /// Brings the open editor in line with the field, which may have changed from outside; before a
+    /// write too, since the refresh comes later than the change. An editor that nobody is busy with
+    /// shows the new value, and what is being typed stays, as long as it is meant for the row that
+    /// stands there now. Where rows may have moved below the editor it goes. False when none is
+    /// open, or none any more.
+    bool follow();
+    /// The open editor has written its cell itself.
+    void cellWritten();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void takeFocusFrom(const QWidget* editor);
     QString cellText() const;
+    void look();
     bool filterKey(const QWidget* part, const QKeyEvent& event);
-    void focusLeft(WfSlider* slider);
+    void endAfterReturn(const QWidget* editor);
+    void focusMoved(const QWidget* now);
     void end(QAbstractItemDelegate::EndEditHint hint);
 
     WfMFieldWidget* m_widget; // not owned
@@ -50,4 +66,6 @@ private:
     QPointer<QWidget> m_editor; // child of the table's viewport
     QPersistentModelIndex m_index; // of the editor's cell
     QString m_text; // of the cell when it was last seen
+    SeenRows m_rows; // of the field, at that time
+    QMetaObject::Connection m_focusChanges; // while an editor is open
 };

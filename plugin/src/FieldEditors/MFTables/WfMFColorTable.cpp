@@ -4,7 +4,9 @@
 #include "ColorChannels.h"
 #include "EditorKind.h"
 #include "KbVec.h"
+#include "KnMField.h"
 #include "RowColor.h"
+#include "SeenRows.h"
 #include "WfMFColorTableItemDelegate.h"
 #include "WfMFieldWidget.h"
 
@@ -24,11 +26,12 @@ WfMFColorTable::WfMFColorTable(WfMFieldWidget* widget, QWidget* parent, const ch
 
 void WfMFColorTable::getColorFromEditor(int row, int col)
 {
-    if (col != 0)
+    if (col != 0 || !field())
         return;
     const RowColor before = rowColor(*m_widget, row);
     const KnTypedObject* const object = m_widget->getEditedObject();
-    const int rows = rowCount();
+    SeenRows rows;
+    rows.look(*field());
     QColorDialog::ColorDialogOptions options;
     options.setFlag(QColorDialog::ShowAlphaChannel, before.hasAlpha);
     const QColor chosen
@@ -37,8 +40,10 @@ void WfMFColorTable::getColorFromEditor(int row, int col)
         return;
     // The program runs on behind the dialog. A colour that was chosen for one row must reach
     // neither another field nor another row that has moved to its place.
-    const bool isSameRow = rowCount() == rows || rowColor(*m_widget, row) == before;
-    if (m_widget->getEditedObject() != object || !isSameRow)
+    if (m_widget->getEditedObject() != object)
+        return;
+    const bool isSameRow = field()->getNum() == rows.count() && rowColor(*m_widget, row) == before;
+    if (!isSameRow && !rows.isSamePlace(*field(), row))
         return;
     KbVec4f color;
     colorChannels(chosen, &color[0], KbVec4f::dimension);

@@ -61,13 +61,12 @@ void WfMFieldTable::setNumRows(int row)
 {
     if (row < 0)
         return;
-    const bool countChanges = row != rowCount();
     setAccessLimits(row != 0 ? 1 : 0, row);
-    if (countChanges) {
+    m_editorKeeper->follow();
+    if (row != rowCount()) {
         m_editorKeeper->limitRows(row);
         setRowCount(row);
     }
-    m_editorKeeper->fieldChanged(countChanges);
 }
 
 void WfMFieldTable::showTableRow(int value)
@@ -86,7 +85,7 @@ bool WfMFieldTable::prepareRowOperation()
 {
     if (!field())
         return false;
-    m_editorKeeper->commit();
+    m_editorKeeper->close();
     if (field()->getNum() != rowCount())
         setNumRows(field()->getNum());
     return true;
@@ -226,12 +225,17 @@ void WfMFieldTable::endMultiSelect()
 
 void WfMFieldTable::commitData(QWidget* editor)
 {
-    if (editor && !editor->isHidden())
-        QAbstractItemView::commitData(editor);
+    if (!editor || editor->isHidden())
+        return;
+    // What the keeper itself ends it has looked at.
+    if (editor == m_editorKeeper->openEditor() && !m_editorKeeper->follow())
+        return;
+    QAbstractItemView::commitData(editor);
 }
 
 void WfMFieldTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
+    m_editorKeeper->letGo(editor);
     const bool isTakenOut = editor && editor->isHidden();
     if (isTakenOut && !m_editorKeeper->openEditor())
         setState(NoState);

@@ -28,6 +28,8 @@ public:
 
     /// What looks after the cell editor that is open.
     CellEditorKeeper& editorKeeper() const { return *m_editorKeeper; }
+    /// The edited field; null before the first.
+    KnMField* field() const;
 
 public Q_SLOTS:
     /// Takes the field's value count; a negative one is ignored. This is all of a refresh but the
@@ -48,7 +50,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    /// An editor that a commit has taken out of the table already has nothing left to commit.
+    /// An editor that a commit has taken out of the table already has nothing left to commit, and
+    /// one whose row may have moved must not.
     void commitData(QWidget* editor) override;
     /// The same editor is closed by what follows its commit: a move to the next cell, for example.
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
@@ -58,7 +61,6 @@ protected:
     bool m_multiSelect = false; // true while Shift is held on the table
 
 private:
-    KnMField* field() const;
     bool isKeyForRows() const;
     void endMultiSelect();
     bool prepareRowOperation();

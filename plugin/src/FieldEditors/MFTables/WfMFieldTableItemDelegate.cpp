@@ -13,6 +13,7 @@
 #include "WfUIntSlider.h"
 
 #include <QDoubleValidator>
+#include <QEvent>
 #include <QIntValidator>
 #include <QLineEdit>
 #include <QPainter>
@@ -212,6 +213,11 @@ void WfMFieldTableItemDelegate::setModelData(
     if (isAcceptable(line))
         m_widget->setFieldValue(index.row(), index.column(), text);
     model->setData(index, text, Qt::DisplayRole);
+}
+
+bool WfMFieldTableItemDelegate::eventFilter(QObject* editor, QEvent* event)
+{
+    return event->type() != QEvent::FocusOut && QItemDelegate::eventFilter(editor, event);
 }
 
 void WfMFieldTableItemDelegate::updateEditorGeometry(

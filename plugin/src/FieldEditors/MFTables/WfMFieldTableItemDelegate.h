@@ -40,6 +40,8 @@ public:
     void setBounded(bool bounded) { m_bounded = bounded; }
 
 protected:
+    /// The keeper of the editors judges when the focus has left one.
+    bool eventFilter(QObject* editor, QEvent* event) override;
     WfMFieldTable* table() const { return m_table; }
     /// Whether a line edit's text may be written: it has no validator, or one that accepts it.
     static bool isAcceptable(const QLineEdit* editor);

@@ -4,8 +4,9 @@
 #include "CrvMFSetFieldValueCommand.h"
 #include "WfMFVectorWidget.h"
 
-/// What both editors of arrays of colours share: in front of the components, which are those of the
-/// vector editor `Vector`, stands a column that shows each colour. `Traits` has
+/// What both editors of arrays of colours share; it stands between them and their vector editors,
+/// so that neither repeats the other. In front of the components, which are those of the vector
+/// editor `Vector`, stands a column that shows each colour. `Traits` has
 ///   `Field`: the field class,
 ///   `typeName`, `className`: label and extension name, and the default object name,
 ///   `channels`: one letter a component.
@@ -53,7 +54,8 @@ public:
         if (!(double(value) >= 0.0 && double(value) <= 1.0))
             return;
         // A cell is also written when it is left as it was opened, where it holds six digits of
-        // the component: that must not cost the other ones.
+        // the component: that must not cost the other ones. So whoever types these six digits
+        // keeps the component as it is.
         if (this->hasCell(row, col)
             && componentNumber<float>(Vector::getCellText(row, col)) == value)
             value = this->component(row, col);

@@ -10,7 +10,8 @@
 #include "WfMFieldWidget.h"
 
 /// What all editors of arrays share whose values are a few numbers each: one row a value, one
-/// column a component. `Self` is the editor's class. `Traits` has
+/// column a component. It stands between them and WfMFieldWidget. `Self` is the editor's class.
+/// `Traits` has
 ///   `Field`: the field class,
 ///   `typeName`, `className`: label and extension name, and the default object name,
 ///   `editorKind`: of the table's cells,

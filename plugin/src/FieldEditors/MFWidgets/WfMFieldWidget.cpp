@@ -193,7 +193,13 @@ void WfMFieldWidget::updateFromField()
     updateElementCount();
 }
 
-void WfMFieldWidget::setFieldUpdateEnabled(bool enabled) { m_updateEnabled = enabled; }
+void WfMFieldWidget::setFieldUpdateEnabled(bool enabled)
+{
+    m_updateEnabled = enabled;
+    // This is how a slider in a cell frames its own write.
+    if (enabled)
+        m_table->editorKeeper().cellWritten();
+}
 
 void WfMFieldWidget::swapFieldValues(int, int) { }
 
