@@ -507,36 +507,6 @@ private Q_SLOTS:
         probe.deactivate();
     }
 
-    void kindsFixTheEditor()
-    {
-        // A text that a line takes, and one that it refuses, by kind.
-        const char* const texts[][2] = { { "anything", "" }, { "-32767", "-32768" },
-            { "65535", "-1" }, { "2147483647", "2147483648" }, { "4294967295", "4294967296" },
-            { "-2147483647", "-2147483648" }, { "4294967295", "4294967296" }, { "3.4e38", "0,5" },
-            { "1.7e308", "0,5" } };
-        ProbeEditor probe;
-        probe.table()->setRowCount(1);
-        const auto makeEditor = [&probe](int columns) {
-            probe.table()->setColumnCount(columns);
-            return std::unique_ptr<QWidget>(probe.table()->itemDelegate()->createEditor(
-                nullptr, QStyleOptionViewItem(), probe.table()->model()->index(0, 0)));
-        };
-        QString sliders;
-        QString taken;
-        for (int kind = 0; kind < 9; ++kind) {
-            probe.table()->setEditorKind(kind);
-            if (qobject_cast<WfSlider*>(makeEditor(1).get()))
-                sliders += QString::number(kind);
-            const auto editor = makeEditor(2);
-            QLineEdit* const line = TableInput::line(editor.get());
-            for (const char* text : texts[kind]) {
-                line->setText(QLatin1String(text));
-                taken += line->hasAcceptableInput() ? u'+' : u'-';
-            }
-        }
-        QCOMPARE(sliders + taken, QStringLiteral("12567++") + QStringLiteral("+-").repeated(8));
-    }
-
 private:
     std::optional<ArrayFixture> m_fixture;
 };

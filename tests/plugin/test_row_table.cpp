@@ -2,12 +2,21 @@
 #include "ArrayFixture.h"
 #include "WindowInput.h"
 
+#include "LayoutMetrics.h"
+
+#include <QDockWidget>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMainWindow>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QSlider>
 #include <QSpinBox>
+#include <QTemporaryFile>
 
+#include <cstdio>
 #include <optional>
+#include <unistd.h>
 
 namespace {
 
@@ -30,8 +39,10 @@ private Q_SLOTS:
     }
     void cleanup() { m_fixture.reset(); }
 
-    void rowsAreAddedDeletedAndMoved()
+    void rowsAreAddedDeletedAndMoved_data()
     {
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("end");
         const char* const rows[][3] = {
             { "[]", "duvxr", "[] 0-0 0" },
             { "[]", "a", "[ 0 ] 1-1 1" },
@@ -55,14 +66,73 @@ private Q_SLOTS:
             { Five, "E!dz", "[ 10, 11 ] 1-2 1" },
             { Five, "E!uv", "[ 10, 11 ] 1-2 0" },
         };
-        for (const auto& [start, steps, end] : rows) {
-            m_fixture.emplace();
-            m_field = &m_fixture->node().MFInt32;
-            show(start);
-            for (const char* step = steps; *step; ++step)
-                take(*step);
-            QCOMPARE(QLatin1String(steps) + state(), QLatin1String(steps) + QLatin1String(end));
-        }
+        for (const auto& [start, steps, end] : rows)
+            QTest::addRow("%s %s", start, steps) << start << end;
+    }
+
+    void rowsAreAddedDeletedAndMoved()
+    {
+        QFETCH(QString, start);
+        QFETCH(QString, end);
+        m_fixture->show(QStringLiteral("MFInt32"), start);
+        const QByteArray steps = QByteArray(QTest::currentDataTag()).split(' ').last();
+        for (const char step : steps)
+            take(step);
+        QCOMPARE(state(), end);
+    }
+
+    void thePanelTellsWhatTheTableShows()
+    {
+        const auto* const count = m_fixture->child<QLabel>("m_labelNumElement");
+        const auto* const ignore = m_fixture->child<QAbstractButton>("m_ignoreButton");
+        QCOMPARE(count->text(), QStringLiteral("<p align=\"center\">5 elements</p>"));
+        QCOMPARE(table()->minimumHeight(), layoutMetric(QStringLiteral("MFTableMinHeightWin")));
+        QCOMPARE(table()->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+        QCOMPARE(table()->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+        // While a cell writes nothing is refreshed.
+        m_fixture->editor()->setFieldUpdateEnabled(false);
+        m_field->setIgnored(true);
+        EditorFixture::write(m_field, "[]");
+        QVERIFY(!ignore->isChecked());
+        QCOMPARE(table()->rowCount(), 5);
+        QCOMPARE(count->text(), QStringLiteral("<p align=\"center\">5 elements</p>"));
+        m_fixture->editor()->setFieldUpdateEnabled(true);
+        m_fixture->editor()->updateFromField();
+        QVERIFY(ignore->isChecked());
+        QCOMPARE(count->text(), QStringLiteral("<p align=\"center\">0 elements</p>"));
+        QCOMPARE(state(), QStringLiteral("[] 0-0 0"));
+        for (const char* button : { "m_addButton", "m_deleteButton", "m_upButton", "m_downButton" })
+            QVERIFY(m_fixture->child<QWidget>(button)->isEnabled());
+    }
+
+    void addingTellsTheCurrentCell()
+    {
+        QSignalSpy told(table().operator->(), &QTableWidget::currentCellChanged);
+        clickButton("m_addButton");
+        QCOMPARE(told.last(), QVariantList({ 0, 0, 0, 0 }));
+        table().click(3, 0);
+        clickButton("m_addButton");
+        QCOMPARE(told.last(), QVariantList({ 3, 0, 4, 0 }));
+    }
+
+    void movesAreToldOnStandardError()
+    {
+        std::fflush(stderr);
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        const int before = ::dup(STDERR_FILENO);
+        ::dup2(file.handle(), STDERR_FILENO);
+        // From the first row up, from the last one down, and what does move.
+        for (const char step : QByteArray("AuEvBuAv"))
+            take(step);
+        std::fflush(stderr);
+        ::dup2(before, STDERR_FILENO);
+        ::close(before);
+        file.seek(0);
+        QCOMPARE(file.readAll(),
+            QByteArray("WfMFieldTable::swapUpRow() 0\nWfMFieldTable::swapDownRow() 4\n"
+                       "WfMFieldTable::swapUpRow() 1\nWfMFieldTable::swapDownRow() 0\n"));
+        QCOMPARE(state(), QStringLiteral("[ 10, 11, 12, 13, 14 ] 1-5 2"));
     }
 
     void shiftDeletesTheSelectedRows()
@@ -195,11 +265,25 @@ private Q_SLOTS:
 
     void theColumnsShareTheWidthUntilOneIsSized()
     {
-        QCOMPARE(table()->columnWidth(0), table()->viewport()->width());
-        table()->setColumnWidth(0, 40);
-        m_fixture->shell().window().resize(900, 600);
-        EditorFixture::settle();
-        QCOMPARE(table()->columnWidth(0), 40);
+        m_fixture->show("MFVec3f", "[ 1 2 3 ]");
+        const auto widths = [this] {
+            return QList<int>(
+                { table()->columnWidth(0), table()->columnWidth(1), table()->columnWidth(2) });
+        };
+        QCOMPARE(widths(), QList<int>(3, table()->viewport()->width() / 3));
+        QVERIFY(widenDock());
+        const int before = table()->viewport()->width();
+        QCOMPARE(widths(), QList<int>(3, before / 3));
+        // By the edge between two headers.
+        QWidget* const header = table()->horizontalHeader()->viewport();
+        const QPoint edge(before / 3 - 1, header->height() / 2);
+        QTest::mousePress(header, Qt::LeftButton, {}, edge);
+        QTest::mouseMove(header, edge - QPoint(20, 0));
+        QTest::mouseRelease(header, Qt::LeftButton, {}, edge - QPoint(20, 0));
+        const QList<int> sized = widths();
+        QVERIFY(sized[0] < before / 3);
+        QVERIFY(widenDock());
+        QCOMPARE(widths(), sized);
     }
 
 private:
@@ -217,6 +301,20 @@ private:
         return QStringLiteral("%1 %2-%3 %4")
             .arg(text(), QString::number(box()->minimum()), QString::number(box()->maximum()))
             .arg(stack().count());
+    }
+    /// False if that gives the table no more room.
+    bool widenDock()
+    {
+        const int before = table()->viewport()->width();
+        QMainWindow& window = m_fixture->shell().window();
+        QWidget* dock = table().operator->();
+        while (!qobject_cast<QDockWidget*>(dock))
+            dock = dock->parentWidget();
+        window.resize(window.width() + 200, window.height());
+        window.resizeDocks(
+            { qobject_cast<QDockWidget*>(dock) }, { dock->width() + 150 }, Qt::Horizontal);
+        EditorFixture::settle();
+        return table()->viewport()->width() > before;
     }
     void clickButton(const char* name) { m_fixture->clickButton(name); }
     /// A digit clicks a row, a capital goes to one with the access box, and the others stand for
