@@ -21,8 +21,11 @@ int tenACharacter(const QString& text)
 class TestCellText : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void cut()
+    void cut_data()
     {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("available");
+        QTest::addColumn<QString>("shown");
         const struct {
             QString text;
             int available;
@@ -46,7 +49,15 @@ private Q_SLOTS:
             { u"\u05E9\u05DC\u05D5\u05DD\u05E9\u05DC"_s, 55, u"\u05E9\u05DC..."_s },
         };
         for (const auto& [text, available, shown] : rows)
-            QCOMPARE(cellText(text, available, tenACharacter), shown);
+            QTest::addRow("%s, %d", qPrintable(text), available) << text << available << shown;
+    }
+
+    void cut()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, available);
+        QFETCH(QString, shown);
+        QCOMPARE(cellText(text, available, tenACharacter), shown);
     }
 
     void aVeryLongTextIsNotMeasured()

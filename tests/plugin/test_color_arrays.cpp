@@ -29,71 +29,102 @@ private Q_SLOTS:
     static void initMain() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init() { failOnWarnings(); }
 
+    void theSwatchShowsTheColor_data()
+    {
+        QTest::addColumn<QString>("values");
+        QTest::addColumn<QString>("color");
+        const auto row = [](const char* type, const char* values, const char* color) {
+            QTest::addRow("%s %s", type, values) << values << color;
+        };
+        row("MFColor", "[ 1 0.5 0 ]", "#ff7f00");
+        row("MFColor", "[ -0.003 1 0 ]", "#00ff00");
+        row("MFColor", "[ 1.01 0 0 ]", "blank");
+        row("MFColor", "[ 0 nan 0 ]", "blank");
+        row("MFColorRGBA", "[ 1 0.5 0 1 ]", "#ff7f00");
+        row("MFColorRGBA", "[ 1 0.5 0 0 ]", "blank");
+        row("MFColorRGBA", "[ 1 0.5 0 1.01 ]", "blank");
+    }
+
     void theSwatchShowsTheColor()
     {
+        QFETCH(QString, values);
+        QFETCH(QString, color);
         ArrayFixture fixture;
-        const auto swatches = [&fixture](const char* type, const char* text, int rows) {
-            fixture.show(type, text);
-            const QString blank = fixture.table()->palette().base().color().name();
-            QStringList names;
-            for (int row = 0; row < rows; ++row)
-                names << swatch(fixture.table(), row).name();
-            return names.replaceInStrings(blank, QStringLiteral("blank")).join(u' ');
-        };
-        QCOMPARE(swatches("MFColor", "[ 1 0.5 0, -0.003 1 0, 1.01 0 0, 0 nan 0 ]", 4),
-            QStringLiteral("#ff7f00 #00ff00 blank blank"));
-        QCOMPARE(swatches("MFColorRGBA", "[ 1 0.5 0 1, 1 0.5 0 0, 1 0.5 0 1.01 ]", 3),
-            QStringLiteral("#ff7f00 blank blank"));
+        fixture.show(QString::fromLatin1(QTest::currentDataTag()).section(u' ', 0, 0), values);
+        const QString blank = fixture.table()->palette().base().color().name();
+        QCOMPARE(swatch(fixture.table(), 0).name().replace(blank, QStringLiteral("blank")), color);
+    }
+
+    void oneClickOpensTheDialog_data()
+    {
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("edited");
+        QTest::newRow("MFColor") << "[ 0 0 0, 1 0.5 0, 1 1 1 ]"
+                                 << "[ 0 0 0, 0.2 0 1, 1 1 1 ]";
+        QTest::newRow("MFColorRGBA") << "[ 0 0 0 0, 1 0.5 0 1, 1 1 1 1 ]"
+                                     << "[ 0 0 0 0, 0.2 0 1 0.2, 1 1 1 1 ]";
     }
 
     void oneClickOpensTheDialog()
     {
+        QFETCH(QString, start);
+        QFETCH(QString, edited);
+        const QLatin1String type(QTest::currentDataTag());
         ArrayFixture fixture;
-        const char* const rows[][3] = {
-            { "MFColor", "[ 0 0 0, 1 0.5 0, 1 1 1 ]", "[ 0 0 0, 0.2 0 1, 1 1 1 ]" },
-            { "MFColorRGBA", "[ 0 0 0 0, 1 0.5 0 1, 1 1 1 1 ]",
-                "[ 0 0 0 0, 0.2 0 1 0.2, 1 1 1 1 ]" },
-        };
-        for (const auto& [type, start, edited] : rows) {
-            const KnField& field = fixture.show(type, start);
-            fixture.table()->setCurrentCell(2, 2);
-            const bool hasAlpha = qstrcmp(type, "MFColorRGBA") == 0;
-            QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
-                QCOMPARE(dialog->windowTitle(), QStringLiteral("color dialog"));
-                QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), hasAlpha);
-                QCOMPARE(dialog->currentColor(), QColor(255, 127, 0));
-                dialog->setCurrentColor(QColor(51, 0, 255, 51));
-                QTest::keyClick(dialog, Qt::Key_Return);
-            }));
-            QCOMPARE(EditorFixture::text(&field), QLatin1String(edited));
-            QVERIFY(swatch(fixture.table(), 1) != QColor(255, 127, 0));
-            QCOMPARE(fixture.commands(), 1);
-            fixture.undo();
-            QCOMPARE(EditorFixture::text(&field), QLatin1String(start));
-        }
+        const KnField& field = fixture.show(type, start);
+        fixture.table()->setCurrentCell(2, 2);
+        QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
+            QCOMPARE(dialog->windowTitle(), QStringLiteral("color dialog"));
+            QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), type.endsWith(u'A'));
+            QCOMPARE(dialog->currentColor(), QColor(255, 127, 0));
+            dialog->setCurrentColor(QColor(51, 0, 255, 51));
+            QTest::keyClick(dialog, Qt::Key_Return);
+        }));
+        QCOMPARE(EditorFixture::text(&field), edited);
+        QVERIFY(swatch(fixture.table(), 1) != QColor(255, 127, 0));
+        QCOMPARE(fixture.commands(), 1);
+        fixture.undo();
+        QCOMPARE(EditorFixture::text(&field), start);
     }
 
-    void aColorReachesNoOtherRow()
+    void aColorReachesItsRowOrNone_data()
     {
+        // What another part of the program does behind the dialog.
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("outside");
+        QTest::addColumn<QString>("end"); // of a green one for the second row
+        const auto row = [](const char* name, const char* start, const char* outside,
+                             const char* end) { QTest::newRow(name) << start << outside << end; };
+        row("another field", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 0 0 ]");
+        row("gone", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0 ]", "[ 0 0 0 ]");
+        row("added above", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 0 0 1, 1 0 0 ]",
+            "[ 0 0 0, 0 0 1, 1 0 0 ]");
+        row("added above equal ones", "[ 1 0 0, 1 0 0 ]", "[ 0 0 1, 1 0 0, 1 0 0 ]",
+            "[ 0 0 1, 1 0 0, 1 0 0 ]");
+        row("one gone, one come", "[ 0 0 0, 1 0 0 ]", "[ 1 0 0, 0 0 1 ]", "[ 1 0 0, 0 0 1 ]");
+        row("written in place", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 1 0 ]", "[ 0 0 0, 0 1 0 ]");
+        row("others written", "[ 0 0 0, 1 0 0 ]", "[ 0 0 1, 1 0 0 ]", "[ 0 0 1, 0 1 0 ]");
+    }
+
+    void aColorReachesItsRowOrNone()
+    {
+        QFETCH(QString, start);
+        QFETCH(QString, outside);
+        QFETCH(QString, end);
         ArrayFixture fixture;
         KnMFColor& other = fixture.otherNode().MFColor;
         other.setNum(2);
-        // What another part of the program does behind the dialog: it selects another field, takes
-        // the row away, or puts one in front of it.
-        const std::pair<bool, const char*> changes[] = { { true, "[ 0 0 0, 1 0 0 ]" },
-            { false, "[ 0 0 0 ]" }, { false, "[ 0 0 0, 0 0 1, 1 0 0 ]" } };
-        for (const auto& [selectsOther, text] : changes) {
-            KnField& field = fixture.show("MFColor", "[ 0 0 0, 1 0 0 ]");
-            QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
-                dialog->setCurrentColor(Qt::green);
-                EditorFixture::write(&field, text);
-                fixture.select(selectsOther ? &other : &field);
-                QTest::keyClick(dialog, Qt::Key_Return);
-            }));
-            QCOMPARE(EditorFixture::text(&field), QLatin1String(text));
-            QCOMPARE(EditorFixture::text(&other), QStringLiteral("[ 0 0 0, 0 0 0 ]"));
-            QCOMPARE(fixture.commands(), 0);
-        }
+        KnField& field = fixture.show(QStringLiteral("MFColor"), start);
+        QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
+            dialog->setCurrentColor(Qt::green);
+            EditorFixture::write(&field, outside.toLatin1().constData());
+            if (start == outside)
+                fixture.select(&other);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        }));
+        QCOMPARE(EditorFixture::text(&field), end);
+        QCOMPARE(EditorFixture::text(&other), QStringLiteral("[ 0 0 0, 0 0 0 ]"));
+        QCOMPARE(fixture.commands(), outside == end ? 0 : 1);
     }
 
     void theSwatchIsNoCellToTypeIn()

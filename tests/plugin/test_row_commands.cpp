@@ -63,48 +63,63 @@ Command randomEdit(KnMFDouble& field, QRandomGenerator& random)
 class TestRowCommands : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void setValueTakesTheOldText_data()
+    {
+        QTest::addColumn<KbString>("oldValue");
+        QTest::addColumn<QString>("afterUndo");
+        QTest::newRow("null reads the row") << KbString() << "[ 1, 2, 3 ]";
+        QTest::newRow("empty reads the row") << KbString("") << "[ 1, 2, 3 ]";
+        QTest::newRow("another text is used up") << KbString("7") << "[ 1, 7, 3 ]";
+    }
+
     void setValueTakesTheOldText()
     {
-        // Null and empty read the row, another text is used up.
-        const std::pair<KbString, const char*> rows[] = { { KbString(), "[ 1, 2, 3 ]" },
-            { KbString(""), "[ 1, 2, 3 ]" }, { KbString("7"), "[ 1, 7, 3 ]" } };
-        for (auto [oldValue, afterUndo] : rows) {
-            KnMFInt32 field;
-            field.set("[ 1, 2, 3 ]");
-            CrvMFSetValueCommand command(&field, 1, oldValue);
-            field.set1Value(1, 9);
-            command.execute();
-            command.undo();
-            QCOMPARE(textOf(field), QLatin1String(afterUndo));
-            QVERIFY(!(oldValue == KbString("7")));
-            command.redo();
-            QCOMPARE(textOf(field), QStringLiteral("[ 1, 9, 3 ]"));
-        }
+        QFETCH(KbString, oldValue);
+        QFETCH(QString, afterUndo);
+        KnMFInt32 field;
+        field.set("[ 1, 2, 3 ]");
+        CrvMFSetValueCommand command(&field, 1, oldValue);
+        field.set1Value(1, 9);
+        command.execute();
+        command.undo();
+        QCOMPARE(textOf(field), afterUndo);
+        QVERIFY(!(oldValue == KbString("7")));
+        command.redo();
+        QCOMPARE(textOf(field), QStringLiteral("[ 1, 9, 3 ]"));
+    }
+
+    void rowsGoAndComeBack_data()
+    {
+        QTest::addColumn<MakeCommand>("makeCommand");
+        QTest::addColumn<QString>("after");
+        const auto row = [](const char* name, const MakeCommand& command, const char* after) {
+            QTest::newRow(name) << command << after;
+        };
+        row("added behind", make<CrvMFAddRowsCommand>(3, 1), "[ \"a\", \"c\\n\\\"\", \"\", \"\" ]");
+        row("added above", make<CrvMFAddRowsCommand>(0, 2),
+            "[ \"\", \"\", \"a\", \"c\\n\\\"\", \"\" ]");
+        row("first deleted", make<CrvMFDeleteRowsCommand>(0, 1), "[ \"c\\n\\\"\", \"\" ]");
+        row("last deleted", make<CrvMFDeleteRowsCommand>(1, 2), "[ \"a\" ]");
+        row("all deleted", make<CrvMFDeleteRowsCommand>(0, 3), "[]");
+        row("swapped", make<CrvMFSwapRowsCommand>(0, 1), "[ \"c\\n\\\"\", \"a\", \"\" ]");
+        row("swapped with itself", make<CrvMFSwapRowsCommand>(1, 1),
+            "[ \"a\", \"c\\n\\\"\", \"\" ]");
     }
 
     void rowsGoAndComeBack()
     {
-        const std::pair<MakeCommand, const char*> rows[] = {
-            { make<CrvMFAddRowsCommand>(3, 1), "[ \"a\", \"c\\n\\\"\", \"\", \"\" ]" },
-            { make<CrvMFAddRowsCommand>(0, 2), "[ \"\", \"\", \"a\", \"c\\n\\\"\", \"\" ]" },
-            { make<CrvMFDeleteRowsCommand>(0, 1), "[ \"c\\n\\\"\", \"\" ]" },
-            { make<CrvMFDeleteRowsCommand>(1, 2), "[ \"a\" ]" },
-            { make<CrvMFDeleteRowsCommand>(0, 3), "[]" },
-            { make<CrvMFSwapRowsCommand>(0, 1), "[ \"c\\n\\\"\", \"a\", \"\" ]" },
-            { make<CrvMFSwapRowsCommand>(1, 1), "[ \"a\", \"c\\n\\\"\", \"\" ]" },
-        };
-        for (const auto& [makeCommand, after] : rows) {
-            KnMFString field;
-            const QString before = QStringLiteral("[ \"a\", \"c\\n\\\"\", \"\" ]");
-            field.set(before.toLatin1());
-            const Command command = makeCommand(&field);
-            command->execute();
-            for (int pass = 0; pass < 2; ++pass) {
-                QCOMPARE(textOf(field), QLatin1String(after));
-                command->undo();
-                QCOMPARE(textOf(field), before);
-                command->redo();
-            }
+        QFETCH(MakeCommand, makeCommand);
+        QFETCH(QString, after);
+        KnMFString field;
+        const QString before = QStringLiteral("[ \"a\", \"c\\n\\\"\", \"\" ]");
+        field.set(before.toLatin1());
+        const Command command = makeCommand(&field);
+        command->execute();
+        for (int pass = 0; pass < 2; ++pass) {
+            QCOMPARE(textOf(field), after);
+            command->undo();
+            QCOMPARE(textOf(field), before);
+            command->redo();
         }
     }
 
