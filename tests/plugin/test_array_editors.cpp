@@ -152,26 +152,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!editor);
     }
 
-    void aRowThatIsLostTakesItsEditorAlong()
-    {
-        for (const char* type : { "MFFloat", "MFString", "MFTime" }) {
-            KnField& field = m_fixture->show(type, "[ 1, 2 ]");
-            const QString before = EditorFixture::text(&field);
-            m_fixture->table().click(1, 0);
-            m_fixture->clickButton("m_addButton");
-            QPointer<QWidget> editor = m_fixture->table().type(2, 0, QStringLiteral("5"));
-            m_fixture->undoStack().undo(); // the refresh comes later
-            m_fixture->press(Qt::Key_Return);
-            QTRY_VERIFY(!editor);
-            QCOMPARE(EditorFixture::text(&field), before);
-
-            editor = m_fixture->table().type(1, 0, QStringLiteral("5"));
-            EditorFixture::write(&field, "[ 1 ]");
-            QTRY_VERIFY(!editor);
-            QVERIFY(!EditorFixture::text(&field).contains(u'5'));
-        }
-    }
-
     void anEditorThatNeverHadTheFocusEndsToo()
     {
         KnMFInt32 first;

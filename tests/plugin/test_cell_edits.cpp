@@ -13,8 +13,6 @@
 /// What ends the edit of a cell and what doesn't, and where the typed text goes.
 class TestCellEdits : public QObject {
     Q_OBJECT
-    using Act = void (*)(ArrayFixture& fixture, const char* type);
-
 private Q_SLOTS:
     void init()
     {
@@ -26,129 +24,98 @@ private Q_SLOTS:
     void leavingACell_data()
     {
         QTest::addColumn<QString>("type");
-        QTest::addColumn<bool>("isWritten");
-        QTest::addColumn<Act>("leave");
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<int>("commands");
         // A slider without commands, a line with commands.
-        for (const char* type : { "MFInt32", "MFString" }) {
-            const auto row = [type](const char* name, bool isWritten, Act leave) {
-                QTest::addRow("%s, %s", type, name) << type << isWritten << leave;
-            };
-            row("Return", true, [](ArrayFixture& f, const char*) { f.press(Qt::Key_Return); });
-            row("Tab", true, [](ArrayFixture& f, const char*) { f.press(Qt::Key_Tab); });
-            row("Escape", false, [](ArrayFixture& f, const char*) { f.press(Qt::Key_Escape); });
-            row("click", true, [](ArrayFixture& f, const char*) { f.table().click(2, 0); });
-            row("box", true,
-                [](ArrayFixture& f, const char*) { f.child<QWidget>("m_accessBox")->setFocus(); });
-            row("button", true, [](ArrayFixture& f, const char*) { f.clickButton("m_upButton"); });
-            row("no field", true, [](ArrayFixture& f, const char*) { f.select(nullptr); });
-            row("editor", true, [](ArrayFixture& f, const char*) { f.select(f.field("MFFloat")); });
-            row("field", true, [](ArrayFixture& f, const char* t) { f.select(f.otherField(t)); });
+        for (const char* way : { "Return", "Tab", "Escape", "click", "box", "m_upButton",
+                 "no field", "editor", "field" }) {
+            QTest::addRow("slider, %s", way) << "MFInt32" << way << 0;
+            QTest::addRow("line, %s", way) << "MFString" << way << (*way == 'E' ? 0 : 1);
         }
+        // With nothing typed an operation is one command, and a selection none. The line of a
+        // colour is written in any case where a person ends the edit.
+        for (const char* way : { "m_addButton", "m_deleteButton", "m_downButton", "no field",
+                 "editor", "Return", "click" })
+            QTest::addRow("untouched, %s", way)
+                << "MFColor" << way << (qstrcmp(way, "no field") && qstrcmp(way, "editor") ? 1 : 0);
     }
 
     void leavingACell()
     {
         QFETCH(QString, type);
-        QFETCH(bool, isWritten);
-        QFETCH(Act, leave);
+        QFETCH(QString, way);
+        QFETCH(int, commands);
+        const bool isTyped = type != u"MFColor";
         KnField* const other = m_fixture->otherField(type.toLatin1());
         other->set("[ 1, 2 ]");
-        const KnField& field = m_fixture->show(type, QStringLiteral("[ 1, 2, 3 ]"));
-        QString expected = EditorFixture::text(&field);
-        if (isWritten)
-            expected.replace(u'1', QStringLiteral("78"));
-        m_fixture->table().type(0, 0, QStringLiteral("78"));
-        const QPointer<QWidget> editor = m_fixture->table().openEditor();
-        leave(*m_fixture, type.toLatin1());
-        QTRY_VERIFY(!editor);
-        QCOMPARE(EditorFixture::text(&field), expected);
-        QVERIFY(!EditorFixture::text(other).contains(u'7'));
-        QCOMPARE(m_fixture->commands(), isWritten && type == u"MFString");
-    }
-
-    void anUntouchedEditorJustCloses_data()
-    {
-        QTest::addColumn<Act>("leave");
-        QTest::addColumn<int>("commands");
-        const auto row = [](const char* name, Act leave, int commands) {
-            QTest::newRow(name) << leave << commands;
-        };
-        row(
-            "add", [](ArrayFixture& f, const char*) { f.clickButton("m_addButton"); }, 1);
-        row(
-            "delete", [](ArrayFixture& f, const char*) { f.clickButton("m_deleteButton"); }, 1);
-        row(
-            "down", [](ArrayFixture& f, const char*) { f.clickButton("m_downButton"); }, 1);
-        row(
-            "selection", [](ArrayFixture& f, const char*) { f.select(f.field("SFBool")); }, 0);
-        // Here a person ends the edit, which writes a colour in any case.
-        row(
-            "click", [](ArrayFixture& f, const char*) { f.table().click(1, 2); }, 1);
-    }
-
-    void anUntouchedEditorJustCloses()
-    {
-        QFETCH(Act, leave);
-        QFETCH(int, commands);
-        m_fixture->show("MFColor", "[ 0 0 0, 1 1 1 ]");
+        const KnField& field = m_fixture->show(type,
+            isTyped ? QStringLiteral("[ 1, 2, 3 ]") : QStringLiteral("[ 0 0 0, 1 1 1, 1 1 1 ]"));
         m_fixture->child<QSpinBox>("m_accessBox")->setValue(1);
-        const QPointer<QWidget> editor = m_fixture->table().open(0, 1);
-        leave(*m_fixture, nullptr);
-        QTRY_VERIFY(!editor);
+        const TableInput table = m_fixture->table();
+        QString expected = EditorFixture::text(&field);
+        if (isTyped && way != u"Escape")
+            expected.replace(u'1', QStringLiteral("78"));
+        const QPointer<QWidget> line
+            = isTyped ? table.type(0, 0, QStringLiteral("78")) : TableInput::line(table.open(0, 1));
+        leaveCell(way, type);
+        QTRY_VERIFY(!line);
+        if (isTyped)
+            QCOMPARE(EditorFixture::text(&field), expected);
+        QVERIFY(!EditorFixture::text(other).contains(u'7'));
         QCOMPARE(m_fixture->commands(), commands);
     }
 
     void menusAndOtherWindowsEndNoEdit_data()
     {
         QTest::addColumn<QString>("type");
-        QTest::addColumn<Act>("pass");
-        for (const char* type : { "MFInt32", "MFString", "MFColor" }) {
-            QTest::addRow("%s, context menu", type) << type << Act([](ArrayFixture&, const char*) {
-                QWidget* const line = QApplication::focusWidget();
-                QContextMenuEvent event(
-                    QContextMenuEvent::Keyboard, QPoint(), line->mapToGlobal(QPoint(1, 1)));
-                QCoreApplication::sendEvent(line, &event);
-                QVERIFY(QApplication::activePopupWidget());
-                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-            });
-            QTest::addRow("%s, menu", type) << type << Act([](ArrayFixture& f, const char*) {
-                QMenu menu(&f.shell().window());
-                menu.popup(QPoint());
-                QTest::keyClick(&menu, Qt::Key_Escape);
-            });
-            QTest::addRow("%s, menu bar", type) << type << Act([](ArrayFixture& f, const char*) {
-                QMenuBar bar(&f.shell().window());
-                QWidget* const line = QApplication::focusWidget();
-                bar.show();
-                bar.setFocus(Qt::MenuBarFocusReason);
-                QVERIFY(bar.hasFocus());
-                line->setFocus(Qt::MenuBarFocusReason);
-            });
-            QTest::addRow("%s, window", type)
-                << type
-                << Act([](ArrayFixture& f, const char*) { inAnotherWindow(&f.shell().window()); });
+        QTest::addColumn<QString>("values");
+        QTest::addColumn<QString>("passing");
+        for (const char* passing : { "context menu", "menu", "menu bar", "window" }) {
+            QTest::addRow("slider, %s", passing) << "MFInt32"
+                                                 << "[ 2, 2 ]" << passing;
+            QTest::addRow("line, %s", passing) << "MFVec2f"
+                                               << "[ 2 2 ]" << passing;
+            QTest::addRow("colour, %s", passing) << "MFColor"
+                                                 << "[ 0 0 0 ]" << passing;
         }
     }
 
     void menusAndOtherWindowsEndNoEdit()
     {
         QFETCH(QString, type);
-        QFETCH(Act, pass);
-        const KnField& field = m_fixture->show(
-            type, type == u"MFColor" ? QStringLiteral("[ 0 1 0 ]") : QStringLiteral("[ 2, 2 ]"));
-        const QString before = EditorFixture::text(&field);
+        QFETCH(QString, values);
+        QFETCH(QString, passing);
+        const KnField& field = m_fixture->show(type, values);
         const QPointer<QLineEdit> line = m_fixture->table().type(
             0, m_fixture->table()->columnCount() > 1 ? 1 : 0, QStringLiteral("1"));
-        pass(*m_fixture, nullptr);
-        EditorFixture::settle();
         QWidget& window = m_fixture->shell().window();
+        if (passing == u"context menu") {
+            QContextMenuEvent event(
+                QContextMenuEvent::Keyboard, QPoint(), line->mapToGlobal(QPoint(1, 1)));
+            QCoreApplication::sendEvent(line, &event);
+            QVERIFY(QApplication::activePopupWidget());
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        } else if (passing == u"menu") {
+            QMenu menu(&window);
+            menu.popup(QPoint());
+            QTest::keyClick(&menu, Qt::Key_Escape);
+        } else if (passing == u"menu bar") {
+            QMenuBar bar(&window);
+            bar.show();
+            bar.setFocus(Qt::MenuBarFocusReason);
+            QVERIFY(bar.hasFocus());
+            line->setFocus(Qt::MenuBarFocusReason);
+        } else {
+            inAnotherWindow(&window);
+        }
+        EditorFixture::settle();
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         QVERIFY(line && line->hasFocus());
         QCOMPARE(line->text(), QStringLiteral("1"));
         m_fixture->press(Qt::Key_Escape);
         QTRY_VERIFY(!line);
-        QCOMPARE(EditorFixture::text(&field), before);
+        QCOMPARE(EditorFixture::text(&field), values);
         QCOMPARE(m_fixture->commands(), 0);
     }
 
@@ -253,23 +220,13 @@ private Q_SLOTS:
         QCOMPARE(EditorFixture::text(&field), end);
     }
 
-    void farDownARowIsKnownByItsValueAlone()
+    void farDownRowsThatComeEndTheEdit()
     {
-        const QString start = QStringLiteral("[ 5") + QStringLiteral(", 5").repeated(99);
-        KnField& field = m_fixture->show("MFInt32", QString(start + u']').toLatin1().constData());
-        const auto type = [this] {
-            m_fixture->table()->showTableRow(80);
-            return QPointer<QWidget>(m_fixture->table().type(79, 0, QStringLiteral("55")));
-        };
-        QPointer<QWidget> line = type();
-        field.set(QString(start + u']').replace(2, 1, u'6').toLatin1().constData());
-        EditorFixture::settle();
-        QVERIFY(line);
-        m_fixture->press(Qt::Key_Return);
-        QCOMPARE(m_fixture->node().MFInt32[79], 55);
-        line = type();
-        EditorFixture::write(
-            &field, QString(start + QStringLiteral(", 5 ]")).toLatin1().constData());
+        const QByteArray values = QByteArray("[ 5") + QByteArray(", 5").repeated(99);
+        KnField& field = m_fixture->show("MFInt32", QByteArray(values + " ]").constData());
+        m_fixture->table()->showTableRow(80);
+        const QPointer<QWidget> line = m_fixture->table().type(79, 0, QStringLiteral("55"));
+        EditorFixture::write(&field, QByteArray(values + ", 5 ]").constData());
         QTRY_VERIFY(!line);
         QVERIFY(!EditorFixture::text(&field).contains(QStringLiteral("55")));
         // A drag writes the row itself, again and again.
@@ -286,6 +243,25 @@ private Q_SLOTS:
     }
 
 private:
+    void leaveCell(const QString& way, const QString& type)
+    {
+        if (way.startsWith(u"m_"))
+            m_fixture->clickButton(way.toLatin1());
+        else if (way == u"click")
+            m_fixture->table().click(2, type == u"MFColor" ? 2 : 0);
+        else if (way == u"box")
+            m_fixture->child<QWidget>("m_accessBox")->setFocus();
+        else if (way == u"no field")
+            m_fixture->select(nullptr);
+        else if (way == u"editor")
+            m_fixture->select(m_fixture->field("MFFloat"));
+        else if (way == u"field")
+            m_fixture->select(m_fixture->otherField(type.toLatin1()));
+        else
+            m_fixture->press(QKeySequence(way)[0].key());
+        EditorFixture::settle();
+    }
+
     std::optional<ArrayFixture> m_fixture;
 };
 
