@@ -1,42 +1,93 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "LayoutMetrics.h"
+#include "Pixmaps.h"
 
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 class TestLayoutMetrics : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void lookUp_data()
+    void everyRow()
+    {
+        const QString expected
+            = u"frameLineWidth 0,labelLineWidth 0,labelPointSize 10,labelHeight 20,buttonWidth 20,"
+              "buttonHeight 20,PopupFrameWidth 260,PopupFrameHeight 100,PopupLayoutMargin 6,"
+              "PopupLayoutSpacing 8,SFieldLayoutMargin 4,SFieldLayoutSpacing 6,"
+              "SFieldEditLayoutMargin 0,SFieldEditLayoutSpacing 0,SFButtonLayoutMargin 2,"
+              "SFButtonLayoutSpacing 0,SFEditionAreaLayMargin 0,SFEditionAreaLaySpacing 2,"
+              "SFComponentHeight 18,SFBoolWidth 16,SFColorSpacing 6,SFColorMargin 0,"
+              "SFColorInterSpacing 2,SFColorDispWidth 20,SFVecLineHeight 16,SFVecLabelHeight 14,"
+              "SF4fBoxVSpacing 4,SF4fBoxHSpacing 4,SF4fBoxHMargin 2,SF3fBoxVSpacing 4,"
+              "SF3fBoxHSpacing 20,SF3fBoxHMargin 2,SF2BoxHSpacing 25,SF2BoxHMargin 2,"
+              "SF2BoxVSpacing 4,MFGlobalLayoutSpacing 2,MFGlobalLayoutMarging 6,"
+              "MFGlobalButtonsLayoutMargin 0,MFGlobalButtonsLayoutSpacing 5,"
+              "MFButtonLayoutMargin 0,MFButtonLayoutSpacing 0,MFAccessWidth 60,"
+              "MFManageAccessSpacerWidth 0,MFManageAccessSpacerHeight 0,"
+              "MFAccessMoveSpacerHeight 0,MFAccessMoveSpacerWidth 0,MFTableMinHeightWin 43,"
+              "MFTableMinHeightUnix 46"_s;
+        QStringList rows;
+        QStringList found;
+        for (const LayoutMetric* row = LayoutMetrics; row->name; ++row) {
+            const QString name = QLatin1String(row->name);
+            rows << u"%1 %2"_s.arg(name).arg(row->value);
+            layoutMetric(name);
+            // From the map, where the first call left it.
+            found << u"%1 %2"_s.arg(name).arg(layoutMetric(name));
+        }
+        QCOMPARE(rows, expected.split(u','));
+        QCOMPARE(found, rows);
+    }
+
+    void aNameWithoutARowGives0_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("value");
-        QTest::newRow("first") << QStringLiteral("frameLineWidth") << 0;
-        QTest::newRow("points") << QStringLiteral("labelPointSize") << 10;
-        QTest::newRow("last") << QStringLiteral("MFTableMinHeightUnix") << 46;
-        QTest::newRow("as it is spelt") << QStringLiteral("MFGlobalLayoutMarging") << 6;
-        QTest::newRow("spelt otherwise") << QStringLiteral("MFGlobalLayoutMargin") << 0;
-        QTest::newRow("letter case") << QStringLiteral("buttonwidth") << 0;
-        QTest::newRow("prefix") << QStringLiteral("button") << 0;
-        QTest::newRow("no row") << QStringLiteral("SFColorRGBAInterSpacing") << 0;
-        QTest::newRow("empty") << QString() << 0;
-        QTest::newRow("outside Latin-1") << QStringLiteral("\u4e00") << 0;
+        QTest::newRow("spelt otherwise") << u"MFGlobalLayoutMargin"_s;
+        QTest::newRow("letter case") << u"buttonwidth"_s;
+        QTest::newRow("prefix") << u"button"_s;
+        QTest::newRow("longer") << u"buttonWidths"_s;
+        QTest::newRow("asked for by a widget") << u"SFColorRGBAInterSpacing"_s;
+        QTest::newRow("empty") << QString();
+        QTest::newRow("outside Latin-1") << u"\u4e00"_s;
     }
-    void lookUp()
+    void aNameWithoutARowGives0()
     {
         QFETCH(QString, name);
-        QFETCH(int, value);
-        QCOMPARE(layoutMetric(name), value);
-        // From the map, where the first call left it.
-        QCOMPARE(layoutMetric(name), value);
+        QCOMPARE(layoutMetric(name), 0);
+        QCOMPARE(layoutMetric(name), 0);
     }
-    void theTableHasEveryRow()
+
+    void pixmaps()
     {
-        int rows = 0;
-        while (LayoutMetrics[rows].name)
-            ++rows;
-        QCOMPARE(rows, 48);
+        const QPixmap all[] = { defaultPixmap(), ignorePixmap(), editPixmap(), addPixmap(),
+            deletePixmap(), upPixmap(), downPixmap() };
+        QList<QImage> images;
+        for (const QPixmap& pixmap : all) {
+            const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+            QCOMPARE(image.size(), QSize(16, 16));
+            QVERIFY(!images.contains(image));
+            images << image;
+            QSet<QRgb> shades;
+            for (int i = 0; i < 256; ++i)
+                shades << image.pixel(i % 16, i / 16);
+            QVERIFY(shades.size() > 2); // edges are soft
+            for (const QRgb shade : shades)
+                QVERIFY(qAlpha(shade) == 0 || qIsGray(shade));
+        }
+        QVERIFY(upperHalf(images[5]) < upperHalf(images[6])); // up and down are no other way round
+    }
+
+private:
+    /// Of an image's upper half the number of pixels that aren't transparent.
+    static int upperHalf(const QImage& image)
+    {
+        int count = 0;
+        for (int i = 0; i < 128; ++i)
+            count += qAlpha(image.pixel(i % 16, i / 16)) != 0;
+        return count;
     }
 };
 
-QTEST_APPLESS_MAIN(TestLayoutMetrics)
+QTEST_MAIN(TestLayoutMetrics)
 #include "test_layout_metrics.moc"
