@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "QUIntValidator.h"
-#include "QULongValidator.h"
 #include "SliderMath.h"
 
 #include <QTest>
@@ -115,29 +113,6 @@ private Q_SLOTS:
         QVERIFY(std::isinf(toFloat(Infinity)) && std::isnan(toFloat(NoNumber)));
         QCOMPARE(limited(7, 50, 10), 50);
         QVERIFY(std::isnan(limited(NoNumber, 0.0, 1.0)));
-    }
-
-    void unsignedTextsInARange()
-    {
-        const std::tuple<unsigned int, unsigned int, QString, QValidator::State> rows[] = {
-            { 10, 20, QString(), QValidator::Acceptable },
-            { 10, 20, u"10"_s, QValidator::Acceptable },
-            { 10, 20, u"20"_s, QValidator::Acceptable },
-            { 10, 20, u"5"_s, QValidator::Intermediate },
-            { 10, 20, u"25"_s, QValidator::Intermediate },
-            { 10, 20, u"x"_s, QValidator::Invalid },
-            { 10, 20, u"-1"_s, QValidator::Invalid },
-            { 0, 4294967295, u"4294967295"_s, QValidator::Acceptable },
-            { 0, 4294967295, u"4294967296"_s, QValidator::Invalid },
-            { 20, 10, u"15"_s, QValidator::Intermediate },
-        };
-        for (auto [bottom, top, text, state] : rows) {
-            int position = 0;
-            QCOMPARE(QUIntValidator(bottom, top, nullptr).validate(text, position), state);
-            QULongValidator moved(0, 0, nullptr);
-            moved.setRange(bottom, top);
-            QCOMPARE(moved.validate(text, position), state);
-        }
     }
 };
 
