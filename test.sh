@@ -33,8 +33,6 @@ step() {
     return "$status"
 }
 
-# A test that fails is shown and gets one more try: those with windows and processes may be starved
-# on a machine that is busy with something else.
 # suite PRESET [--target TARGET] [CTEST OPTIONS...]: builds, and runs the tests if that worked.
 suite() {
     local preset=$1 targets=()
@@ -45,7 +43,7 @@ suite() {
     fi
     step "build-$preset" build "$preset" "${targets[@]}" &&
         step "test-$preset" ctest --test-dir "$build_root/$preset" -j "$jobs" \
-            --output-on-failure --no-tests=error --repeat until-pass:2 "$@"
+            --output-on-failure --no-tests=error "$@"
 }
 
 step format "$source_dir/scripts/check_format.sh"
