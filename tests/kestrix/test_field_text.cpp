@@ -133,7 +133,7 @@ private Q_SLOTS:
             KnSensorQueue::getInstance().process();
             QByteArray result = textOf(*field);
             if (done) {
-                QVERIFY(other->set(result.constData()));
+                QVERIFY2(other->set(result.constData()), given.constData());
                 QCOMPARE(textOf(*other), result);
             } else {
                 QCOMPARE(result, before);

@@ -39,6 +39,8 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void()>)
+
 /// Three sensors a, b and c on one field.
 class TestSensors : public QObject {
     Q_OBJECT
@@ -87,36 +89,46 @@ private Q_SLOTS:
         QCOMPARE(m_log, "ac|c|ca|||");
     }
 
-    void callbacksChangeWhatRuns()
+    void callbacksChangeWhatRuns_data()
     {
         // What b does, and what runs then, at once without another change, and behind another one.
-        const std::pair<std::function<void()>, QByteArray> rows[] = {
-            { [this] { m_b.reset(); }, "abc||ac|" },
-            { [this] { m_a.reset(); }, "abc||bc|" },
-            { [this] { m_c.reset(); }, "ab||ab|" },
-            { [this] {
-                 for (auto* watch : { &m_c, &m_a, &m_b })
-                     watch->reset();
-             },
-                "ab|||" },
-            { [this] { m_field.reset(); }, "ab|||" },
-            { [this] { m_queue.process(); }, "abc||abc|" },
-            // c still waits then, so that it runs once for both changes.
-            { [this] { play("f"); }, "abc|ab|abc|" },
-            // What is dropped was part of the run, what the other field puts in is not.
-            { [this] {
-                 m_c->attach(&m_other);
-                 m_a->detach();
-                 play("o");
-             },
-                "ab|c|b|" },
+        QTest::addColumn<std::function<void()>>("action");
+        QTest::addColumn<QByteArray>("log");
+        const auto row = [](const char* name, const std::function<void()>& action,
+                             const char* log) { QTest::newRow(name) << action << QByteArray(log); };
+        row(
+            "destroys itself", [this] { m_b.reset(); }, "abc||ac|");
+        row(
+            "destroys one before", [this] { m_a.reset(); }, "abc||bc|");
+        row(
+            "destroys one behind", [this] { m_c.reset(); }, "ab||ab|");
+        const auto destroyAll = [this] {
+            for (auto* watch : { &m_c, &m_a, &m_b })
+                watch->reset();
         };
-        for (const auto& [action, log] : rows) {
-            init();
-            m_b->action = action;
-            play("f||f|");
-            QCOMPARE(m_log, log);
-        }
+        row("destroys all", destroyAll, "ab|||");
+        row(
+            "destroys the field", [this] { m_field.reset(); }, "ab|||");
+        row(
+            "runs the queue", [this] { m_queue.process(); }, "abc||abc|");
+        // c still waits then, so that it runs once for both changes.
+        row(
+            "changes the field", [this] { play("f"); }, "abc|ab|abc|");
+        // What is dropped was part of the run, what the other field puts in is not.
+        const auto moveAway = [this] {
+            m_c->attach(&m_other);
+            m_a->detach();
+            play("o");
+        };
+        row("moves others away", moveAway, "ab|c|b|");
+    }
+    void callbacksChangeWhatRuns()
+    {
+        QFETCH(std::function<void()>, action);
+        QFETCH(QByteArray, log);
+        m_b->action = action;
+        play("f||f|");
+        QCOMPARE(m_log, log);
     }
 
     void theHostIsWokenOnceABatch()

@@ -52,24 +52,33 @@ const Kind kinds[] = {
 class TestMemory : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void blocksCrossTheBorderAndAreCounted_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<std::size_t>("size");
+        const char* const names[] = { "single", "array", "aligned", "aligned array" };
+        for (int i = 0; i < std::ssize(kinds); ++i) {
+            for (const std::size_t size : { 0, 1, 100000 })
+                QTest::addRow("%s of %zu", names[i], size) << i << size;
+        }
+    }
     void blocksCrossTheBorderAndAreCounted()
     {
-        for (const Kind& kind : kinds) {
-            for (const std::size_t size : { std::size_t(0), std::size_t(1), std::size_t(100000) }) {
-                const KbAllocationCount before = allocationCount();
-                for (const auto& [take, release] : { std::pair(kind.safeNew, kind.standardDelete),
-                         std::pair(kind.standardNew, kind.safeDelete),
-                         std::pair(kind.safeNew, kind.safeDelete) }) {
-                    void* block = take(size);
-                    QVERIFY(reinterpret_cast<std::uintptr_t>(block) % kind.alignment == 0);
-                    std::memset(block, 0x5a, size);
-                    release(block);
-                }
-                kind.safeDelete(nullptr);
-                QCOMPARE(allocationCount().calls - before.calls, std::uint64_t(2));
-                QCOMPARE(allocationCount().bytes - before.bytes, std::uint64_t(2 * size));
-            }
+        QFETCH(int, index);
+        QFETCH(std::size_t, size);
+        const Kind& kind = kinds[index];
+        const KbAllocationCount before = allocationCount();
+        for (const auto& [take, release] : { std::pair(kind.safeNew, kind.standardDelete),
+                 std::pair(kind.standardNew, kind.safeDelete),
+                 std::pair(kind.safeNew, kind.safeDelete) }) {
+            void* block = take(size);
+            QVERIFY(reinterpret_cast<std::uintptr_t>(block) % kind.alignment == 0);
+            std::memset(block, 0x5a, size);
+            release(block);
         }
+        kind.safeDelete(nullptr);
+        QCOMPARE(allocationCount().calls - before.calls, std::uint64_t(2));
+        QCOMPARE(allocationCount().bytes - before.bytes, std::uint64_t(2 * size));
     }
 
     void reallocKeepsTheContents()

@@ -82,30 +82,49 @@ private Q_SLOTS:
         const auto q = KbRotation(KbVec3f(0.0F, 3.0F, 4.0F), 10.0F).getValue();
         QCOMPARE((QList<float>(q.begin(), q.end())),
             (QList<float> { 0, 0.6F * std::sin(5.0F), 0.8F * std::sin(5.0F), std::cos(5.0F) }));
-        const std::array<float, 4> none { 0, 0, 0, 1 };
-        for (const float length : { 0.0F, INFINITY, NAN })
-            QCOMPARE(KbRotation(KbVec3f(length, 0.0F, 0.0F), 2.0F).getValue(), none);
+    }
 
+    void anAxisWithoutALengthTurnsNothing_data()
+    {
+        QTest::addColumn<float>("length");
+        QTest::newRow("0") << 0.0F;
+        QTest::newRow("infinite") << INFINITY;
+        QTest::newRow("no number") << NAN;
+    }
+    void anAxisWithoutALengthTurnsNothing()
+    {
+        QFETCH(float, length);
+        const std::array<float, 4> none { 0, 0, 0, 1 };
+        QCOMPARE(KbRotation(KbVec3f(length, 0.0F, 0.0F), 2.0F).getValue(), none);
+    }
+
+    void axisAndAngleOfAQuaternion_data()
+    {
+        QTest::addColumn<QList<float>>("quaternion");
+        QTest::addColumn<QList<float>>("axisAndAngle");
+        const auto row
+            = [](const char* name, const QList<float>& quaternion, const QList<float>& result) {
+                  QTest::newRow(name) << quaternion << result;
+              };
         const float pi = std::numbers::pi_v<float>;
         const float max = std::numeric_limits<float>::max();
-        const struct {
-            float quaternion[4];
-            QList<float> axisAndAngle;
-        } rows[] = {
-            { { 1, 0, 0, 0 }, { 1, 0, 0, pi } },
-            { { 0, 5, 0, 5 }, { 0, 1, 0, pi / 2 } }, // of any length
-            { { 0, 0, max, max }, { 0, 0, 1, pi / 2 } },
-            { { 0, 0, 0, -1 }, { 0, 0, 1, 0 } }, // no rotation, as all the others
-            { { 0, 0, 0, 0 }, { 0, 0, 1, 0 } },
-            { { NAN, 0, 0, 1 }, { 0, 0, 1, 0 } },
-            { { 1, 0, 0, INFINITY }, { 0, 0, 1, 0 } },
-        };
-        for (const auto& [quaternion, axisAndAngle] : rows) {
-            KbVec3f axis;
-            float radians = 0;
-            KbRotation(quaternion).getValue(axis, radians);
-            QCOMPARE((QList<float> { axis[0], axis[1], axis[2], radians }), axisAndAngle);
-        }
+        row("half a turn", { 1, 0, 0, 0 }, { 1, 0, 0, pi });
+        row("of any length", { 0, 5, 0, 5 }, { 0, 1, 0, pi / 2 });
+        row("of great length", { 0, 0, max, max }, { 0, 0, 1, pi / 2 });
+        const QList<float> none { 0, 0, 1, 0 };
+        row("a whole turn", { 0, 0, 0, -1 }, none);
+        row("of no length", { 0, 0, 0, 0 }, none);
+        row("no number", { NAN, 0, 0, 1 }, none);
+        row("infinite", { 1, 0, 0, INFINITY }, none);
+    }
+    void axisAndAngleOfAQuaternion()
+    {
+        QFETCH(QList<float>, quaternion);
+        KbVec3f axis;
+        float radians = 0;
+        const float given[] = { quaternion[0], quaternion[1], quaternion[2], quaternion[3] };
+        KbRotation(given).getValue(axis, radians);
+        QTEST((QList<float> { axis[0], axis[1], axis[2], radians }), "axisAndAngle");
     }
 };
 
