@@ -13,10 +13,12 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QLabel>
+#include <QLibrary>
 #include <QTest>
 #include <QTextEdit>
 #include <QUndoStack>
 
+#include <algorithm>
 #include <iostream>
 
 using namespace Qt::StringLiterals;
@@ -73,25 +75,67 @@ private Q_SLOTS:
         const CrvPlugin* const plugin = load();
         QVERIFY(plugin);
         QStringList actual(identity(*plugin));
-        for (const CrvExtension* extension : plugin->getExtensions())
+        QStringList classes;
+        for (const CrvExtension* extension : plugin->getExtensions()) {
             actual << identity(*extension);
-        QCOMPARE(actual.size(), 1 + 48);
-
+            // An editor is named after its class.
+            classes << (extension->objectName().isEmpty()
+                    ? QString(QLatin1String(extension->metaObject()->className()))
+                    : extension->objectName());
+        }
         QStringList expected { u"CrvDefaults|Plug-in which loads Corvane default extensions."_s,
             u"Profile Selector|A toolbar to select the active profile."_s,
             u"Console|A console which prints the standard output and error."_s };
-        const QString fieldEditors
+        const QStringList fieldEditors
             = u"MFColor,MFColorRGBA,MField,MFDouble,SFFilePathString,"
               "MFFloat,MFInt32,MFMatrix,MFPlane,MFRotation,MFShort,MFString,MFUInt32,MFUShort,"
               "MFVec2f,MFVec2i32,MFVec2s,MFVec3f,MFVec4f,SFBitMask,SFBool,SFBox2f,SFBox3s,SFColor,"
               "SFColorRGBA,SFEnum,SFDouble,SFFloat,SFImage,SFInt32,SField,SFMatrix,SFName,SFPlane,"
               "SFRotation,SFShort,SFString,SFUInt32,SFUShort,SFVec2f,SFVec2i32,SFVec2s,SFVec3f,"
-              "SFVec4f,Field Editor"_s;
-        for (const QString& name : fieldEditors.split(u','))
+              "SFVec4f"_s.split(u',');
+        QStringList expectedClasses { u"CrvProfileSelectorExtension"_s, u"CrvConsole"_s };
+        for (const QString& name : fieldEditors) {
             expected << name + u"|Field Editor for Corvane."_s;
-        expected << u"Node Editor|Node Editor for Corvane."_s;
+            expectedClasses << u"Wf%1Widget"_s.arg(name);
+        }
+        expectedClasses.replaceInStrings(u"WfMField"_s, u"WfMFDefaultField"_s);
+        expectedClasses.replaceInStrings(u"WfSField"_s, u"WfSFLine"_s);
+        expectedClasses << u"CrvFieldEditorDockWin"_s << u"CrvNodeEditor"_s;
+        expected << u"Field Editor|Field Editor for Corvane."_s
+                 << u"Node Editor|Node Editor for Corvane."_s;
         expected.replaceInStrings(QRegularExpression(u"$"_s), u"|Orbel|1.0.0"_s);
         QCOMPARE(actual, expected);
+        QCOMPARE(classes, expectedClasses);
+
+        // A dock walks the editors by address, in which one has a place of its own.
+        std::vector<CrvExtension*> members = plugin->getExtensions();
+        std::sort(members.begin(), members.end());
+        QStringList byAddress;
+        for (const CrvExtension* member : members)
+            byAddress << identity(*member);
+        expected.removeFirst();
+        expected.move(4 + 2, expected.indexOf(QRegularExpression(u"^SFDouble.*"_s)));
+        QCOMPARE(byAddress, expected);
+    }
+
+    void thePluginObjectIsMadeAnewEachTime()
+    {
+        QLibrary library(QStringLiteral(CORVANE_MODULE_FILE));
+        const auto loadPlugin
+            = reinterpret_cast<CrvLoadPluginFunction>(library.resolve("loadPlugin"));
+        const auto unloadPlugin
+            = reinterpret_cast<CrvUnloadPluginFunction>(library.resolve("unloadPlugin"));
+        QVERIFY(loadPlugin && unloadPlugin);
+        unloadPlugin(); // there is none
+        for (int round = 0; round < 2; ++round) {
+            CrvPlugin* const plugin = loadPlugin();
+            QVERIFY(plugin && plugin->getExtensions().empty());
+            plugin->load();
+            QCOMPARE(plugin->getExtensions().size(), std::size_t(48));
+            unloadPlugin();
+            unloadPlugin();
+        }
+        QVERIFY(library.unload());
     }
 
     void unloadingLeavesNothingBehind()

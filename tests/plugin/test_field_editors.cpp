@@ -95,29 +95,53 @@ private Q_SLOTS:
         // Another field of the type takes the editor over; neither is written.
         QVERIFY(other->set(row.start));
         other->setIgnored(1);
-        const int commands = stack.count();
+        // The lines that hold a text as it is write it whenever they are left.
+        static const QSet<QByteArray> texts { "SFFilePathString", "SFName", "SFString" };
+        const int commands = stack.index() + (texts.contains(row.type) ? 1 : 0);
         fixture.select(other);
         QCOMPARE(fixture.editor()->objectName(), toText(row.editor));
         QCOMPARE(row.shown(fixture), toText(row.shownAtStart));
-        QVERIFY(fixture.child<QAbstractButton>("m_ignoreButton")->isChecked());
+        QVERIFY(ignore->isChecked());
         QCOMPARE(EditorFixture::text(field), outside);
         QCOMPARE(EditorFixture::text(other), start);
-        QCOMPARE(stack.count(), commands);
+        QCOMPARE(stack.index(), commands);
+        QTest::mouseClick(ignore, Qt::LeftButton);
+        EditorFixture::settle();
+        QVERIFY(!other->isIgnored() && !ignore->isChecked());
+        QCOMPARE(stack.index(), commands + 1);
     }
 
-    void theButtonsTakeNoFocus()
+    void theIgnoreButtonActsWhenItIsReleased_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::newRow("single") << QStringLiteral("SFBool");
+        QTest::newRow("array") << QStringLiteral("MFInt32");
+    }
+    void theIgnoreButtonActsWhenItIsReleased()
+    {
+        QFETCH(QString, type);
+        EditorFixture fixture;
+        KnField* const field = fixture.field(qPrintable(type));
+        fixture.select(field);
+        auto* const ignore = fixture.child<QAbstractButton>("m_ignoreButton");
+        bool wasIgnored = false;
+        connect(ignore, &QAbstractButton::released, this,
+            [&wasIgnored, field] { wasIgnored = field->isIgnored(); });
+        QTest::mousePress(ignore, Qt::LeftButton);
+        QVERIFY(!field->isIgnored());
+        QTest::mouseRelease(ignore, Qt::LeftButton);
+        QVERIFY(wasIgnored); // before the button was clicked
+        QCOMPARE(fixture.undoStack().count(), 1);
+    }
+
+    void anIgnoredFieldIsEditedAsAnyOther()
     {
         EditorFixture fixture;
-        fixture.select(fixture.field("SFBool"));
-        auto* const box = fixture.child<QAbstractButton>("m_box");
-        box->setFocus();
-        QTest::mouseClick(fixture.child<QAbstractButton>("m_ignoreButton"), Qt::LeftButton);
-        QVERIFY(box->hasFocus());
-        for (int i = 0; i < 4; ++i) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            QVERIFY(QApplication::focusWidget()->objectName() != QStringLiteral("m_ignoreButton"));
-            QVERIFY(QApplication::focusWidget()->objectName() != QStringLiteral("m_defaultButton"));
-        }
+        KnSFBool& field = fixture.node().SFBool;
+        field.setIgnored(1);
+        fixture.select(&field);
+        QTest::mouseClick(fixture.child<QAbstractButton>("m_box"), Qt::LeftButton);
+        QVERIFY(field.getValue() && field.isIgnored());
     }
 
     void theDefaultOfAFieldThatHoldsItMakesACommand()
@@ -142,10 +166,21 @@ private Q_SLOTS:
 
     void theFirstLabelWins()
     {
-        WfSFBoolWidget editor;
+        checkLabel<WfSFBoolWidget>();
+        checkLabel<WfMFInt32Widget>();
+    }
+
+private:
+    template <class Editor>
+    static void checkLabel()
+    {
+        Editor editor("given");
+        QCOMPARE(editor.objectName(), QStringLiteral("given"));
         editor.setLabel(QStringLiteral("mine"));
+        editor.setLabel(QStringLiteral("theirs"));
         editor.load();
-        const auto* const label = editor.getFrame()->findChild<QLabel*>(QStringLiteral("m_label"));
+        const auto* const label
+            = editor.getFrame()->template findChild<QLabel*>(QStringLiteral("m_label"));
         QCOMPARE(label->text(), QStringLiteral("<p align=\"center\">mine</p>"));
         editor.unload();
     }

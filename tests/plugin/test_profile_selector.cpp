@@ -7,7 +7,11 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QSignalSpy>
 #include <QTemporaryFile>
+#include <QToolBar>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +19,7 @@ using namespace Qt::StringLiterals;
 class TestProfileSelector : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase() { qRegisterMetaType<CrvProfile*>("CrvProfile*"); } // for the spies
     void init()
     {
         failOnWarnings();
@@ -28,12 +33,66 @@ private Q_SLOTS:
 
     void choosingMakesActive()
     {
+        const QSignalSpy changes(manager(), &CrvPluginsManager::activeProfileChanged);
         QCOMPARE(state(), u"Everything|Fields|Console, 0, Everything"_s);
+        choose(0); // the current one: the host isn't called
+        QCOMPARE(changes.count(), 0);
         choose(2);
         QCOMPARE(state(), u"Everything|Fields|Console, 2, Console"_s);
         choose(1);
         QCOMPARE(state(), u"Everything|Fields|Console, 1, Fields"_s);
+        QCOMPARE(changes.count(), 2);
         QVERIFY(m_combo->isVisible());
+        // One chosen elsewhere shows at the next activation.
+        manager()->setActiveProfile(manager()->getProfilesList().back());
+        QCOMPARE(state(), u"Everything|Fields|Console, 1, Console"_s);
+    }
+
+    void theToolBarComesAndGoes()
+    {
+        QStringList& calls = m_fixture->shell().calls();
+        CrvExtension* const selector = m_fixture->plugin().getExtensions().front();
+        auto* const toolBar = qobject_cast<QToolBar*>(m_combo->parent());
+        QVERIFY(toolBar && toolBar->windowTitle() == u"Profile Selector"_s);
+        QCOMPARE(m_combo->toolTip(), u"Select the active profile."_s);
+        manager()->setActiveProfile(manager()->getProfilesList().back());
+        const QSignalSpy changes(manager(), &CrvPluginsManager::activeProfileChanged);
+        for (int round = 0; round < 2; ++round) {
+            calls.clear();
+            selector->deactivate();
+            QCOMPARE(calls,
+                QStringList({ u"removeToolBar Profile Selector"_s,
+                    u"unregisterExtension Profile Selector"_s }));
+            QVERIFY(!selector->isActive() && !toolBar->parent());
+            selector->hide();
+            m_combo->setCurrentIndex(0); // not connected: no effect
+
+            calls.clear();
+            selector->activate();
+            QCOMPARE(calls,
+                QStringList({ u"addToolBar Profile Selector 4"_s,
+                    u"registerExtension Profile Selector 1"_s }));
+            QVERIFY(selector->isActive() && selector->isShown() && toolBar->isVisible());
+            QCOMPARE(m_fixture->shell().window().toolBarArea(toolBar), Qt::TopToolBarArea);
+            QCOMPARE(state(), u"Everything|Fields|Console, 2, Console"_s);
+        }
+        QCOMPARE(changes.count(), 0);
+        selector->hide();
+        QVERIFY(!selector->isShown() && toolBar->isHidden());
+        selector->show();
+        QVERIFY(selector->isShown() && toolBar->isVisible());
+
+        CrvProfileSelectorExtension ofItsOwn;
+        ofItsOwn.load();
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        const auto made = std::find_if(windows.begin(), windows.end(),
+            [](QWidget* window) { return qobject_cast<QToolBar*>(window); });
+        QVERIFY(made != windows.end());
+        const QPointer<QComboBox> combo = (*made)->findChild<QComboBox*>();
+        const QPointer<QWidget> window = *made;
+        QVERIFY(combo && combo->count() == 0);
+        ofItsOwn.unload();
+        QVERIFY(!combo && !window);
     }
 
     void theHostMayChangeTheProfilesWhileTheChoiceIsHandled()
@@ -67,24 +126,29 @@ private Q_SLOTS:
     }
 
     /// Text that was typed and not yet committed when the profile, and with it the editor, goes.
+    void typedTextIsWrittenWhenTheProfileChanges_data()
+    {
+        QTest::addColumn<bool>("byHand");
+        QTest::newRow("by a person") << true;
+        QTest::newRow("by the host") << false;
+    }
     void typedTextIsWrittenWhenTheProfileChanges()
     {
+        QFETCH(bool, byHand);
         KnField* const field = m_fixture->field("MFInt32");
+        field->set("[ 1, 2, 3 ]");
         m_fixture->select(field);
-        for (const bool byHand : { true, false }) {
-            EditorFixture::write(field, "[ 1, 2, 3 ]");
-            TableInput(*m_fixture).type(1, 0, u"7"_s);
-            for (const int profile : { 2, 0 }) {
-                if (byHand)
-                    choose(profile);
-                else
-                    manager()->setActiveProfile(
-                        *std::next(manager()->getProfilesList().begin(), profile));
-                EditorFixture::settle();
-            }
-            QCOMPARE(EditorFixture::text(field), u"[ 1, 7, 3 ]"_s);
-            QCOMPARE(TableInput(*m_fixture).openEditor(), nullptr);
+        TableInput(*m_fixture).type(1, 0, u"7"_s);
+        for (const int profile : { 2, 0 }) {
+            if (byHand)
+                choose(profile);
+            else
+                manager()->setActiveProfile(
+                    *std::next(manager()->getProfilesList().begin(), profile));
+            EditorFixture::settle();
         }
+        QCOMPARE(EditorFixture::text(field), u"[ 1, 7, 3 ]"_s);
+        QCOMPARE(TableInput(*m_fixture).openEditor(), nullptr);
     }
 
 private:
