@@ -23,7 +23,6 @@ private:
     QString layout(const QLayout* layout);
     QString item(const QLayout* layout, int index);
     QString window(const QWidget* window);
-    const QWidget* freshOf(const QWidget* widget) const;
 
     const QFrame m_frame;
     const QLabel m_label;

@@ -7,7 +7,7 @@
 #include <QDockWidget>
 
 #include <algorithm>
-#include <utility>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -113,12 +113,12 @@ private Q_SLOTS:
     {
         KnSFBool first;
         KnSFBool second;
-        auto* const editor = new ProbeFieldEditor;
+        auto editor = std::make_unique<ProbeFieldEditor>();
         const QPointer<QFrame> frame = editor->getFrame();
         QVERIFY(editor->getWidget() == frame && !frame->parent() && frame->children().isEmpty());
 
         QStringList steps;
-        const auto step = [&steps, editor](const char* name) {
+        const auto step = [&steps, &editor](const char* name) {
             steps << QLatin1String(name) + u": "_s + editor->log.join(u' ');
             editor->log.clear();
         };
@@ -172,7 +172,7 @@ private Q_SLOTS:
                 u"the former field changes: "_s, u"the field shown changes: update"_s,
                 u"the field changes behind unload: "_s,
                 u"once more: hide attach update show update"_s }));
-        delete editor;
+        editor.reset();
         QVERIFY(!frame);
         touch(second);
     }

@@ -94,26 +94,23 @@ private Q_SLOTS:
 
     void equalInAllSevenNumbers()
     {
+        void (*const sets[])(FieldRange&, int, int)
+            = { [](FieldRange& range, int a, int b) { range.setFloatRange(float(a), float(b)); },
+                  [](FieldRange& range, int a, int b) { range.setDoubleRange(a, b); },
+                  [](FieldRange& range, int a, int b) { range.setIntRange(a, b); } };
         FieldRange range;
-        QCOMPARE(toText(range), none);
-        void (*const changes[])(FieldRange&) = {
-            [](FieldRange& r) { r.setFloatRange(1, 2); },
-            [](FieldRange& r) { r.setFloatRange(1, 3); },
-            [](FieldRange& r) { r.setDoubleRange(1, 2); },
-            [](FieldRange& r) { r.setDoubleRange(1, 3); },
-            [](FieldRange& r) { r.setIntRange(1, 2); },
-            [](FieldRange& r) { r.setIntRange(1, 3); },
-            [](FieldRange& r) { r.setFloatRange(0, 3); },
-            [](FieldRange& r) { r.setDoubleRange(0, 3); },
-            [](FieldRange& r) { r.setIntRange(0, 3); },
-            [](FieldRange& r) { r.setBounded(true); },
-        };
-        for (const auto change : changes) {
-            const FieldRange before = range;
-            QVERIFY(range == before);
-            change(range);
-            QVERIFY(!(range == before));
+        for (const auto set : sets) {
+            for (const auto& [min, max] : { std::pair(1, 2), std::pair(1, 3), std::pair(0, 3) }) {
+                const FieldRange before = range;
+                QVERIFY(range == before);
+                set(range, min, max);
+                QVERIFY(!(range == before));
+            }
         }
+        QCOMPARE(toText(range), u"f 0 3 d 0 3 i 0 3 free"_s);
+        const FieldRange before = range;
+        range.setBounded(true);
+        QVERIFY(!(range == before));
         range.setDoubleRange(0.1, 1e39); // held in 32 bits
         QCOMPARE(double(range.getDoubleMin()), 0.10000000149011612);
         QVERIFY(qIsInf(range.getDoubleMax()));
@@ -122,16 +119,12 @@ private Q_SLOTS:
     void theBaseOfAText_data()
     {
         QTest::addColumn<int>("base");
-        QTest::newRow("0x1f") << 16;
-        QTest::newRow("0x1") << 16;
-        QTest::newRow("0X1f") << 10;
-        QTest::newRow("0x") << 8;
-        QTest::newRow("07") << 8;
-        QTest::newRow("17") << 10;
-        QTest::newRow("017") << 10;
-        QTest::newRow("0") << 10;
-        QTest::newRow("-0x1") << 10;
-        QTest::newRow("") << 10;
+        for (const char* text : { "0x1f", "0x1" })
+            QTest::newRow(text) << 16;
+        for (const char* text : { "0x", "07" })
+            QTest::newRow(text) << 8;
+        for (const char* text : { "", "0", "17", "017", "-0x1", "0X1f" })
+            QTest::newRow(text) << 10;
     }
     void theBaseOfAText()
     {
