@@ -154,21 +154,24 @@ private Q_SLOTS:
         QCOMPARE(m_fixture->commands() + shortcuts, 0);
     }
 
+    void tabOpensTheNextRow_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::newRow("slider") << "MFFloat";
+        QTest::newRow("line") << "MFDouble";
+    }
+
     void tabOpensTheNextRow()
     {
-        for (const char* type : { "MFFloat", "MFDouble" }) {
-            KnField& field = m_fixture->show(type, "[ 1, 2, 3 ]");
-            m_fixture->table().type(0, 0, QStringLiteral("5"));
-            for (const int key : { Qt::Key_6, Qt::Key_7 }) {
-                m_fixture->press(Qt::Key_Tab);
-                m_fixture->press(key);
-            }
-            m_fixture->press(Qt::Key_Return);
-            QCOMPARE(EditorFixture::text(&field), QStringLiteral("[ 5, 6, 7 ]"));
-            // The table takes the keys again.
-            m_fixture->press(Qt::Key_Up);
-            QCOMPARE(m_fixture->table()->currentRow(), 1);
-        }
+        QFETCH(QString, type);
+        KnField& field = m_fixture->show(type, QStringLiteral("[ 1, 2, 3 ]"));
+        m_fixture->table().type(0, 0, QStringLiteral("5"));
+        for (const int key : { Qt::Key_Tab, Qt::Key_6, Qt::Key_Tab, Qt::Key_7, Qt::Key_Return })
+            m_fixture->press(key);
+        QCOMPARE(EditorFixture::text(&field), QStringLiteral("[ 5, 6, 7 ]"));
+        // The table takes the keys again.
+        m_fixture->press(Qt::Key_Up);
+        QCOMPARE(m_fixture->table()->currentRow(), 1);
     }
 
     void whatIsTypedReachesItsRowOrNone_data()
