@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QLineEdit>
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
@@ -13,11 +14,12 @@ inline void clickThroughWindow(const QWidget* widget, const QPoint& offset = QPo
         widget->mapTo(widget->window(), offset));
 }
 
-/// Another window comes to the front of `window`, and goes again.
+/// Another window comes to the front of `window`, with the focus in a line, and goes again.
 inline void inAnotherWindow(QWidget* window)
 {
-    QWidget other;
+    QLineEdit other;
     other.show();
+    other.setFocus();
     other.activateWindow();
     if (!QTest::qWaitForWindowActive(&other))
         qFatal("the other window isn't active");
