@@ -57,8 +57,8 @@ std::optional<QByteArray> readInputFile(const QString& fileName, qint64 maxSize,
 
     const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     QFile file;
-    if (descriptor < 0 || ::fstat(descriptor, &info) != 0
-        || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)
+        || ::fstat(descriptor, &info) != 0) {
         *error = qt_error_string(errno);
         return std::nullopt;
     }
