@@ -123,14 +123,15 @@ private Q_SLOTS:
             for (; !stop.stop_requested(); ++posted)
                 KnReadError::post("foreign");
         });
-        const QByteArray json
-            = sceneWith(R"({ "type": "Text", "fields": { "size": "1", "spacing": "x" } })");
+        // Long enough for others to post while it is read.
+        const QByteArray json = sceneWith(R"({ "type": "Coordinates", "fields": { "point": "[)"
+            + QByteArray("1 2 3, ").repeated(20000) + R"(x]" } })");
         SceneReader reader;
-        for (int i = 0; i < 100; ++i) {
-            QVERIFY(!reader.readText(json, u"bad.json"_s));
-            QVERIFY2(reader.errorText().contains(u"(SFFloat)"), qPrintable(reader.errorText()));
-        }
         QTRY_VERIFY(heard > 0);
+        for (int i = 0; i < 20; ++i) {
+            QVERIFY(!reader.readText(json, u"bad.json"_s));
+            QVERIFY2(reader.errorText().contains(u"(MFVec3f)"), qPrintable(reader.errorText()));
+        }
         other.request_stop();
         other.join();
         QCOMPARE(heard, posted);
