@@ -100,14 +100,14 @@ private Q_SLOTS:
                   [](FieldRange& range, int a, int b) { range.setIntRange(a, b); } };
         FieldRange range;
         for (const auto set : sets) {
-            for (const auto& [min, max] : { std::pair(1, 2), std::pair(1, 3), std::pair(0, 3) }) {
+            for (const auto& [min, max] : { std::pair(0, 2), std::pair(0, 3), std::pair(1, 3) }) {
                 const FieldRange before = range;
                 QVERIFY(range == before);
                 set(range, min, max);
                 QVERIFY(!(range == before));
             }
         }
-        QCOMPARE(toText(range), u"f 0 3 d 0 3 i 0 3 free"_s);
+        QCOMPARE(toText(range), u"f 1 3 d 1 3 i 1 3 free"_s);
         const FieldRange before = range;
         range.setBounded(true);
         QVERIFY(!(range == before));
