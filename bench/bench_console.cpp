@@ -1,22 +1,30 @@
 // SPDX-License-Identifier: BSD-3-Clause
 // The cost of a message in the console against a bare QTextEdit that is given the same setTextColor
-// and append, as the text grows. Both views stand in the same form and get their messages in turns.
+// and append, as the text grows; then a flood of lines from other threads, and lines of ten million
+// characters. Both views stand in the same form and get their messages in turns.
 //
-// Usage: bench_console [messages]
+// Usage: bench_console [messages] [lines of the flood]
 #include "CrvConsole.h"
 #include "CrvShell.h"
+#include "KnReadError.h"
 
 #include <QApplication>
 #include <QDockWidget>
 #include <QElapsedTimer>
+#include <QHash>
 #include <QMainWindow>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QTimer>
 
+#include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -62,6 +70,79 @@ double measure(Work work)
 }
 
 QString message(int i) { return QStringLiteral("message %1 of the program").arg(i); }
+
+constexpr int floodThreads = 16;
+
+/// Runs the event loop until the view holds that many lines, and prints what it took and for how
+/// long at most a timer, and so input, had to wait.
+void runUntil(const QTextEdit& view, int lines, const char* what)
+{
+    QElapsedTimer total;
+    QElapsedTimer turn;
+    qint64 longest = 0;
+    QEventLoop loop;
+    QTimer tick;
+    QObject::connect(&tick, &QTimer::timeout, &loop, [&] {
+        longest = std::max(longest, turn.restart());
+        if (view.document()->blockCount() >= lines)
+            loop.quit();
+    });
+    total.start();
+    turn.start();
+    tick.start(1);
+    loop.exec();
+    std::printf("%-28s %8.2f s, longest stall %6lld ms\n", what,
+        static_cast<double>(total.elapsed()) / 1000, static_cast<long long>(longest));
+}
+
+/// Lets the threads print their lines and shows them; answers how many are lost or out of order.
+template <class Print>
+int flood(const QTextEdit& view, int lines, const char* what, Print print)
+{
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < floodThreads; ++thread) {
+        threads.emplace_back([=] {
+            for (int i = 0; i < lines / floodThreads; ++i)
+                print(QStringLiteral("%1 %2 of the flood").arg(thread).arg(i));
+        });
+    }
+    runUntil(view, lines, what);
+    for (std::thread& thread : threads)
+        thread.join();
+    QHash<int, int> next;
+    int wrong = 0;
+    for (QTextBlock line = view.document()->begin(); line.isValid(); line = line.next()) {
+        const QStringList words = line.text().split(QLatin1Char(' '));
+        wrong += words.value(1).toInt() == next[words[0].toInt()]++ ? 0 : 1;
+    }
+    return wrong + lines - view.document()->blockCount();
+}
+
+void showLongLines(QTextEdit& view)
+{
+    constexpr int length = 10000000;
+    QByteArray dense(length, 'x');
+    QByteArray words = dense;
+    for (int i = 7; i < length; i += 8)
+        words[i] = ' ';
+    const struct {
+        const char* what;
+        const QByteArray& text;
+    } lines[] = { { "10 MB with blanks", words }, { "10 MB without a blank", dense },
+        { "another one", dense }, { "a short line behind it", "short" } };
+    for (const auto& [what, text] : lines) {
+        QElapsedTimer timer;
+        timer.start();
+        std::cout << text.constData();
+        const qint64 shown = timer.restart();
+        view.viewport()->repaint();
+        std::printf("%-28s %8.2f s, and %lld ms to draw it\n", what,
+            static_cast<double>(shown) / 1000, static_cast<long long>(timer.elapsed()));
+    }
+    const qsizetype all = 3 * qsizetype(length) + 5 + 3;
+    if (view.toPlainText().size() != all)
+        std::printf("the long lines are not whole\n");
+}
 
 } // namespace
 
@@ -111,20 +192,38 @@ int main(int argc, char** argv)
     }
     std::printf("stream text, ratio over all: %.3f\n", consoleTotal / bareTotal);
 
-    // The same number again from another thread, by posted events.
-    double posted = measure([&] {
-        std::thread([&] {
-            for (int i = 0; i < messages; ++i)
-                printStream(i);
-        }).join();
-    });
-    posted += measure([] { QCoreApplication::sendPostedEvents(); });
-    std::printf("the next %d from another thread: console %.0f ns\n", messages, posted / messages);
     const int shown = console.m_consoleOutput->document()->blockCount();
-    if (shown != 2 * next)
-        std::printf("%d messages were lost\n", 2 * next - shown);
+
+    const int lines = (argc > 2 ? std::atoi(argv[2]) : 1000000) / floodThreads * floodThreads;
+    std::printf("%d lines from %d threads\n", lines, floodThreads);
+    console.clear();
+    bare.form.m_consoleOutput->clear();
+    const int wrong = flood(*console.m_consoleOutput, lines, "  console",
+        [](const QString& line) { std::cout << line.toStdString(); });
+    const int wrongErrors = [&] {
+        console.clear();
+        return flood(*console.m_consoleOutput, lines, "  console, kernel errors",
+            [](const QString& line) { KnReadError::post(line.toUtf8().constData()); });
+    }();
+    console.clear();
+    QTextEdit* const view = bare.form.m_consoleOutput;
+    flood(*view, lines, "  bare view, queued calls", [view](const QString& line) {
+        QMetaObject::invokeMethod(
+            view,
+            [view, line] {
+                view->setTextColor(Qt::darkGreen);
+                view->append(line);
+            },
+            Qt::QueuedConnection);
+    });
+    bare.form.m_consoleOutput->clear();
+    showLongLines(*console.m_consoleOutput);
 
     console.deactivate();
     console.unload();
-    return shown == 2 * next ? 0 : 1;
+    if (shown != next || wrong != 0 || wrongErrors != 0) {
+        std::printf("lost or out of order: %d, %d and %d\n", next - shown, wrong, wrongErrors);
+        return 1;
+    }
+    return 0;
 }

@@ -16,6 +16,7 @@
 #include <QFileDialog>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QTextBoundaryFinder>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QThread>
@@ -28,6 +29,56 @@ namespace {
 constexpr int consoleEventType = QEvent::User;
 
 enum OutputType { ErrorOutput = 0, InfoOutput = 1, WarningOutput = 2 };
+
+// A second press of a button is felt after 100 ms and more. Waiting, a slice, its layout and the
+// drawing together stay below that.
+constexpr std::chrono::milliseconds patience { 50 };
+constexpr int sliceMilliseconds = 20;
+// Inserting text takes next to no time, laying it out some 0.1 us a character.
+constexpr qsizetype sliceCharacters = 100000;
+// A slow machine shows this much in any case, so that a handful of messages comes in one turn.
+constexpr qsizetype sliceLeast = 4096;
+
+// Some thousand lines on their way: enough for several slices, soon shown.
+constexpr std::size_t brakeLimit = 1 << 20;
+constexpr std::size_t messageWeight = 256; // of a posted event without its text
+
+constexpr qsizetype longWord = 4000;
+
+/// Whether the text has a stretch without a place to break a line.
+bool hasLongWord(const QString& text)
+{
+    if (text.size() < longWord)
+        return false;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    qsizetype start = 0;
+    for (qsizetype end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
+        if (end - start >= longWord)
+            return true;
+        start = end;
+    }
+    return false;
+}
+
+/// Keeps a view that stands at its end there, while text is added behind it.
+class StayAtEnd {
+public:
+    explicit StayAtEnd(const QTextEdit& view)
+        : m_bar(view.verticalScrollBar())
+        , m_atEnd(m_bar->value() >= m_bar->maximum())
+    {
+    }
+    ~StayAtEnd()
+    {
+        if (m_atEnd)
+            m_bar->setValue(m_bar->maximum());
+    }
+    Q_DISABLE_COPY_MOVE(StayAtEnd)
+
+private:
+    QScrollBar* const m_bar;
+    const bool m_atEnd;
+};
 
 struct ErrorClass {
     KnErrorCallback (*getCallback)();
@@ -56,33 +107,64 @@ CrvConsole::ConsoleEvent::ConsoleEvent(const QString& text)
 {
 }
 
+/// Text that another thread printed; it gives its place up when it is shown or dropped.
+class CrvConsole::PrintEvent : public ConsoleEvent {
+public:
+    PrintEvent(const QString& text, PrintBrake::Place&& messagePlace)
+        : ConsoleEvent(text)
+        , place(std::move(messagePlace))
+    {
+    }
+
+    PrintBrake::Place place;
+};
+
+void CrvConsole::Slice::start()
+{
+    m_clock.start();
+    m_characters = 0;
+}
+
+bool CrvConsole::Slice::isSpent() const
+{
+    return m_characters >= sliceCharacters
+        || (m_characters >= sliceLeast && m_clock.elapsed() >= sliceMilliseconds);
+}
+
 CrvConsole::CrvConsole()
     : m_errorColor(Qt::darkRed)
     , m_infoColor(Qt::darkGreen)
     , m_warningColor(Qt::darkYellow)
+    , m_brake(brakeLimit, patience)
 {
     static_assert(std::size(errorClasses) == errorClassCount);
     m_name = "Console";
     m_description = "A console which prints the standard output and error.";
     m_author = "Orbel";
     m_version = "1.0.0";
+    m_nextSlice.setSingleShot(true);
+    connect(&m_nextSlice, &QTimer::timeout, this, &CrvConsole::showSlice);
 }
 
 CrvConsole::~CrvConsole()
 {
     // Streams and handlers mustn't keep a console that its host forgot to unload.
+    m_brake.setEngaged(false);
     releaseStream(m_cerrRedirector);
     releaseStream(m_coutRedirector);
-    if (m_dock)
-        CrvConsole::unload();
+    CrvConsole::unload();
+    // A message holds a place of the brake.
+    QCoreApplication::removePostedEvents(this, consoleEventType);
 }
 
 bool CrvConsole::event(QEvent* e)
 {
     if (e->type() == consoleEventType) {
         // Any code may post an event of this number.
-        if (const auto* const message = dynamic_cast<ConsoleEvent*>(e))
-            addMessage(message->getText(), message->getOutputType());
+        if (auto* const printed = dynamic_cast<PrintEvent*>(e))
+            take({ printed->getText(), printed->getOutputType(), std::move(printed->place) });
+        else if (const auto* const message = dynamic_cast<ConsoleEvent*>(e))
+            take({ message->getText(), message->getOutputType(), {} });
     }
     return QObject::event(e);
 }
@@ -121,6 +203,12 @@ void CrvConsole::load()
 
 void CrvConsole::unload()
 {
+    // Without `load` there are no handlers to give back.
+    if (!m_dock)
+        return;
+    m_nextSlice.stop();
+    m_backlog.clear();
+    m_echoes.clear();
     delete m_frame;
     m_frame = nullptr;
     delete m_dock;
@@ -138,6 +226,7 @@ void CrvConsole::activate()
     m_dock->setWidget(m_frame);
     m_dock->setWindowTitle(QStringLiteral("Console"));
     if (KnPreferences::getBool("CORVANE_STDOUT_CAPTURE", 1)) {
+        m_brake.setEngaged(true);
         m_cerrRedirector = captureStream(std::cerr, &takeStreamText<ErrorOutput>, this);
         m_coutRedirector = captureStream(std::cout, &takeStreamText<InfoOutput>, this);
     }
@@ -149,6 +238,8 @@ void CrvConsole::deactivate()
 {
     CrvExtension::deactivate();
     m_dock->setWidget(nullptr);
+    // Releasing a stream waits for the threads inside of it.
+    m_brake.setEngaged(false);
     releaseStream(m_cerrRedirector);
     releaseStream(m_coutRedirector);
     m_cerrRedirector = nullptr;
@@ -182,8 +273,10 @@ void CrvConsole::takeError(const KnError* error, void* data)
         else if (severity == KnDebugError::Info)
             outputType = InfoOutput;
     }
-    static_cast<CrvConsole*>(data)->post(
-        QString::fromStdString(error->getDebugString().toUtf8()), outputType);
+    // Nothing more: the kernel's lock is held, for which other threads wait.
+    auto* const event = new ConsoleEvent(QString::fromStdString(error->getDebugString().toUtf8()));
+    event->setOutputType(outputType);
+    QCoreApplication::postEvent(static_cast<CrvConsole*>(data), event, 0);
 }
 
 template <int outputType>
@@ -191,43 +284,139 @@ void CrvConsole::takeStreamText(const char* text, std::streamsize count, void* u
 {
     auto* const console = static_cast<CrvConsole*>(userData);
     const QString message = QString::fromUtf8(text, static_cast<qsizetype>(count));
-    // What the view itself prints while it takes a message (a host's message handler may write to
-    // a stream) waits, since a document can't be changed from inside its own layout.
-    if (QThread::currentThread() == console->thread() && !console->m_appending)
-        console->addMessage(message, outputType);
-    else
-        console->post(message, outputType);
-}
-
-void CrvConsole::post(const QString& text, int outputType)
-{
-    auto* const event = new ConsoleEvent(text);
+    if (QThread::currentThread() == console->thread()) {
+        console->print(message, outputType);
+        return;
+    }
+    auto* const event = new PrintEvent(
+        message, console->m_brake.enter(messageWeight + static_cast<std::size_t>(count)));
     event->setOutputType(outputType);
-    QCoreApplication::postEvent(this, event, 0);
+    QCoreApplication::postEvent(console, event, 0);
 }
 
-void CrvConsole::addMessage(const QString& text, int outputType)
+void CrvConsole::print(const QString& text, int outputType)
 {
     if (!m_frame)
         return;
-    const QScopedValueRollback<bool> appending(m_appending, true);
-    switch (outputType) {
+    // What the view itself prints while it takes a message (a host's message handler may write to
+    // a stream) waits, since a document can't be changed from inside its own layout. It stays in
+    // front of what this thread prints later.
+    if (m_appending) {
+        m_echoes.push_back({ text, outputType, {} });
+        return;
+    }
+    changeView([&] {
+        showEchoes();
+        addMessage({ text, outputType, {} });
+    });
+}
+
+void CrvConsole::take(Message message)
+{
+    if (!m_frame)
+        return;
+    // Qt delivers posted events until there is none left, before it looks at input.
+    goOnLater();
+    if (m_appending || !m_backlog.empty() || m_slice.isSpent()) {
+        m_backlog.push_back(std::move(message));
+        return;
+    }
+    m_slice.count(message.text);
+    changeView([&] { addMessage(message); });
+}
+
+void CrvConsole::goOnLater()
+{
+    if (m_nextSlice.isActive())
+        return;
+    m_slice.start();
+    m_nextSlice.start();
+}
+
+void CrvConsole::showSlice()
+{
+    // An event loop inside of the view's own signals; changeView goes on.
+    if (m_appending)
+        return;
+    m_slice.start();
+    changeView([this] {
+        showEchoes();
+        showBacklog();
+    });
+}
+
+template <class Work>
+void CrvConsole::changeView(Work work)
+{
+    {
+        const QScopedValueRollback<bool> appending(m_appending, true);
+        work();
+    }
+    if (!m_backlog.empty() || !m_echoes.empty())
+        goOnLater();
+}
+
+void CrvConsole::showEchoes()
+{
+    // Only those of now: showing one may bring the next.
+    for (auto count = m_echoes.size(); count > 0; --count) {
+        const Message message = std::move(m_echoes.front());
+        m_echoes.pop_front();
+        addMessage(message);
+    }
+}
+
+void CrvConsole::showBacklog()
+{
+    if (m_backlog.empty())
+        return;
+    const StayAtEnd stayAtEnd(*m_consoleOutput);
+    const auto isLong = [this] { return m_backlog.front().text.size() >= longWord; };
+    const auto showFirst = [this] {
+        const Message message = std::move(m_backlog.front());
+        m_backlog.pop_front();
+        m_slice.count(message.text);
+        addMessage(message);
+    };
+    // It may change the way that lines are broken, which takes a layout that is up to date.
+    if (isLong()) {
+        showFirst();
+        return;
+    }
+    // One layout for all of them: for each message by itself it takes ten times as long.
+    QTextCursor all(m_consoleOutput->document());
+    all.beginEditBlock();
+    while (!m_backlog.empty() && !isLong() && !m_slice.isSpent())
+        showFirst();
+    all.endEditBlock();
+}
+
+void CrvConsole::addMessage(const Message& message)
+{
+    switch (message.outputType) {
     case InfoOutput:
         if (m_showInfos)
-            append(text, m_infoColor);
+            append(message.text, m_infoColor);
         break;
     case WarningOutput:
         if (m_showWarnings)
-            append(text, m_warningColor);
+            append(message.text, m_warningColor);
         break;
     default:
         if (m_showErrors)
-            append(text, m_errorColor);
+            append(message.text, m_errorColor);
     }
 }
 
 void CrvConsole::append(const QString& text, const QColor& color)
 {
+    // The view's wrapping at words looks for the end of the word anew in each line that a long word
+    // fills: 300,000 characters without a blank take seconds and ten million never end. Wrapping
+    // anywhere takes the same time for each character, and unlike no wrapping at all it leaves
+    // everything within the view's width. It is for the whole view, so that it holds from the first
+    // such word until the view is empty; lines of a log wrap at their words otherwise.
+    if (m_consoleOutput->wordWrapMode() != QTextOption::WrapAnywhere && hasLongWord(text))
+        m_consoleOutput->setWordWrapMode(QTextOption::WrapAnywhere);
     // The view's own append would take a text that looks like mark-up for mark-up, and setting a
     // colour would give it to the text that the user has selected.
     if (!Qt::mightBeRichText(text) && !m_consoleOutput->textCursor().hasSelection()) {
@@ -235,8 +424,7 @@ void CrvConsole::append(const QString& text, const QColor& color)
         m_consoleOutput->append(text);
         return;
     }
-    QScrollBar* const bar = m_consoleOutput->verticalScrollBar();
-    const bool atEnd = bar->value() >= bar->maximum();
+    const StayAtEnd stayAtEnd(*m_consoleOutput);
     QTextCharFormat format;
     format.setForeground(color);
     QTextCursor cursor(m_consoleOutput->document());
@@ -246,11 +434,13 @@ void CrvConsole::append(const QString& text, const QColor& color)
         cursor.insertBlock(QTextBlockFormat(), format);
     cursor.insertText(text, format);
     cursor.endEditBlock();
-    if (atEnd)
-        bar->setValue(bar->maximum());
 }
 
-void CrvConsole::clear() { m_consoleOutput->clear(); }
+void CrvConsole::clear()
+{
+    m_consoleOutput->clear();
+    m_consoleOutput->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
 
 void CrvConsole::outputErrors() { m_showErrors = !m_showErrors; }
 

@@ -3,11 +3,16 @@
 
 #include "CrvExtension.h"
 #include "KnError.h"
+#include "PrintBrake.h"
 #include "StdStreamRedirector.h"
 #include "ui_CrvConsole.h"
 
 #include <QColor>
+#include <QElapsedTimer>
 #include <QEvent>
+#include <QTimer>
+
+#include <deque>
 
 class QDockWidget;
 
@@ -16,9 +21,13 @@ class QDockWidget;
 /// from `load` to `unload`. Each message is a paragraph in the colour of its class; three buttons
 /// decide which classes are let in when a message arrives.
 ///
-/// The view is touched on the user interface thread only. A message from another thread crosses as
-/// a ConsoleEvent, so that the messages of one thread keep their order; one that is still on its
-/// way at `unload` is dropped.
+/// The view is touched on the user interface thread only. What that thread prints is shown at once.
+/// A message from another thread crosses as a ConsoleEvent. When more arrive than a turn of the
+/// event loop has time for, the rest waits and is shown in slices, between which the window takes
+/// input; threads that print wait a little for a view that is far behind (see PrintBrake), those
+/// that report an error never do. The messages of one thread keep their order, and none is lost but
+/// what is still on its way at `unload`. `deactivate` drops nothing: the view lives on, and what
+/// was printed before is shown by later slices.
 class CrvConsole : public CrvExtension, public Ui::m_consoleFrame {
     Q_OBJECT
 public:
@@ -53,9 +62,10 @@ public:
     void unload() override;
 
 public Q_SLOTS:
-    /// Empties the view.
+    /// Empties the view. Messages that wait are still to come, since nobody has seen them yet.
     void clear();
-    // Each lets in messages of its class if it didn't, and the other way round.
+    // Each lets in messages of its class if it didn't, and the other way round. It holds for those
+    // that wait as well, so that this is how somebody stops a flood.
     void outputErrors();
     void outputInfos();
     void outputWarnings();
@@ -69,9 +79,37 @@ private:
     template <int outputType>
     static void takeStreamText(const char* text, std::streamsize count, void* userData);
 
-    void post(const QString& text, int outputType);
-    void addMessage(const QString& text, int outputType);
+    class PrintEvent;
+
+    struct Message {
+        QString text;
+        int outputType;
+        PrintBrake::Place place;
+    };
+
+    /// What is shown between two looks at the event loop.
+    class Slice {
+    public:
+        void start();
+        void count(const QString& text) { m_characters += text.size() + perMessage; }
+        bool isSpent() const;
+
+    private:
+        static constexpr qsizetype perMessage = 64;
+        QElapsedTimer m_clock;
+        qsizetype m_characters = 0;
+    };
+
+    void print(const QString& text, int outputType);
+    void take(Message message);
+    void showSlice();
+    void showEchoes();
+    void showBacklog();
+    void addMessage(const Message& message);
     void append(const QString& text, const QColor& color);
+    template <class Work>
+    void changeView(Work work);
+    void goOnLater();
 
     bool m_showErrors = true;
     bool m_showInfos = true;
@@ -86,4 +124,9 @@ private:
     StdStreamRedirector<char>* m_cerrRedirector = nullptr; // given back to releaseStream
     StdStreamRedirector<char>* m_coutRedirector = nullptr; // given back to releaseStream
     bool m_appending = false; // a message is going into the view
+    PrintBrake m_brake;
+    std::deque<Message> m_backlog; // messages from the event queue
+    std::deque<Message> m_echoes; // what this thread printed while a message went into the view
+    QTimer m_nextSlice { this };
+    Slice m_slice;
 };
