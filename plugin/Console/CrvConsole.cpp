@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvConsole.h"
 
+#include "ConsoleText.h"
 #include "CrvShell.h"
 #include "KnDebugError.h"
 #include "KnErrorStack.h"
@@ -15,8 +16,6 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QScopedValueRollback>
-#include <QScrollBar>
-#include <QTextBoundaryFinder>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QThread>
@@ -42,43 +41,6 @@ constexpr qsizetype sliceLeast = 4096;
 // Some thousand lines on their way: enough for several slices, soon shown.
 constexpr std::size_t brakeLimit = 1 << 20;
 constexpr std::size_t messageWeight = 256; // of a posted event without its text
-
-constexpr qsizetype longWord = 4000;
-
-/// Whether the text has a stretch without a place to break a line.
-bool hasLongWord(const QString& text)
-{
-    if (text.size() < longWord)
-        return false;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
-    qsizetype start = 0;
-    for (qsizetype end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
-        if (end - start >= longWord)
-            return true;
-        start = end;
-    }
-    return false;
-}
-
-/// Keeps a view that stands at its end there, while text is added behind it.
-class StayAtEnd {
-public:
-    explicit StayAtEnd(const QTextEdit& view)
-        : m_bar(view.verticalScrollBar())
-        , m_atEnd(m_bar->value() >= m_bar->maximum())
-    {
-    }
-    ~StayAtEnd()
-    {
-        if (m_atEnd)
-            m_bar->setValue(m_bar->maximum());
-    }
-    Q_DISABLE_COPY_MOVE(StayAtEnd)
-
-private:
-    QScrollBar* const m_bar;
-    const bool m_atEnd;
-};
 
 struct ErrorClass {
     KnErrorCallback (*getCallback)();
@@ -350,6 +312,7 @@ void CrvConsole::changeView(Work work)
 {
     {
         const QScopedValueRollback<bool> appending(m_appending, true);
+        const KeepPlace keepPlace(*m_consoleOutput);
         work();
     }
     if (!m_backlog.empty() || !m_echoes.empty())
@@ -370,7 +333,6 @@ void CrvConsole::showBacklog()
 {
     if (m_backlog.empty())
         return;
-    const StayAtEnd stayAtEnd(*m_consoleOutput);
     const auto isLong = [this] { return m_backlog.front().text.size() >= longWord; };
     const auto showFirst = [this] {
         const Message message = std::move(m_backlog.front());
@@ -393,54 +355,23 @@ void CrvConsole::showBacklog()
 
 void CrvConsole::addMessage(const Message& message)
 {
+    QTextEdit& view = *m_consoleOutput;
     switch (message.outputType) {
     case InfoOutput:
         if (m_showInfos)
-            append(message.text, m_infoColor);
+            appendMessage(view, message.text, m_infoColor);
         break;
     case WarningOutput:
         if (m_showWarnings)
-            append(message.text, m_warningColor);
+            appendMessage(view, message.text, m_warningColor);
         break;
     default:
         if (m_showErrors)
-            append(message.text, m_errorColor);
+            appendMessage(view, message.text, m_errorColor);
     }
 }
 
-void CrvConsole::append(const QString& text, const QColor& color)
-{
-    // The view's wrapping at words looks for the end of the word anew in each line that a long word
-    // fills: 300,000 characters without a blank take seconds and ten million never end. Wrapping
-    // anywhere takes the same time for each character, and unlike no wrapping at all it leaves
-    // everything within the view's width. It is for the whole view, so that it holds from the first
-    // such word until the view is empty; lines of a log wrap at their words otherwise.
-    if (m_consoleOutput->wordWrapMode() != QTextOption::WrapAnywhere && hasLongWord(text))
-        m_consoleOutput->setWordWrapMode(QTextOption::WrapAnywhere);
-    // The view's own append would take a text that looks like mark-up for mark-up, and setting a
-    // colour would give it to the text that the user has selected.
-    if (!Qt::mightBeRichText(text) && !m_consoleOutput->textCursor().hasSelection()) {
-        m_consoleOutput->setTextColor(color);
-        m_consoleOutput->append(text);
-        return;
-    }
-    const StayAtEnd stayAtEnd(*m_consoleOutput);
-    QTextCharFormat format;
-    format.setForeground(color);
-    QTextCursor cursor(m_consoleOutput->document());
-    cursor.beginEditBlock();
-    cursor.movePosition(QTextCursor::End);
-    if (!m_consoleOutput->document()->isEmpty())
-        cursor.insertBlock(QTextBlockFormat(), format);
-    cursor.insertText(text, format);
-    cursor.endEditBlock();
-}
-
-void CrvConsole::clear()
-{
-    m_consoleOutput->clear();
-    m_consoleOutput->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-}
+void CrvConsole::clear() { clearMessages(*m_consoleOutput); }
 
 void CrvConsole::outputErrors() { m_showErrors = !m_showErrors; }
 

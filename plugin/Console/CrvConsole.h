@@ -106,7 +106,6 @@ private:
     void showEchoes();
     void showBacklog();
     void addMessage(const Message& message);
-    void append(const QString& text, const QColor& color);
     template <class Work>
     void changeView(Work work);
     void goOnLater();
