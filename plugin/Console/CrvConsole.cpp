@@ -15,9 +15,6 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QFileDialog>
-#include <QScopedValueRollback>
-#include <QTextCursor>
-#include <QTextDocument>
 #include <QThread>
 
 #include <iostream>
@@ -29,15 +26,9 @@ constexpr int consoleEventType = QEvent::User;
 
 enum OutputType { ErrorOutput = 0, InfoOutput = 1, WarningOutput = 2 };
 
-// A second press of a button is felt after 100 ms and more. Waiting, a slice, its layout and the
-// drawing together stay below that.
+// How long a thread that prints waits for the view; with a slice of messages it stays below what a
+// person notices.
 constexpr std::chrono::milliseconds patience { 50 };
-constexpr int sliceMilliseconds = 20;
-// Inserting text takes next to no time, laying it out some 0.1 us a character.
-constexpr qsizetype sliceCharacters = 100000;
-// A slow machine shows this much in any case, so that a handful of messages comes in one turn.
-constexpr qsizetype sliceLeast = 4096;
-
 // Some thousand lines on their way: enough for several slices, soon shown.
 constexpr std::size_t brakeLimit = 1 << 20;
 constexpr std::size_t messageWeight = 256; // of a posted event without its text
@@ -81,31 +72,18 @@ public:
     PrintBrake::Place place;
 };
 
-void CrvConsole::Slice::start()
-{
-    m_clock.start();
-    m_characters = 0;
-}
-
-bool CrvConsole::Slice::isSpent() const
-{
-    return m_characters >= sliceCharacters
-        || (m_characters >= sliceLeast && m_clock.elapsed() >= sliceMilliseconds);
-}
-
 CrvConsole::CrvConsole()
     : m_errorColor(Qt::darkRed)
     , m_infoColor(Qt::darkGreen)
     , m_warningColor(Qt::darkYellow)
     , m_brake(brakeLimit, patience)
+    , m_feed([this](const MessageFeed::Message& message) { addMessage(message); })
 {
     static_assert(std::size(errorClasses) == errorClassCount);
     m_name = "Console";
     m_description = "A console which prints the standard output and error.";
     m_author = "Orbel";
     m_version = "1.0.0";
-    m_nextSlice.setSingleShot(true);
-    connect(&m_nextSlice, &QTimer::timeout, this, &CrvConsole::showSlice);
 }
 
 CrvConsole::~CrvConsole()
@@ -124,9 +102,10 @@ bool CrvConsole::event(QEvent* e)
     if (e->type() == consoleEventType) {
         // Any code may post an event of this number.
         if (auto* const printed = dynamic_cast<PrintEvent*>(e))
-            take({ printed->getText(), printed->getOutputType(), std::move(printed->place) });
+            m_feed.take(
+                { printed->getText(), printed->getOutputType(), std::move(printed->place) });
         else if (const auto* const message = dynamic_cast<ConsoleEvent*>(e))
-            take({ message->getText(), message->getOutputType(), {} });
+            m_feed.take({ message->getText(), message->getOutputType(), {} });
     }
     return QObject::event(e);
 }
@@ -145,6 +124,7 @@ void CrvConsole::load()
     m_consoleOutput->setPalette(light);
     // Nobody can undo a message, and keeping what that takes costs memory for each.
     m_consoleOutput->setUndoRedoEnabled(false);
+    m_feed.setView(m_consoleOutput);
 
     m_showErrors = m_showInfos = m_showWarnings = true;
     connect(m_clearButton, &QPushButton::clicked, this, &CrvConsole::clear);
@@ -168,9 +148,7 @@ void CrvConsole::unload()
     // Without `load` there are no handlers to give back.
     if (!m_dock)
         return;
-    m_nextSlice.stop();
-    m_backlog.clear();
-    m_echoes.clear();
+    m_feed.setView(nullptr);
     delete m_frame;
     m_frame = nullptr;
     delete m_dock;
@@ -247,7 +225,7 @@ void CrvConsole::takeStreamText(const char* text, std::streamsize count, void* u
     auto* const console = static_cast<CrvConsole*>(userData);
     const QString message = QString::fromUtf8(text, static_cast<qsizetype>(count));
     if (QThread::currentThread() == console->thread()) {
-        console->print(message, outputType);
+        console->m_feed.print({ message, outputType, {} });
         return;
     }
     auto* const event = new PrintEvent(
@@ -256,104 +234,7 @@ void CrvConsole::takeStreamText(const char* text, std::streamsize count, void* u
     QCoreApplication::postEvent(console, event, 0);
 }
 
-void CrvConsole::print(const QString& text, int outputType)
-{
-    if (!m_frame)
-        return;
-    // What the view itself prints while it takes a message (a host's message handler may write to
-    // a stream) waits, since a document can't be changed from inside its own layout. It stays in
-    // front of what this thread prints later.
-    if (m_appending) {
-        m_echoes.push_back({ text, outputType, {} });
-        return;
-    }
-    changeView([&] {
-        showEchoes();
-        addMessage({ text, outputType, {} });
-    });
-}
-
-void CrvConsole::take(Message message)
-{
-    if (!m_frame)
-        return;
-    // Qt delivers posted events until there is none left, before it looks at input.
-    goOnLater();
-    if (m_appending || !m_backlog.empty() || m_slice.isSpent()) {
-        m_backlog.push_back(std::move(message));
-        return;
-    }
-    m_slice.count(message.text);
-    changeView([&] { addMessage(message); });
-}
-
-void CrvConsole::goOnLater()
-{
-    if (m_nextSlice.isActive())
-        return;
-    m_slice.start();
-    m_nextSlice.start();
-}
-
-void CrvConsole::showSlice()
-{
-    // An event loop inside of the view's own signals; changeView goes on.
-    if (m_appending)
-        return;
-    m_slice.start();
-    changeView([this] {
-        showEchoes();
-        showBacklog();
-    });
-}
-
-template <class Work>
-void CrvConsole::changeView(Work work)
-{
-    {
-        const QScopedValueRollback<bool> appending(m_appending, true);
-        const KeepPlace keepPlace(*m_consoleOutput);
-        work();
-    }
-    if (!m_backlog.empty() || !m_echoes.empty())
-        goOnLater();
-}
-
-void CrvConsole::showEchoes()
-{
-    // Only those of now: showing one may bring the next.
-    for (auto count = m_echoes.size(); count > 0; --count) {
-        const Message message = std::move(m_echoes.front());
-        m_echoes.pop_front();
-        addMessage(message);
-    }
-}
-
-void CrvConsole::showBacklog()
-{
-    if (m_backlog.empty())
-        return;
-    const auto isLong = [this] { return m_backlog.front().text.size() >= longWord; };
-    const auto showFirst = [this] {
-        const Message message = std::move(m_backlog.front());
-        m_backlog.pop_front();
-        m_slice.count(message.text);
-        addMessage(message);
-    };
-    // It may change the way that lines are broken, which takes a layout that is up to date.
-    if (isLong()) {
-        showFirst();
-        return;
-    }
-    // One layout for all of them: for each message by itself it takes ten times as long.
-    QTextCursor all(m_consoleOutput->document());
-    all.beginEditBlock();
-    while (!m_backlog.empty() && !isLong() && !m_slice.isSpent())
-        showFirst();
-    all.endEditBlock();
-}
-
-void CrvConsole::addMessage(const Message& message)
+void CrvConsole::addMessage(const MessageFeed::Message& message)
 {
     QTextEdit& view = *m_consoleOutput;
     switch (message.outputType) {

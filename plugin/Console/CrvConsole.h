@@ -3,16 +3,13 @@
 
 #include "CrvExtension.h"
 #include "KnError.h"
+#include "MessageFeed.h"
 #include "PrintBrake.h"
 #include "StdStreamRedirector.h"
 #include "ui_CrvConsole.h"
 
 #include <QColor>
-#include <QElapsedTimer>
 #include <QEvent>
-#include <QTimer>
-
-#include <deque>
 
 class QDockWidget;
 
@@ -81,34 +78,7 @@ private:
 
     class PrintEvent;
 
-    struct Message {
-        QString text;
-        int outputType;
-        PrintBrake::Place place;
-    };
-
-    /// What is shown between two looks at the event loop.
-    class Slice {
-    public:
-        void start();
-        void count(const QString& text) { m_characters += text.size() + perMessage; }
-        bool isSpent() const;
-
-    private:
-        static constexpr qsizetype perMessage = 64;
-        QElapsedTimer m_clock;
-        qsizetype m_characters = 0;
-    };
-
-    void print(const QString& text, int outputType);
-    void take(Message message);
-    void showSlice();
-    void showEchoes();
-    void showBacklog();
-    void addMessage(const Message& message);
-    template <class Work>
-    void changeView(Work work);
-    void goOnLater();
+    void addMessage(const MessageFeed::Message& message);
 
     bool m_showErrors = true;
     bool m_showInfos = true;
@@ -122,10 +92,6 @@ private:
     void* m_previousHandlerData[errorClassCount] = {}; // not owned
     StdStreamRedirector<char>* m_cerrRedirector = nullptr; // given back to releaseStream
     StdStreamRedirector<char>* m_coutRedirector = nullptr; // given back to releaseStream
-    bool m_appending = false; // a message is going into the view
-    PrintBrake m_brake;
-    std::deque<Message> m_backlog; // messages from the event queue
-    std::deque<Message> m_echoes; // what this thread printed while a message went into the view
-    QTimer m_nextSlice { this };
-    Slice m_slice;
+    PrintBrake m_brake; // outlives what is in the feed
+    MessageFeed m_feed;
 };

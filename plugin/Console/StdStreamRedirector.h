@@ -136,7 +136,9 @@ private:
     Callback m_callback = nullptr;
     void* m_userData = nullptr; // not owned
 
-    std::mutex m_mutex; // guards all of this
+    // Guards all of this. It stays as long as the object, also without a capture: a thread that
+    // comes late has to find out under it that the text goes to the stream's own buffer.
+    std::mutex m_mutex;
     std::condition_variable m_returned;
     std::vector<std::thread::id>
         m_callers; // threads inside the callback, once for each nested call
