@@ -43,7 +43,7 @@ void FieldListModel::setNode(KnFieldContainer* node)
 {
     beginResetModel();
     m_rows.clear();
-    m_node = NodePtr(node);
+    m_node = KnNodePtr(node);
     const KnFieldData* const data = node ? node->getContainerFieldData() : nullptr;
     for (int i = 0; data && i < data->getNum(); ++i) {
         m_rows.push_back(std::make_unique<Row>(

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "NodePtr.h"
+#include "KnNodePtr.h"
 
 #include <QAbstractTableModel>
 
@@ -40,6 +40,6 @@ private:
     QString text(const Row& row, int column) const;
     void refreshRow(const Row& row);
 
-    NodePtr m_node; // keeps the fields of the rows alive
+    KnNodePtr m_node; // keeps the fields of the rows alive
     std::vector<std::unique_ptr<Row>> m_rows;
 };

@@ -30,7 +30,7 @@ bool SceneDocument::isModified()
 bool SceneDocument::open(const QString& fileName, QString* error)
 {
     SceneReader reader;
-    NodePtr root = reader.readFile(fileName);
+    KnNodePtr root = reader.readFile(fileName);
     if (!root) {
         *error = reader.errorText();
         return false;
@@ -47,7 +47,7 @@ void SceneDocument::openStarter()
     [[maybe_unused]] const bool opened = starter.open(QIODevice::ReadOnly);
     Q_ASSERT(opened);
     SceneReader reader;
-    NodePtr root = reader.readText(starter.readAll(), starter.fileName());
+    KnNodePtr root = reader.readText(starter.readAll(), starter.fileName());
     Q_ASSERT_X(root, "SceneDocument", qPrintable(reader.errorText()));
     replace(std::move(root), QString());
 }
@@ -75,11 +75,14 @@ void SceneDocument::release()
 {
     CrvServices* const services = CrvServices::getInstance();
     services->selectNode(nullptr);
+    // A listener may have chosen something else of this scene, in answer to that.
+    if (services->getSelectedNode())
+        services->selectNode(nullptr);
     services->getUndoStack()->clear();
     m_changes.forgetNodes();
 }
 
-void SceneDocument::replace(NodePtr root, const QString& fileName)
+void SceneDocument::replace(KnNodePtr root, const QString& fileName)
 {
     release();
     std::swap(m_root, root); // the former one stays alive until the views have let go of it

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "NodePtr.h"
+#include "KnNodePtr.h"
 #include "SceneChanges.h"
 
 #include <QObject>
@@ -16,7 +16,7 @@ public:
     ~SceneDocument() override;
 
     /// Null before the first scene is opened.
-    const NodePtr& root() const { return m_root; }
+    const KnNodePtr& root() const { return m_root; }
     /// Empty for a scene that was never saved.
     const QString& fileName() const { return m_fileName; }
 
@@ -39,9 +39,9 @@ Q_SIGNALS:
 
 private:
     void release();
-    void replace(NodePtr root, const QString& fileName);
+    void replace(KnNodePtr root, const QString& fileName);
 
-    NodePtr m_root;
+    KnNodePtr m_root;
     QString m_fileName;
     SceneChanges m_changes;
 };

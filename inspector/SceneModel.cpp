@@ -50,7 +50,7 @@ struct SceneModel::Item {
         return nullptr;
     }
 
-    NodePtr node;
+    KnNodePtr node;
     Item* parent; // null for the root
     int row;
     std::vector<std::unique_ptr<Item>> children; // made by childItems()
@@ -63,7 +63,7 @@ SceneModel::SceneModel(QObject* parent)
 
 SceneModel::~SceneModel() = default;
 
-void SceneModel::setRoot(const NodePtr& root)
+void SceneModel::setRoot(const KnNodePtr& root)
 {
     beginResetModel();
     m_root = root ? std::make_unique<Item>(root.get(), nullptr, 0) : nullptr;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "NodePtr.h"
+#include "KnNodePtr.h"
 
 #include <QAbstractItemModel>
 
@@ -19,7 +19,7 @@ public:
     ~SceneModel() override;
 
     /// Null for an empty tree. The model holds a reference.
-    void setRoot(const NodePtr& root);
+    void setRoot(const KnNodePtr& root);
 
     /// Null for an index that isn't one of this model.
     KnFieldContainer* node(const QModelIndex& index) const;

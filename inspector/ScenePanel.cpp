@@ -64,7 +64,7 @@ ScenePanel::ScenePanel(QWidget* parent)
         &ScenePanel::showSelection);
 }
 
-void ScenePanel::setRoot(const NodePtr& root)
+void ScenePanel::setRoot(const KnNodePtr& root)
 {
     const QScopedValueRollback following(m_following, true);
     m_filterEdit->clear();

@@ -17,7 +17,7 @@ public:
     explicit ScenePanel(QWidget* parent = nullptr);
 
     /// Null for an empty tree.
-    void setRoot(const NodePtr& root);
+    void setRoot(const KnNodePtr& root);
     void focusFilter();
 
 private:

@@ -14,17 +14,17 @@
 
 #include <utility>
 
-NodePtr SceneReader::readFile(const QString& fileName) { return takeRoot(read(fileName)); }
+KnNodePtr SceneReader::readFile(const QString& fileName) { return takeRoot(read(fileName)); }
 
-NodePtr SceneReader::readText(const QByteArray& json, const QString& fileName)
+KnNodePtr SceneReader::readText(const QByteArray& json, const QString& fileName)
 {
     return takeRoot(readContent(json, fileName));
 }
 
-NodePtr SceneReader::takeRoot(bool accepted)
+KnNodePtr SceneReader::takeRoot(bool accepted)
 {
-    const NodePtr root = std::exchange(m_root, NodePtr());
-    return accepted ? root : NodePtr();
+    const KnNodePtr root = std::exchange(m_root, KnNodePtr());
+    return accepted ? root : KnNodePtr();
 }
 
 bool SceneReader::build(const QJsonValue& root)
@@ -45,39 +45,39 @@ bool SceneReader::build(const QJsonValue& root)
     return bool { m_root };
 }
 
-NodePtr SceneReader::readNode(const QJsonValue& value, const QString& path, int depth)
+KnNodePtr SceneReader::readNode(const QJsonValue& value, const QString& path, int depth)
 {
     using namespace SceneFormat;
     if (!checkObject(value, path, { Key::type, Key::name, Key::fields, Key::children }))
-        return NodePtr();
+        return KnNodePtr();
     const QJsonObject object = value.toObject();
 
-    const NodePtr node = createNode(object, path);
+    const KnNodePtr node = createNode(object, path);
     if (!node || !readFields(*node.get(), object.value(Key::fields), memberPath(path, Key::fields))
         || !readChildren(
             *node.get(), object.value(Key::children), memberPath(path, Key::children), depth))
-        return NodePtr();
+        return KnNodePtr();
     ++m_nodeCount;
     return node;
 }
 
-NodePtr SceneReader::createNode(const QJsonObject& object, const QString& path)
+KnNodePtr SceneReader::createNode(const QJsonObject& object, const QString& path)
 {
     using namespace SceneFormat;
     const QString typePath = memberPath(path, Key::type);
     const QJsonValue typeValue = object.value(Key::type);
     if (!checkString(typeValue, typePath))
-        return NodePtr();
+        return KnNodePtr();
     const KnType type = KnType::fromName(KbName(toKbString(typeValue.toString())));
     if (!type.isDerivedFrom(KnFieldContainer::getClassTypeId()) || !type.canCreateInstance()) {
         refuse(typePath, tr("unknown node type \"%1\"").arg(typeValue.toString()));
-        return NodePtr();
+        return KnNodePtr();
     }
     const QJsonValue name = object.value(Key::name);
     if (!name.isUndefined() && !checkString(name, memberPath(path, Key::name)))
-        return NodePtr();
+        return KnNodePtr();
 
-    NodePtr node(static_cast<KnFieldContainer*>(type.createInstance()));
+    KnNodePtr node(static_cast<KnFieldContainer*>(type.createInstance()));
     node->setName(KbName(toKbString(name.toString())));
     return node;
 }
@@ -144,7 +144,7 @@ bool SceneReader::readChildren(
         return refuse(path, tr("more than %1 levels of children").arg(SceneFormat::maxDepth));
     const QJsonArray children = value.toArray();
     for (qsizetype i = 0; i < children.size(); ++i) {
-        const NodePtr child = readNode(children.at(i), elementPath(path, i), depth + 1);
+        const KnNodePtr child = readNode(children.at(i), elementPath(path, i), depth + 1);
         if (!child)
             return false;
         group->addChild(child.get());

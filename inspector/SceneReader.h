@@ -2,7 +2,7 @@
 #pragma once
 
 #include "CrvJsonReader.h"
-#include "NodePtr.h"
+#include "KnNodePtr.h"
 
 class KnField;
 class QJsonObject;
@@ -13,23 +13,23 @@ class SceneReader : public CrvJsonReader {
     Q_DECLARE_TR_FUNCTIONS(SceneReader)
 public:
     /// The root of the new graph, which nothing else refers to. Null for a refused file.
-    NodePtr readFile(const QString& fileName);
+    KnNodePtr readFile(const QString& fileName);
     /// The same for the content of a file; `fileName` only stands in messages.
-    NodePtr readText(const QByteArray& json, const QString& fileName);
+    KnNodePtr readText(const QByteArray& json, const QString& fileName);
 
     /// Nodes in the graph that was read last.
     int nodeCount() const { return m_nodeCount; }
 
 private:
     bool build(const QJsonValue& root) override;
-    NodePtr takeRoot(bool accepted);
-    NodePtr readNode(const QJsonValue& value, const QString& path, int depth);
+    KnNodePtr takeRoot(bool accepted);
+    KnNodePtr readNode(const QJsonValue& value, const QString& path, int depth);
     bool readFields(KnFieldContainer& node, const QJsonValue& value, const QString& path);
     bool readField(KnField& field, const QJsonValue& value, const QString& path);
     bool readChildren(
         KnFieldContainer& node, const QJsonValue& value, const QString& path, int depth);
-    NodePtr createNode(const QJsonObject& object, const QString& path);
+    KnNodePtr createNode(const QJsonObject& object, const QString& path);
 
-    NodePtr m_root;
+    KnNodePtr m_root;
     int m_nodeCount = 0;
 };

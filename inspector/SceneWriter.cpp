@@ -141,8 +141,8 @@ void SceneWriter::writeChildren(const KnFieldContainer& node, int level)
 const KnFieldContainer& SceneWriter::defaultsOf(const KnFieldContainer& node)
 {
     const KnType type = node.getObjectType();
-    NodePtr& defaults = m_defaults[type.getName().getString().toUtf8()];
+    KnNodePtr& defaults = m_defaults[type.getName().getString().toUtf8()];
     if (!defaults)
-        defaults = NodePtr(static_cast<KnFieldContainer*>(type.createInstance()));
+        defaults = KnNodePtr(static_cast<KnFieldContainer*>(type.createInstance()));
     return *defaults.get();
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "NodePtr.h"
+#include "KnNodePtr.h"
 
 #include <QByteArray>
 #include <QString>
@@ -32,5 +32,5 @@ private:
 
     QByteArray m_json;
     QString m_error;
-    std::map<std::string, NodePtr> m_defaults; // by name of the type
+    std::map<std::string, KnNodePtr> m_defaults; // by name of the type
 };

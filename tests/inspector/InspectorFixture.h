@@ -54,7 +54,7 @@ public:
     /// What the scene file says of a field, by the reader.
     QString savedText(const QString& place)
     {
-        const NodePtr root = SceneReader().readFile(sceneFile);
+        const KnNodePtr root = SceneReader().readFile(sceneFile);
         return textOf(find(root, place));
     }
 
@@ -112,7 +112,7 @@ public:
     }
 
 private:
-    static KnField* find(const NodePtr& root, const QString& place)
+    static KnField* find(const KnNodePtr& root, const QString& place)
     {
         SceneSearch search;
         search.find(root.get(), place);

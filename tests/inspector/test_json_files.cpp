@@ -183,7 +183,7 @@ private Q_SLOTS:
         SceneDocument document;
         QString error;
         QVERIFY2(document.open(file, &error), qPrintable(error));
-        const NodePtr root = document.root();
+        const KnNodePtr root = document.root();
         writeScene(points);
         bool opened = false;
         QString profiles;

@@ -212,7 +212,7 @@ private Q_SLOTS:
         QVERIFY(!inspector.entries(u"viewMenu"_s).contains(u"Console*"_s));
 
         // A refused file is not remembered, and leaves the scene.
-        const NodePtr root = inspector.window.document().root();
+        const KnNodePtr root = inspector.window.document().root();
         inspector.answerNextQuestion(QMessageBox::Ok);
         const QString missing = m_folder->filePath(u"missing.json"_s);
         inspector.window.findChild<FileMenu*>()->openFile(missing);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "KnCoordinates.h"
 #include "KnMaterial.h"
+#include "KnNodePtr.h"
 #include "KnSensorQueue.h"
-#include "NodePtr.h"
 #include "SceneChanges.h"
 
 #include <QSignalSpy>
@@ -58,10 +58,10 @@ private Q_SLOTS:
 
     void deadNodesAreForgotten()
     {
-        const NodePtr kept(new KnMaterial);
+        const KnNodePtr kept(new KnMaterial);
         m_changes->watch(kept.get());
         {
-            const NodePtr dropped(new KnCoordinates);
+            const KnNodePtr dropped(new KnCoordinates);
             m_changes->watch(dropped.get());
             QCOMPARE(dropped->getReferenceCount(), 1); // nobody else keeps it
         }
@@ -78,7 +78,7 @@ private Q_SLOTS:
     {
         const QSignalSpy spy(m_changes.get(), &SceneChanges::modifiedChanged);
         {
-            const NodePtr dropped(new KnMaterial);
+            const KnNodePtr dropped(new KnMaterial);
             m_changes->watch(dropped.get());
             for (const char* field : { "shininess", "transparency" })
                 dropped->getField(field)->set("0.75");
@@ -112,14 +112,14 @@ private Q_SLOTS:
     // The batch goes on behind the node that dies in it.
     void nodeDiesInTheMiddleOfABatch()
     {
-        NodePtr first(new KnMaterial);
-        NodePtr middle(new KnMaterial);
-        NodePtr last(new KnMaterial);
-        for (const NodePtr* node : { &first, &middle, &last })
+        KnNodePtr first(new KnMaterial);
+        KnNodePtr middle(new KnMaterial);
+        KnNodePtr last(new KnMaterial);
+        for (const KnNodePtr* node : { &first, &middle, &last })
             m_changes->watch(node->get());
         // What the first node's change sets off drops the node behind it, whose sensors wait.
         KnFieldSensor killer(
-            [](void* data, KnSensor*) { *static_cast<NodePtr*>(data) = NodePtr(); }, &middle);
+            [](void* data, KnSensor*) { *static_cast<KnNodePtr*>(data) = KnNodePtr(); }, &middle);
         killer.attach(first->getField("transparency"));
         first->getField("shininess")->set("0.75");
         middle->getField("shininess")->set("0.75");
@@ -129,10 +129,10 @@ private Q_SLOTS:
         runSensors();
         QVERIFY(!middle);
         QVERIFY(m_changes->isModified());
-        first = NodePtr();
+        first = KnNodePtr();
         runSensors();
         QVERIFY(m_changes->isModified());
-        last = NodePtr();
+        last = KnNodePtr();
         runSensors();
         QVERIFY(!m_changes->isModified());
     }

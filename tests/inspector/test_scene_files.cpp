@@ -102,7 +102,7 @@ private Q_SLOTS:
         SceneDocument document;
         QString error;
         QVERIFY2(document.open(m_sample, &error), qPrintable(error));
-        const NodePtr root = document.root();
+        const KnNodePtr root = document.root();
         CrvServices::getInstance()->selectNode(root.get());
 
         QVERIFY(!document.open(file.fileName(), &error));
@@ -154,9 +154,9 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, json);
         SceneReader reader;
-        const NodePtr root = reader.readText(json, u"first.json"_s);
+        const KnNodePtr root = reader.readText(json, u"first.json"_s);
         QVERIFY2(root, qPrintable(reader.errorText()));
-        const NodePtr again = reader.readText(SceneWriter().toJson(*root.get()), u"again.json"_s);
+        const KnNodePtr again = reader.readText(SceneWriter().toJson(*root.get()), u"again.json"_s);
         QVERIFY2(again, qPrintable(reader.errorText()));
         QCOMPARE(describe(again.get()), describe(root.get()));
     }
@@ -167,14 +167,14 @@ private Q_SLOTS:
         const QString text = u"a \"b\" \\c\\\nb\tc\r\u0001\u007f \U0001F680 \u00e9 "_s
             + QChar(0xd83d) + u' ' + QChar(0xde80) + QChar(0xd83d);
         auto* const node = new KnText;
-        const NodePtr root(node);
+        const KnNodePtr root(node);
         node->setName(KbName(toKbString(text)));
         node->string.set1Value(0, toKbString(text));
         node->size.setIgnored(1); // with its default value
         node->spacing.setValue(2.5F);
         node->spacing.setIgnored(1);
         SceneReader reader;
-        const NodePtr again = reader.readText(SceneWriter().toJson(*node), u"again.json"_s);
+        const KnNodePtr again = reader.readText(SceneWriter().toJson(*node), u"again.json"_s);
         QVERIFY2(again, qPrintable(reader.errorText()));
         QCOMPARE(describe(again.get()), describe(node));
         QCOMPARE(nodeLabel(*again.get()), text);
@@ -185,7 +185,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         SceneWriter writer;
         const QString name = folder.filePath(u"missing/scene.json"_s);
-        QVERIFY(!writer.writeFile(*NodePtr(new KnGroup).get(), name));
+        QVERIFY(!writer.writeFile(*KnNodePtr(new KnGroup).get(), name));
         QVERIFY2(writer.errorText().startsWith(name + u": "_s), qPrintable(writer.errorText()));
         QVERIFY(QDir(folder.path()).isEmpty());
     }

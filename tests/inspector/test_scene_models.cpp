@@ -65,9 +65,9 @@ private Q_SLOTS:
         auto* const root = new KnGroup;
         root->addChild(new KnMaterial);
         root->addChild(root->getChild(0));
-        model.setRoot(NodePtr(root));
+        model.setRoot(KnNodePtr(root));
         QCOMPARE(shown(QString()), u"Material, Material"_s);
-        model.setRoot(NodePtr());
+        model.setRoot(KnNodePtr());
         QCOMPARE(filter.rowCount(), 0);
     }
 
@@ -102,7 +102,7 @@ private Q_SLOTS:
     void fieldListFollowsTheFields()
     {
         auto* const material = new KnMaterial;
-        const NodePtr node(material);
+        const KnNodePtr node(material);
         FieldListModel model;
         const QAbstractItemModelTester tester(&model, FailureMode::QtTest);
         model.setNode(material);
@@ -139,7 +139,7 @@ private Q_SLOTS:
     }
 
 private:
-    const NodePtr m_sample
+    const KnNodePtr m_sample
         = SceneReader().readFile(QStringLiteral(CORVANE_SCENES "/all_fields.json"));
 };
 
