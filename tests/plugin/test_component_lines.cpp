@@ -4,6 +4,8 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
+#include <QSlider>
 #include <QUndoStack>
 
 namespace {
@@ -24,9 +26,8 @@ const LineEditing editings[] = {
     { "SFBox2f", "0.12345678 0 1 1", 0, nullptr, Qt::Key_Tab, nullptr, 0 },
     { "SFVec3f", "0.12345678 1 2", 0, nullptr, Qt::Key_Tab, nullptr, 0 },
     { "SFColor", "0.12345678 1 2", 0, nullptr, Qt::Key_Tab, nullptr, 0 },
-    // Leaving an edited one, or closing the popup, writes what all lines show.
+    // Leaving an edited one writes what all lines show.
     { "SFBox2f", "0.12345678 0 1 1234567", 2, "2", Qt::Key_Tab, "0.123457 0 2 1234570", 1 },
-    { "SFBox2f", "0 0 0 0", 1, "7", Qt::Key_Escape, "0 7 0 0", 1 },
     { "SFBox3s", "0 0 0 0 0 0", 0, "-327689", Qt::Key_Tab, "-32768 0 0 0 0 0", 1 },
     { "SFPlane", "0.12345678 0 1 1", 3, "-1.5e3", Qt::Key_Tab, "0.123457 0 1 -1500", 1 },
     { "SFColor", "0.12345678 1 2", 1, "0.25", Qt::Key_Tab, "0.123457 0.25 2", 1 },
@@ -40,6 +41,17 @@ const LineEditing editings[] = {
     // A colour takes any text.
     { "SFColor", "1 1 0", 1, "1,5", Qt::Key_Return, "1 0 0", 2 },
 };
+
+/// What holds the lines of the editor shown: the popup, which it opens, or the editor's frame.
+QWidget* openGrid(EditorFixture& fixture)
+{
+    auto* const button
+        = fixture.editor()->getFrame()->findChild<QPushButton*>(QStringLiteral("m_editButton"));
+    if (!button)
+        return fixture.editor()->getFrame();
+    QTest::mouseClick(button, Qt::LeftButton);
+    return fixture.child<QWidget>("m_popupFrame");
+}
 
 } // namespace
 
@@ -64,13 +76,7 @@ private Q_SLOTS:
         EditorFixture::write(field, row.start);
         const QString start = EditorFixture::text(field);
         fixture.select(field);
-        QWidget* frame = fixture.editor()->getFrame();
-        if (auto* button = frame->findChild<QPushButton*>(QStringLiteral("m_editButton"))) {
-            QTest::mouseClick(button, Qt::LeftButton);
-            frame = fixture.child<QWidget>("m_popupFrame");
-        }
-
-        QLineEdit* const line = frame->findChildren<QLineEdit*>()[row.line];
+        QLineEdit* const line = openGrid(fixture)->findChildren<QLineEdit*>()[row.line];
         QTest::mouseClick(line, Qt::LeftButton);
         line->selectAll();
         if (row.typed)
@@ -87,6 +93,91 @@ private Q_SLOTS:
         EditorFixture::write(field, row.start);
         QVERIFY(!static_cast<WfSFieldWidget*>(fixture.editor())->edited());
         QVERIFY(row.typed == nullptr || line->text() != QLatin1String(row.typed));
+    }
+
+    void escDropsWhatIsTyped_data()
+    {
+        QTest::addColumn<QByteArray>("start");
+        for (const char* type : { "SFInt32", "SFShort", "SFUInt32", "SFUShort", "SFFloat",
+                 "SFDouble", "SFTime", "SFString", "SFName", "SFFilePathString" })
+            QTest::newRow(type) << QByteArray("5");
+        for (const char* type : { "SFVec2f", "SFVec3f", "SFVec4f", "SFPlane", "SFRotation",
+                 "SFColor", "SFColorRGBA", "SFBox2f", "SFBox3s", "SFMatrix" })
+            QTest::newRow(type) << QByteArray();
+    }
+    void escDropsWhatIsTyped()
+    {
+        QFETCH(QByteArray, start);
+        EditorFixture fixture;
+        KnField* const field = fixture.field(QTest::currentDataTag());
+        field->set(start.isEmpty() ? "\"\"" : start.constData());
+        start = EditorFixture::text(field).toLatin1();
+        fixture.select(field);
+        // A host may have a use for the key.
+        int escapes = 0;
+        QShortcut shortcut(Qt::Key_Escape, &fixture.shell().window());
+        connect(&shortcut, &QShortcut::activated, this, [&escapes] { ++escapes; });
+        const QWidget* const frame = openGrid(fixture);
+        const bool isPopup = frame->isWindow();
+        const bool isCatchAll = fixture.editor()->objectName() == QStringLiteral("WfSFLineWidget");
+
+        const auto lines = frame->findChildren<QLineEdit*>();
+        QLineEdit* const line = lines.last();
+        const QString shown = line->text();
+        // An unfinished text of another line stays.
+        const bool hasUnfinished = lines.size() > 1 && line->validator();
+        if (hasUnfinished) {
+            lines[0]->selectAll();
+            QTest::keyClick(lines[0], Qt::Key_Minus);
+        }
+        line->setFocus();
+        if (!isPopup)
+            QTest::keyClick(line, Qt::Key_Escape);
+        line->selectAll();
+        QTest::keyClicks(line, QStringLiteral("777"));
+        QTest::keyClick(line, Qt::Key_Escape);
+        // The one whose keys are all written has nothing to drop.
+        QCOMPARE(line->text(), isCatchAll ? QStringLiteral("777") : shown);
+        QCOMPARE(escapes, isPopup ? 0 : isCatchAll ? 2 : 1);
+        QCOMPARE(frame->isVisible(), !isPopup);
+        if (isCatchAll)
+            return;
+        QCOMPARE(fixture.undoStack().count(), 0);
+        if (hasUnfinished)
+            QCOMPARE(lines[0]->text(), QStringLiteral("-"));
+        else
+            QTest::keyClick(line, Qt::Key_Tab);
+        EditorFixture::settle();
+        QCOMPARE(EditorFixture::text(field), QString::fromLatin1(start));
+        if (const auto* scale = frame->findChild<QSlider*>())
+            QVERIFY(scale->maximum() - scale->minimum() <= 100);
+    }
+
+    /// The refresh that follows each line leaves the next one ready to be typed over.
+    void tabbingThroughTheLines_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("SFVec3f") << QStringLiteral("7 8 7");
+        QTest::newRow("SFColor") << QStringLiteral("7 8 7");
+        QTest::newRow("SFBox2f") << QStringLiteral("7 8 7 1");
+    }
+    void tabbingThroughTheLines()
+    {
+        QFETCH(QString, text);
+        EditorFixture fixture;
+        KnField* const field = fixture.field(QTest::currentDataTag());
+        field->set(QByteArray("1 1 1 1").left(text.size()).constData());
+        fixture.select(field);
+        const auto lines = openGrid(fixture)->findChildren<QLineEdit*>();
+        lines[0]->setFocus(Qt::TabFocusReason);
+        for (const Qt::Key key : { Qt::Key_7, Qt::Key_8, Qt::Key_7 }) {
+            QTest::keyClick(QApplication::focusWidget(), key);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            EditorFixture::settle();
+        }
+        QCOMPARE(EditorFixture::text(field), text);
+        QCOMPARE(fixture.undoStack().count(), 3);
+        QCOMPARE(lines[0]->cursorPosition(), 0);
     }
 
     void anUnfinishedLineCountsAsZero()

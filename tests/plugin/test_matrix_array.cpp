@@ -82,6 +82,8 @@ private Q_SLOTS:
         window.move(0, 100);
         for (int row = 0; row < 3; ++row) {
             QVERIFY(matrices.open(row + 1));
+            QVERIFY(matrices.line(0, 0)->hasFocus());
+            QCOMPARE(matrices.line(0, 0)->selectedText(), matrices.line(0, 0)->text());
             QTRY_VERIFY(
                 window.screen()->availableGeometry().contains(matrices.frame->frameGeometry()));
             QString shown;
@@ -90,6 +92,7 @@ private Q_SLOTS:
             QCOMPARE(shown.trimmed(), QLatin1String(grids[row]));
             ways[row]();
             QTRY_VERIFY(!matrices.frame->isVisible());
+            QVERIFY(!matrices.frame->isAncestorOf(QApplication::focusWidget()));
         }
         QCOMPARE(matrices.text(), matrices.start);
         matrices.widget.swapFieldValues(0, 1);

@@ -27,6 +27,8 @@ public:
         clickThroughWindow(button);
         return frame->isVisible() && QTest::qWaitForWindowExposed(frame);
     }
+    /// A key for whatever has the focus, by way of the window system.
+    void press(Qt::Key key) { QTest::keyClick(shell().window().windowHandle(), key); }
 
     QWidget* frame;
     QAbstractButton* button;
@@ -83,26 +85,64 @@ private Q_SLOTS:
         QVERIFY(QRect(QPoint(), screen).contains(popup.frame->geometry()));
     }
 
+    void thePopupOpensForTyping_data()
+    {
+        QTest::addColumn<Act>("open");
+        QTest::newRow("click") << Act([](Popup& popup) { clickThroughWindow(popup.button); });
+        for (const Qt::Key key : { Qt::Key_Space, Qt::Key_Return }) {
+            QTest::newRow(key == Qt::Key_Space ? "Space" : "Return")
+                << (key == Qt::Key_Space ? Act([](Popup& popup) { popup.press(Qt::Key_Space); })
+                                         : Act([](Popup& popup) { popup.press(Qt::Key_Return); }));
+        }
+    }
+    /// The button is the panel's tab stop, and the first digit typed counts.
+    void thePopupOpensForTyping()
+    {
+        QFETCH(Act, open);
+        Popup popup("SFBox3s");
+        for (int i = 0; i < 8 && !popup.button->hasFocus(); ++i)
+            popup.press(Qt::Key_Tab);
+        QVERIFY(popup.button->hasFocus());
+        // The grid is as fresh as the field, whose sensor hasn't run yet.
+        popup.field("SFBox3s")->set("1 2 3 4 5 6");
+        open(popup);
+        QVERIFY(popup.frame->isVisible());
+        QCOMPARE(popup.lines[5]->text(), QStringLiteral("6"));
+        popup.press(Qt::Key_9);
+        QCOMPARE(popup.lines[0]->text(), QStringLiteral("9"));
+        popup.press(Qt::Key_Return);
+        QCOMPARE(EditorFixture::text(popup.field("SFBox3s")), QStringLiteral("9 2 3 4 5 6"));
+        QVERIFY(popup.frame->isVisible());
+        clickThroughWindow(popup.button);
+        EditorFixture::settle();
+        QVERIFY(popup.button->hasFocus());
+    }
+
     void thePopupCloses_data()
     {
         QTest::addColumn<Act>("close");
+        QTest::addColumn<QString>("text"); // of the field by then
+        const QString written = QStringLiteral("0 0 7 0");
         QTest::newRow("at a click on its button") << Act([](Popup& popup) {
             clickThroughWindow(popup.button);
             // Window systems that give the press to what lies under the popup must not open it.
             QVERIFY(popup.frame->testAttribute(Qt::WA_NoMouseReplay));
-        });
+        }) << written;
         QTest::newRow("at a click outside") << Act([](Popup& popup) {
             clickThroughWindow(&popup.shell().window());
             QVERIFY(!popup.frame->testAttribute(Qt::WA_NoMouseReplay));
-        });
-        QTest::newRow("at Esc in a line") << Act([](Popup& popup) {
-            clickThroughWindow(popup.lines[2]);
-            QTest::keyClick(popup.shell().window().windowHandle(), Qt::Key_Escape);
-        });
+        }) << written;
+        // Neither the line's text is written nor the one that is left unfinished.
+        QTest::newRow("at Esc") << Act([](Popup& popup) { popup.press(Qt::Key_Escape); })
+                                << QStringLiteral("0 0 0 0");
+        QTest::newRow("at Esc beside an unfinished line") << Act([](Popup& popup) {
+            QTest::keyClicks(popup.lines[0], QStringLiteral("-"));
+            popup.press(Qt::Key_Escape);
+        }) << QStringLiteral("0 0 0 0");
         QTest::newRow("with the selection") << Act([](Popup& popup) {
             popup.select(popup.field("SFBool"));
             popup.select(popup.field("SFBox2f"));
-        });
+        }) << written;
         QTest::newRow("with its dock") << Act([](Popup& popup) {
             QWidget* dock = popup.editor()->getFrame();
             while (!qobject_cast<QDockWidget*>(dock))
@@ -110,21 +150,34 @@ private Q_SLOTS:
             dock->hide();
             QVERIFY(!popup.frame->isVisible());
             dock->show();
-        });
+        }) << written;
     }
     void thePopupCloses()
     {
         QFETCH(Act, close);
+        QFETCH(QString, text);
         Popup popup("SFBox2f");
+        // Nothing else in the window has the focus, so that Qt knows nobody to give it back to.
+        popup.button->setFocusPolicy(Qt::NoFocus);
+        if (QWidget* const focus = QApplication::focusWidget())
+            focus->clearFocus();
         QVERIFY(!popup.child<QLineEdit>("lineEdit")->isEnabled());
         QVERIFY(popup.open());
         clickThroughWindow(popup.frame);
         QVERIFY(popup.frame->isVisible());
+        clickThroughWindow(popup.lines[2]);
+        popup.lines[2]->selectAll();
+        popup.press(Qt::Key_7);
         close(popup);
         EditorFixture::settle();
         QVERIFY(!popup.frame->isVisible() && !QApplication::activePopupWidget());
+        QVERIFY(!popup.frame->isAncestorOf(QApplication::focusWidget()));
+        const int commands = text.contains(u'7') ? 1 : 0;
+        QCOMPARE(EditorFixture::text(popup.field("SFBox2f")), text);
+        QCOMPARE(popup.undoStack().count(), commands);
         QVERIFY(popup.open());
-        QCOMPARE(popup.undoStack().count(), 0);
+        QCOMPARE(linesShown(popup, "m_lineEdits"), text);
+        QCOMPARE(popup.undoStack().count(), commands);
     }
 
     void aSelectionLeavesTheLineOfTheFormerField()

@@ -44,9 +44,13 @@ void CrvFieldEditors::activate()
 void CrvFieldEditors::deactivate()
 {
     CrvEditor::deactivate();
-    if (m_fieldSensor)
+    if (m_fieldSensor) {
+        // Hiding ends what is being typed, which is meant for the field that was shown.
+        m_leftField = m_fieldSensor->getAttachedField();
         m_fieldSensor->detach();
+    }
     hide();
+    m_leftField = nullptr;
 }
 
 void CrvFieldEditors::hide()
@@ -74,6 +78,12 @@ void CrvFieldEditors::unload()
 }
 
 void CrvFieldEditors::attachField(KnField* field) { m_fieldSensor->attach(field); }
+
+bool CrvFieldEditors::shows(const KnField* field) const
+{
+    const KnField* const shown = m_fieldSensor ? m_fieldSensor->getAttachedField() : nullptr;
+    return field && (field == shown || field == m_leftField);
+}
 
 void CrvFieldEditors::fieldChanged(void* data, KnSensor*)
 {

@@ -47,6 +47,11 @@ public:
     /// Writes what the widgets show into the field and hands a command to the host.
     virtual void applyChanges() = 0;
 
+    /// Whether the editor shows this field, so that an edit of a person may be written to it: from
+    /// the attachment until the end of the deactivation, unless the field goes away before. What is
+    /// left of a line, a popup or a dialog after that must not reach the field, which may be gone.
+    bool shows(const KnField* field) const;
+
     /// The parent of all of the editor's widgets.
     QFrame* getFrame() const { return m_frame; }
 
@@ -62,5 +67,6 @@ private:
     static void fieldChanged(void* data, KnSensor* sensor);
 
     KnFieldSensor* m_fieldSensor = nullptr; // owned, from load to unload
+    const KnField* m_leftField = nullptr; // not owned; set only while a deactivation hides it
     QFrame* m_frame; // owned; has no parent but the dock that shows it
 };

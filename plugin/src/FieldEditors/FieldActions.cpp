@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FieldActions.h"
 
+#include "CrvFieldEditors.h"
 #include "CrvFieldIgnoredCommand.h"
 #include "CrvFieldSetDefaultCommand.h"
 #include "CrvServices.h"
 #include "KnField.h"
 #include "KnFieldContainer.h"
 
-void setFieldToDefault(KnField* field)
+void setFieldToDefault(const CrvFieldEditors& editor, KnField* field)
 {
+    if (!editor.shows(field))
+        return;
     KnFieldContainer* const container = field->getContainer();
     if (!container)
         return;
@@ -31,8 +34,10 @@ void setFieldToDefault(KnField* field)
     instance->unref();
 }
 
-void setFieldIgnored(KnField* field, bool ignored)
+void setFieldIgnored(const CrvFieldEditors& editor, KnField* field, bool ignored)
 {
+    if (!editor.shows(field) || (field->isIgnored() != 0) == ignored)
+        return;
     field->setIgnored(ignored ? 1 : 0);
     CrvServices::getInstance()->executeCommand(new CrvFieldIgnoredCommand(field, ignored));
 }

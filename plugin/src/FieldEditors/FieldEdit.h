@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "CrvFieldEditors.h"
 #include "CrvSFSetValueCommand.h"
 #include "CrvServices.h"
 
@@ -9,17 +10,21 @@
 /// One undoable edit of a whole field: makes the command while the field still holds the old value,
 /// runs `write`, which writes the field, and hands the command to the host. `oldValue` is the old
 /// text, where the caller saved it before; it is used up. A null one stands for the field's text.
+/// Nothing happens to a field that `editor` doesn't show.
 template <class Write>
-void executeFieldEdit(KnField* field, KbString& oldValue, Write&& write)
+void executeFieldEdit(
+    const CrvFieldEditors& editor, KnField* field, KbString& oldValue, Write&& write)
 {
+    if (!editor.shows(field))
+        return;
     auto* const command = new CrvSFSetValueCommand(field, oldValue);
     std::forward<Write>(write)();
     CrvServices::getInstance()->executeCommand(command);
 }
 
 template <class Write>
-void executeFieldEdit(KnField* field, Write&& write)
+void executeFieldEdit(const CrvFieldEditors& editor, KnField* field, Write&& write)
 {
     KbString noOldValue;
-    executeFieldEdit(field, noOldValue, std::forward<Write>(write));
+    executeFieldEdit(editor, field, noOldValue, std::forward<Write>(write));
 }

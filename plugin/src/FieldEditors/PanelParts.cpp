@@ -29,13 +29,21 @@ QString centredText(const QString& text)
     return QStringLiteral("<p align=\"center\">") + text + QStringLiteral("</p>");
 }
 
-QPushButton* makeIconButton(QWidget* parent, const char* name, const QPixmap& icon)
+QPushButton* makeFocusedIconButton(QWidget* parent, const char* name, const QPixmap& icon)
 {
     auto* const button = new QPushButton(parent);
     button->setObjectName(QLatin1String(name));
     button->setMaximumSize(
         layoutMetric(QStringLiteral("buttonWidth")), layoutMetric(QStringLiteral("buttonHeight")));
     button->setIcon(QIcon(icon));
+    button->setAutoDefault(true);
+    return button;
+}
+
+QPushButton* makeIconButton(QWidget* parent, const char* name, const QPixmap& icon)
+{
+    QPushButton* const button = makeFocusedIconButton(parent, name, icon);
+    button->setAutoDefault(false);
     button->setFocusPolicy(Qt::NoFocus);
     return button;
 }

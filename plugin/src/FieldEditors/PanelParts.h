@@ -23,3 +23,7 @@ QString centredText(const QString& text);
 /// A small button that carries an icon and no text, a child of `parent`. It never takes the focus,
 /// so that a click on it doesn't end what is being typed.
 QPushButton* makeIconButton(QWidget* parent, const char* name, const QPixmap& icon);
+
+/// The same with the focus policy of a plain button: the tab key reaches it, and Space and Return
+/// press it.
+QPushButton* makeFocusedIconButton(QWidget* parent, const char* name, const QPixmap& icon);

@@ -2,8 +2,10 @@
 #include "PopupCloser.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 
 PopupCloser::PopupCloser(QWidget* popup, QWidget* owner, QAbstractButton* button)
     : QObject(popup)
@@ -13,6 +15,12 @@ PopupCloser::PopupCloser(QWidget* popup, QWidget* owner, QAbstractButton* button
 {
     m_popup->installEventFilter(this);
     m_owner->installEventFilter(this);
+}
+
+QWidget* PopupCloser::focusInPopup() const
+{
+    QWidget* const focus = QApplication::focusWidget();
+    return m_popup->isAncestorOf(focus) ? focus : nullptr;
 }
 
 bool PopupCloser::eventFilter(QObject* watched, QEvent* event)
@@ -39,8 +47,19 @@ bool PopupCloser::eventFilter(QObject* watched, QEvent* event)
     case QEvent::KeyPress:
         if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
             return false;
+        if (QWidget* const line = focusInPopup()) {
+            // It would commit when it is left.
+            const QSignalBlocker unheard(line);
+            line->clearFocus();
+        }
         m_popup->close();
         return true;
+    case QEvent::Hide:
+        // Qt gives the focus back only to a window that has a widget for it. A line that kept it
+        // would commit at some later time, whatever field is shown by then.
+        if (QWidget* const line = focusInPopup())
+            line->clearFocus();
+        return false;
     default:
         return false;
     }

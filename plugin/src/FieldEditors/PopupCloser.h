@@ -8,7 +8,8 @@ class QWidget;
 
 /// Lets a popup of an editor go when a person expects it to: at a mouse press outside it and at the
 /// Esc key, whatever its widget class makes of them; when the button that opened it is pressed,
-/// without opening again; and together with the editor.
+/// without opening again; and together with the editor. The focus leaves the popup with it, which
+/// ends what is being typed; Esc ends it unheard.
 class PopupCloser : public QObject {
     Q_OBJECT
 public:
@@ -19,6 +20,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QWidget* focusInPopup() const;
+
     QWidget* m_popup; // the parent
     QWidget* m_owner; // not owned
     QAbstractButton* m_button; // not owned

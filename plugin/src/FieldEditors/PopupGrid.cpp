@@ -38,6 +38,13 @@ void addPopupLine(QFrame* popup, QLineEdit* line, int row, int column, int colum
     static_cast<QGridLayout*>(popup->layout())->addWidget(line, row, column);
 }
 
+void showPopup(QFrame* popup, QLineEdit* first)
+{
+    popup->show();
+    first->setFocus(Qt::PopupFocusReason);
+    first->selectAll();
+}
+
 void settlePopupSize(QFrame* popup)
 {
     popup->ensurePolished();

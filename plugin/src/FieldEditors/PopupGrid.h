@@ -17,5 +17,8 @@ QFrame* makePopupFrame(QWidget* panel, QAbstractButton* button);
 /// shows a number whole. The popup is its parent already.
 void addPopupLine(QFrame* popup, QLineEdit* line, int row, int column, int columns);
 
+/// Shows a popup with the focus in `first`, whose text is selected, so that the first key counts.
+void showPopup(QFrame* popup, QLineEdit* first);
+
 /// Gives a popup the size that its lines need, which it doesn't know before it was ever shown.
 void settlePopupSize(QFrame* popup);

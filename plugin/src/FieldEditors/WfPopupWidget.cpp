@@ -2,6 +2,7 @@
 #include "WfPopupWidget.h"
 
 #include "ComponentValidator.h"
+#include "LineEdits.h"
 #include "PanelParts.h"
 #include "Pixmaps.h"
 #include "PopupGrid.h"
@@ -30,7 +31,7 @@ void WfPopupWidget::load()
 {
     WfSFLineWidget::load();
 
-    m_editButton = makeIconButton(getFrame(), "m_editButton", m_editPixmap);
+    m_editButton = makeFocusedIconButton(getFrame(), "m_editButton", m_editPixmap);
     m_buttonLayout->insertWidget(0, m_editButton, 0);
     connect(m_editButton, &QPushButton::clicked, this, &WfPopupWidget::managePopFramePos);
     m_lineEdit->setEnabled(false);
@@ -63,7 +64,7 @@ void WfPopupWidget::setValidatorKind(int kind)
 void WfPopupWidget::resetCursorPositions()
 {
     for (QLineEdit* line : m_lineEdits)
-        line->setCursorPosition(0);
+        resetCursorPosition(line);
 }
 
 void WfPopupWidget::managePopFramePos()
@@ -77,5 +78,5 @@ void WfPopupWidget::managePopFramePos()
     m_popupFrame->move(popupPosition(corner, QGuiApplication::primaryScreen()->availableSize(),
         m_popupFrame->size() + m_editButton->size()));
     updateFromField();
-    m_popupFrame->show();
+    showPopup(m_popupFrame, m_lineEdits.front());
 }

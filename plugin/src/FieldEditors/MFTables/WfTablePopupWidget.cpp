@@ -124,5 +124,5 @@ void WfTablePopupWidget::setEditFrame()
         return;
     }
     placePopup();
-    m_popupFrame->show();
+    showPopup(m_popupFrame, m_lineEdits.front());
 }

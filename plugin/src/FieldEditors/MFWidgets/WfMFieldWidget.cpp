@@ -217,19 +217,14 @@ bool WfMFieldWidget::acceptsField(KnField*) { return false; }
 
 void WfMFieldWidget::ignoreButtonStateChanged()
 {
-    if (m_field)
-        setFieldIgnored(m_field, m_ignoreButton->isChecked());
+    setFieldIgnored(*this, m_field, m_ignoreButton->isChecked());
 }
 
-void WfMFieldWidget::setDefaultFieldValue()
-{
-    if (m_field)
-        setFieldToDefault(m_field);
-}
+void WfMFieldWidget::setDefaultFieldValue() { setFieldToDefault(*this, m_field); }
 
 bool WfMFieldWidget::hasRow(int row) const
 {
-    return m_field && row >= 0 && row < m_field->getNum();
+    return shows(m_field) && row >= 0 && row < m_field->getNum();
 }
 
 void WfMFieldWidget::shapeColumns(int count)

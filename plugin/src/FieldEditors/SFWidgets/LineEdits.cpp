@@ -15,3 +15,18 @@ QLineEdit* makeLineEdit(QWidget* parent, QBoxLayout* layout)
     layout->addWidget(line, 1);
     return line;
 }
+
+void refreshLine(QLineEdit* line, const QString& text)
+{
+    const bool isSelected = line->hasSelectedText() && line->selectedText() == line->text();
+    line->setText(text);
+    if (isSelected)
+        line->setSelection(static_cast<int>(text.size()), -static_cast<int>(text.size()));
+}
+
+void resetCursorPosition(QLineEdit* line)
+{
+    // Moving a cursor that stands there already would only take the selection away.
+    if (line->cursorPosition() != 0)
+        line->setCursorPosition(0);
+}

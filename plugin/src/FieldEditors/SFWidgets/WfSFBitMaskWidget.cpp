@@ -77,6 +77,8 @@ void WfSFBitMaskWidget::clearCheckBoxes()
 
 void WfSFBitMaskWidget::setBitMaskValue()
 {
+    if (!shows(m_field))
+        return;
     auto* const field = static_cast<KnSFBitMask*>(m_field);
     int mask = 0;
     for (auto box = m_checkBoxes.crbegin(); box != m_checkBoxes.crend(); ++box) {

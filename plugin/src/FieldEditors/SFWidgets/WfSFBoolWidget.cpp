@@ -38,8 +38,6 @@ void WfSFBoolWidget::updateFromField()
 
 void WfSFBoolWidget::applyChanges()
 {
-    if (!m_field)
-        return;
     executeFieldEdit(
-        m_field, [this] { static_cast<KnSFBool*>(m_field)->setValue(m_box->isChecked()); });
+        *this, m_field, [this] { static_cast<KnSFBool*>(m_field)->setValue(m_box->isChecked()); });
 }

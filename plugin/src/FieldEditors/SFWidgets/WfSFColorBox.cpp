@@ -4,6 +4,7 @@
 #include "ColorChannels.h"
 #include "FittedFont.h"
 #include "LayoutMetrics.h"
+#include "LineEdits.h"
 #include "ValueComponents.h"
 
 #include <QFrame>
@@ -89,14 +90,14 @@ void WfSFColorBox::fillLines()
 {
     // A line whose text changes brings its channel back as the number that the text stands for.
     for (std::size_t i = 0; i < m_lines.size(); ++i)
-        m_lines[i]->setText(componentText(m_channels[i]));
+        refreshLine(m_lines[i], componentText(m_channels[i]));
 }
 
 void WfSFColorBox::showChannels()
 {
     fillLines();
     for (QLineEdit* line : m_lines)
-        line->setCursorPosition(0);
+        resetCursorPosition(line);
     updateColorDisplay();
 }
 
@@ -117,12 +118,11 @@ void WfSFColorBox::displayColor(const QColor& color)
 void WfSFColorBox::chooseColor()
 {
     const KnField* const field = m_field;
-    const KnTypedObject* const object = getEditedObject();
     const QColor chosen
         = QColorDialog::getColor(color(), getFrame(), QString(), m_style.dialogOption);
     // The program runs on behind the dialog. A colour that was chosen for one field must not reach
     // another one.
-    if (!chosen.isValid() || m_field != field || getEditedObject() != object)
+    if (!chosen.isValid() || !shows(field))
         return;
     colorChannels(chosen, m_channels.data(), static_cast<int>(m_channels.size()));
     fillLines();

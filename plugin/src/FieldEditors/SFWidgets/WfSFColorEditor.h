@@ -2,6 +2,7 @@
 #pragma once
 
 #include "FieldEdit.h"
+#include "UnwrittenText.h"
 #include "ValueComponents.h"
 #include "WfSFColorBox.h"
 
@@ -23,6 +24,10 @@ public:
     {
         setLabel(QLatin1String(Traits::typeName));
         WfSFColorBox::load();
+        // A line that goes back takes its channel and the display along.
+        dropUnwrittenTexts(m_lines, [this](std::size_t i) {
+            return componentText(Components::read(field()->getValue())[i]);
+        });
     }
 
     void updateFromField() override
@@ -37,12 +42,10 @@ public:
 
     void applyChanges() override
     {
-        if (!m_field)
-            return;
         typename Components::Numbers numbers;
         std::copy_n(m_channels.begin(), numbers.size(), numbers.begin());
         executeFieldEdit(
-            m_field, [this, &numbers] { field()->setValue(Components::make(numbers)); });
+            *this, m_field, [this, &numbers] { field()->setValue(Components::make(numbers)); });
     }
 
 private:

@@ -54,7 +54,6 @@ void WfSFEnumWidget::updateFromField()
 void WfSFEnumWidget::applyChanges()
 {
     const KbName name = enumName(m_comboBox->currentText());
-    if (!m_field)
-        return;
-    executeFieldEdit(m_field, [this, &name] { static_cast<KnSFEnum*>(m_field)->setValue(name); });
+    executeFieldEdit(
+        *this, m_field, [this, &name] { static_cast<KnSFEnum*>(m_field)->setValue(name); });
 }

@@ -22,11 +22,10 @@ void WfSFFilePathStringWidget::load()
 void WfSFFilePathStringWidget::openFileDialog()
 {
     const KnField* const field = m_field;
-    const KnTypedObject* const object = getEditedObject();
     const QString path = QFileDialog::getOpenFileName(getWidget(), tr("Open File"));
     // The program runs on behind the dialog. A path that was chosen for one field must not reach
     // another one.
-    if (path.isEmpty() || m_field != field || getEditedObject() != object)
+    if (path.isEmpty() || !shows(field))
         return;
     m_lineEdit->setText(path);
     applyChanges();

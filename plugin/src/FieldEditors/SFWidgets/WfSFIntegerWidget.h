@@ -35,8 +35,6 @@ public:
     void applyChanges() override
     {
         const QString text = QString::number(this->m_slider->getValue(), 10);
-        if (!this->m_field)
-            return;
         this->executeEdit([this, &text] { this->m_field->set(toKbString(text)); });
     }
 };

@@ -3,6 +3,7 @@
 
 #include "ComponentValidator.h"
 #include "FittedFont.h"
+#include "LineEdits.h"
 #include "ValueComponents.h"
 
 #include <QFrame>
@@ -38,13 +39,13 @@ bool WfSFLineBox::edited()
 void WfSFLineBox::resetCursorPositions()
 {
     for (QLineEdit* line : m_lines)
-        line->setCursorPosition(0);
+        resetCursorPosition(line);
 }
 
 void WfSFLineBox::showNumbers(const float* numbers)
 {
     for (std::size_t i = 0; i < m_lines.size(); ++i)
-        m_lines[i]->setText(componentText(numbers[i]));
+        refreshLine(m_lines[i], componentText(numbers[i]));
     resetCursorPositions();
 }
 

@@ -32,7 +32,7 @@ void WfSFLineWidget::load()
 
 void WfSFLineWidget::updateFromField()
 {
-    // The line listens to every change of its text; a refresh is none of a person's.
+    // The line listens to every change of its text; a refresh is not a person's edit.
     m_lineEdit->blockSignals(true);
     KbString text;
     m_field->get(text);
@@ -46,10 +46,8 @@ bool WfSFLineWidget::edited() { return m_lineEdit->isModified(); }
 
 void WfSFLineWidget::applyChanges(QString)
 {
-    if (!m_field)
-        return;
     const int position = m_lineEdit->cursorPosition();
-    executeFieldEdit(m_field, [this, position] {
+    executeFieldEdit(*this, m_field, [this, position] {
         m_field->set(toKbString(m_lineEdit->text()));
         m_lineEdit->setCursorPosition(position);
     });

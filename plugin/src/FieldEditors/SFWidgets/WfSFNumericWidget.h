@@ -50,7 +50,7 @@ protected:
     template <class Write>
     void executeEdit(Write&& write)
     {
-        executeFieldEdit(m_field, m_slider->m_oldValue, std::forward<Write>(write));
+        executeFieldEdit(*this, m_field, m_slider->m_oldValue, std::forward<Write>(write));
     }
 
     Field* field() const { return static_cast<Field*>(m_field); }

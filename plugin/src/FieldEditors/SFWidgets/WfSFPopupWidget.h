@@ -2,6 +2,8 @@
 #pragma once
 
 #include "FieldEdit.h"
+#include "LineEdits.h"
+#include "UnwrittenText.h"
 #include "ValueComponents.h"
 #include "WfPopupWidget.h"
 
@@ -27,6 +29,9 @@ public:
         setLabel(QLatin1String(Traits::typeName));
         WfPopupWidget::load();
         setValidatorKind(Traits::validatorKind);
+        dropUnwrittenTexts(m_lineEdits, [this](std::size_t i) {
+            return componentText(Components::read(field()->getValue())[i]);
+        });
     }
 
     void updateFromField() override
@@ -35,7 +40,7 @@ public:
             return;
         const auto numbers = Components::read(field()->getValue());
         for (std::size_t i = 0; i < numbers.size(); ++i)
-            m_lineEdits[i]->setText(componentText(numbers[i]));
+            refreshLine(m_lineEdits[i], componentText(numbers[i]));
         resetCursorPositions();
         WfSFLineWidget::updateFromField();
     }
@@ -43,13 +48,13 @@ public:
     using WfPopupWidget::applyChanges;
     void applyChanges() override
     {
-        if (!m_field)
+        if (!shows(m_field))
             return;
         typename Components::Numbers numbers;
         for (std::size_t i = 0; i < numbers.size(); ++i)
             numbers[i] = componentNumber<typename Components::Number>(m_lineEdits[i]->text());
         executeFieldEdit(
-            m_field, [this, &numbers] { field()->setValue(Components::make(numbers)); });
+            *this, m_field, [this, &numbers] { field()->setValue(Components::make(numbers)); });
         // The summary shows the new value at once, without waiting for the sensor.
         WfSFLineWidget::updateFromField();
     }

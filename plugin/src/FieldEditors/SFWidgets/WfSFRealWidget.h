@@ -46,8 +46,6 @@ public:
     void applyChanges() override
     {
         const auto value = Traits::toValue(this->m_slider->getValue());
-        if (!this->m_field)
-            return;
         this->executeEdit([this, value] { this->field()->setValue(value); });
     }
 };

@@ -5,6 +5,7 @@
 #include "KnField.h"
 #include "LineEdits.h"
 #include "StringConversion.h"
+#include "UnwrittenText.h"
 #include "WfSFieldWidget.h"
 
 #include <QBoxLayout>
@@ -29,6 +30,7 @@ public:
         setLabel(QLatin1String(Traits::typeName));
         WfSFieldWidget::load();
         m_lineEdit = makeLineEdit(m_editionFrame, m_editLayout);
+        new UnwrittenText(m_lineEdit, [this] { updateFromField(); });
         connect(m_lineEdit, &QLineEdit::editingFinished, this, &WfSFTextWidget::setCommandValue);
     }
 
@@ -46,9 +48,7 @@ public:
     void applyChanges() override
     {
         const KbString text = toKbString(m_lineEdit->text());
-        if (!m_field)
-            return;
-        executeFieldEdit(m_field, [this, &text] {
+        executeFieldEdit(*this, m_field, [this, &text] {
             if (holdsValue())
                 Traits::write(*m_field, text);
             else

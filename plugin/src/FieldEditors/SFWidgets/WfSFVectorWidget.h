@@ -2,7 +2,11 @@
 #pragma once
 
 #include "FieldEdit.h"
+#include "UnwrittenText.h"
 #include "ValueComponents.h"
+#include "WfSFLineBox.h"
+
+#include <type_traits>
 
 /// What all vector editors share: the inputs of `Box`, a column box, show the components of the
 /// field's value. `Traits` has
@@ -27,6 +31,11 @@ public:
         for (std::size_t i = 0; i < Components::count; ++i)
             nameArray[i] = QLatin1String(Components::names[i]);
         this->setLabels(nameArray);
+        // A spin box writes while a person types.
+        if constexpr (std::is_base_of_v<WfSFLineBox, Box>)
+            dropUnwrittenTexts(this->m_lines, [this](std::size_t i) {
+                return componentText(Components::read(field()->getValue())[i]);
+            });
     }
 
     void updateFromField() override
@@ -39,13 +48,11 @@ public:
 
     void applyChanges() override
     {
-        if (!this->m_field)
-            return;
         typename Components::Numbers numbers;
         for (std::size_t i = 0; i < numbers.size(); ++i)
             numbers[i] = static_cast<typename Components::Number>(this->number(i));
-        executeFieldEdit(
-            this->m_field, [this, &numbers] { field()->setValue(Components::make(numbers)); });
+        executeFieldEdit(*this, this->m_field,
+            [this, &numbers] { field()->setValue(Components::make(numbers)); });
     }
 
 private:

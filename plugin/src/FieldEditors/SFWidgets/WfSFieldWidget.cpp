@@ -166,10 +166,10 @@ void WfSFieldWidget::setFocusLeaveEvent()
 
 void WfSFieldWidget::ignoreButtonStateChanged()
 {
-    setFieldIgnored(m_field, m_ignoreButton->isChecked());
+    setFieldIgnored(*this, m_field, m_ignoreButton->isChecked());
 }
 
-void WfSFieldWidget::setDefaultFieldValue() { setFieldToDefault(m_field); }
+void WfSFieldWidget::setDefaultFieldValue() { setFieldToDefault(*this, m_field); }
 
 void WfSFieldWidget::applyChanges() { }
 

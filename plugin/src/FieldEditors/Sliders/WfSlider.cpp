@@ -3,6 +3,7 @@
 
 #include "CrvFieldEditors.h"
 #include "SliderMath.h"
+#include "UnwrittenText.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -66,6 +67,9 @@ WfSlider::WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row
     connect(m_lineEdit, &QLineEdit::returnPressed, this, &WfSlider::changeValueFromEdit);
     connect(m_lineEdit, &QLineEdit::editingFinished, this, &WfSlider::changeValueFromEdit);
     connect(m_notifyCheckBox, &QCheckBox::toggled, this, &WfSlider::eventNotify);
+    // A cell has a way of its own to end without a change.
+    if (m_inTable == 0)
+        new UnwrittenText(m_lineEdit, [this] { m_owner->updateFromField(); });
 }
 
 WfSlider::~WfSlider() = default;

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "UnwrittenText.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <utility>
+
+UnwrittenText::UnwrittenText(QLineEdit* line, std::function<void()> showField)
+    : QObject(line)
+    , m_line(line)
+    , m_showField(std::move(showField))
+{
+    m_line->installEventFilter(this);
+}
+
+bool UnwrittenText::eventFilter(QObject*, QEvent* event)
+{
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if ((!isPress && event->type() != QEvent::ShortcutOverride)
+        || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel) || !m_line->isModified())
+        return false;
+    event->accept();
+    if (!isPress)
+        return true; // no shortcut of the host's takes the key
+    m_showField();
+    // In a popup the key goes on, and closes it.
+    return m_line->window()->windowType() != Qt::Popup;
+}
+
+void dropUnwrittenTexts(
+    const std::vector<QLineEdit*>& lines, const std::function<QString(std::size_t)>& fieldText)
+{
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        QLineEdit* const line = lines[i];
+        new UnwrittenText(line, [line, fieldText, i] {
+            line->setText(fieldText(i));
+            line->setCursorPosition(0);
+        });
+    }
+}
