@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FittedFont.h"
 
+#include <QEvent>
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QLabel>
@@ -10,9 +11,13 @@
 #include <QStyleOptionFrame>
 #include <QStyleOptionSpinBox>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int anySize = QWIDGETSIZE_MAX;
+constexpr int smallestFont = 7; // pixels; below, nobody reads it anyway
+constexpr int narrowFont = 8; // pixels; that of a line as narrow as it may be
 
 bool fits(const QFont& font, const QString& sample, const QSize& room)
 {
@@ -23,6 +28,8 @@ bool fits(const QFont& font, const QString& sample, const QSize& room)
 
 /// The longest text of six significant digits that isn't in exponent form.
 QString numberSample() { return QStringLiteral("-0.123457"); }
+
+QString fiveDigits() { return QStringLiteral("00000"); }
 
 /// What frame, margins and cursor of a line take of its width and height.
 QSize surroundings(const QLineEdit* line)
@@ -41,28 +48,58 @@ QSize surroundings(const QLineEdit* line)
         + QSize(2 * lineMargin + cursor + margins.left() + margins.right(), 0);
 }
 
+/// Keeps five digits of a line whole while its width changes. The line is the parent.
+class NarrowLine : public QObject {
+public:
+    explicit NarrowLine(QLineEdit* line)
+        : QObject(line)
+        , m_line(line)
+        , m_font(line->font())
+    {
+        QFont narrow = m_font;
+        narrow.setPixelSize(std::min(narrowFont, QFontInfo(m_font).pixelSize()));
+        line->setMinimumWidth(
+            QFontMetrics(narrow).horizontalAdvance(fiveDigits()) + surroundings(line).width());
+        line->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize) {
+            const int width = m_line->width() - surroundings(m_line).width();
+            const QFont font = fittedFont(m_font, fiveDigits(), QSize(width, anySize));
+            if (font != m_line->font())
+                m_line->setFont(font);
+        }
+        return false;
+    }
+
+private:
+    QLineEdit* m_line;
+    QFont m_font; // of a line that has room
+};
+
 } // namespace
 
 QFont fittedFont(const QFont& font, const QString& sample, const QSize& room)
 {
-    constexpr int smallest = 7; // pixels; below, nobody reads it anyway
     QFont fitted = font;
-    for (int size = QFontInfo(font).pixelSize(); !fits(fitted, sample, room) && size > smallest;)
+    for (int size = QFontInfo(font).pixelSize();
+         !fits(fitted, sample, room) && size > smallestFont;)
         fitted.setPixelSize(--size);
     return fitted;
 }
 
 void fitNumberLine(QLineEdit* line, const QSize& size)
 {
-    const QSize around = surroundings(line);
-    line->setFont(fittedFont(line->font(), numberSample(), size - around));
-    if (size.width() == anySize) {
-        line->setMinimumWidth(
-            line->fontMetrics().horizontalAdvance(numberSample()) + around.width());
-    }
+    line->setFont(fittedFont(line->font(), numberSample(), size - surroundings(line)));
 }
 
-void fitNumberLine(QLineEdit* line, int height) { fitNumberLine(line, QSize(anySize, height)); }
+void fitNumberLine(QLineEdit* line, int height)
+{
+    fitNumberLine(line, QSize(anySize, height));
+    new NarrowLine(line);
+}
 
 void fitSpinBox(QSpinBox* box, int height)
 {

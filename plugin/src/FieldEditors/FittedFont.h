@@ -15,10 +15,11 @@ class QSpinBox;
 /// above and below it.
 QFont fittedFont(const QFont& font, const QString& sample, const QSize& room);
 
-/// The line shows a number of six digits whole when it is given that size; it may not become
-/// narrower than that.
+/// The line shows a number of six digits whole when it is given that size.
 void fitNumberLine(QLineEdit* line, const QSize& size);
-/// The same, for a line of that height and any width.
+/// The same, for a line of that height. A line that is given less than it wants still shows five
+/// digits, in a font that becomes smaller with it; so narrow it may become before it forces the
+/// dock to be wider.
 void fitNumberLine(QLineEdit* line, int height);
 void fitSpinBox(QSpinBox* box, int height);
 void fitLabel(QLabel* label, int height);

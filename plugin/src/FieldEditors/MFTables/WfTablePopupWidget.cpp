@@ -74,7 +74,8 @@ void WfTablePopupWidget::updateFromField()
     WfMFieldWidget::updateFromField();
     if (!m_popupFrame || !m_popupFrame->isVisible())
         return;
-    // What is being typed is meant for the row that the popup was opened for.
+    // An open popup follows the field, or the next key would write stale numbers back. But what is
+    // being typed is meant for the row that the popup was opened for.
     if (m_table->currentRow() == row)
         fill(true);
     else
@@ -111,6 +112,7 @@ void WfTablePopupWidget::placePopup()
     const QFrame* const frame = getFrame();
     const QPoint wanted = popupPositionLeftOf(
         frame->mapToGlobal(frame->geometry().topLeft()), m_popupFrame->width());
+    // A panel at the left edge of a screen leaves no room there.
     const QScreen* const screen = QGuiApplication::screenAt(wanted);
     m_popupFrame->move(positionInside(
         (screen ? screen : frame->screen())->availableGeometry(), wanted, m_popupFrame->size()));

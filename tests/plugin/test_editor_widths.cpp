@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "EditorRow.h"
+
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QStyleOptionFrame>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What the frame and the margins of a line leave for its text.
+int textWidth(const QLineEdit* line)
+{
+    QStyleOptionFrame option;
+    option.initFrom(line);
+    option.lineWidth = 1;
+    constexpr int margins = 2 * 2;
+    return line->style()->subElementRect(QStyle::SE_LineEditContents, &option, line).width()
+        - margins;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(EditorRow)
+
+/// No editor of a single value forces a dock wider than docks are.
+class TestEditorWidths : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { failOnWarnings(); }
+
+    void anEditorFitsANarrowDock_data()
+    {
+        QTest::addColumn<EditorRow>("row");
+        for (const auto& rows : { singleValueRows(), compoundRows() }) {
+            for (const EditorRow& row : rows)
+                QTest::newRow(row.type) << row;
+        }
+    }
+    void anEditorFitsANarrowDock()
+    {
+        QFETCH(EditorRow, row);
+        EditorFixture fixture;
+        EditorFixture::write(fixture.field(row.type), row.start);
+        fixture.select(fixture.field(row.type));
+        QFrame* const frame = fixture.editor()->getFrame();
+        QVERIFY(frame->minimumSizeHint().width() <= 360);
+        frame->parentWidget()->setFixedWidth(360);
+        EditorFixture::settle();
+        for (const QWidget* part : frame->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            if (!part->isWindow())
+                QVERIFY(frame->rect().contains(part->geometry()));
+        }
+        for (const QLineEdit* line : frame->findChildren<QLineEdit*>()) {
+            if (!line->isVisible() || qobject_cast<QSpinBox*>(line->parentWidget()))
+                continue;
+            // Five digits are whole, and given room, any number.
+            const int around = line->width() - textWidth(line);
+            QVERIFY(line->fontMetrics().horizontalAdvance(u"12345"_s) <= textWidth(line));
+            QVERIFY(line->fontMetrics().horizontalAdvance(u"-0.123457"_s) + around
+                <= line->sizeHint().width());
+        }
+    }
+
+    /// A line that was narrow gets its font back.
+    void aFontFollowsTheWidth()
+    {
+        EditorFixture fixture;
+        fixture.select(fixture.field("SFColorRGBA"));
+        auto* const line = fixture.child<QLineEdit>("SFColorRGBALine");
+        QWidget* const dock = fixture.editor()->getFrame()->parentWidget();
+        const QFont font = line->font();
+        dock->setFixedWidth(360);
+        QTRY_VERIFY(line->fontInfo().pixelSize() < QFontInfo(font).pixelSize());
+        dock->setFixedWidth(700);
+        QTRY_COMPARE(line->font(), font);
+    }
+};
+
+QTEST_MAIN(TestEditorWidths)
+#include "test_editor_widths.moc"
