@@ -72,7 +72,13 @@ WfSlider::WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row
         new UnwrittenText(m_lineEdit, [this] { m_owner->updateFromField(); });
 }
 
-WfSlider::~WfSlider() = default;
+WfSlider::~WfSlider()
+{
+    // A line that goes after this object, as a child does, would tell it of its last text.
+    delete m_lineEdit;
+    delete m_notifyCheckBox;
+    delete m_slider;
+}
 
 void WfSlider::setValue(QString) { }
 void WfSlider::updateEdit() { }
