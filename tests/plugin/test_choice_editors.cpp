@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorRow.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QUndoStack>
@@ -59,7 +60,8 @@ private Q_SLOTS:
         EditorFixture::settle();
         QCOMPARE(field.getValue(), 7);
         // Choosing the present entry again is a choice, too.
-        Q_EMIT box->activated(box->currentIndex());
+        QTest::keyClick(box, Qt::Key_F4);
+        QTest::keyClick(box->view(), Qt::Key_Return);
 
         // No entry at all is nothing to stumble over.
         fixture.select(&bare);

@@ -78,8 +78,13 @@ private Q_SLOTS:
         type(1, "7");
         type(1, "x");
         type(3, "0.5");
-        QCOMPARE(
-            colors.join(u' '), QStringLiteral("#ffff0000 #ffff7f00 #ffff7f00 #ffff0000 #7fff0000"));
+        // What is dropped takes its channel and the display back.
+        type(2, "1");
+        QTest::keyClick(lines[2], Qt::Key_Escape);
+        colors << displayed(fixture);
+        QCOMPARE(colors.join(u' '),
+            QStringLiteral(
+                "#ffff0000 #ffff7f00 #ffff7f00 #ffff0000 #7fff0000 #7fff00ff #7fff0000"));
         EditorFixture::settle();
         QCOMPARE(EditorFixture::text(field), QStringLiteral("1 0 0 1"));
         QCOMPARE(fixture.undoStack().count(), 0);

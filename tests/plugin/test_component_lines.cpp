@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "ComponentValidator.h"
 #include "EditorRow.h"
 
 #include <QLineEdit>
@@ -195,28 +194,39 @@ private Q_SLOTS:
         QCOMPARE(EditorFixture::text(field), QStringLiteral("0 15.123456"));
     }
 
+    void validators_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("taken");
+        QTest::newRow("short") << 1 << "327678"
+                               << "32767";
+        QTest::newRow("lowest short") << 1 << "-32768"
+                                      << "-32768";
+        QTest::newRow("int") << 2 << "2147483647.8"
+                             << "2147483647";
+        QTest::newRow("float") << 3 << "-1.2345678e3"
+                               << "-1.234567e3";
+        QTest::newRow("double") << 4 << "0,123456789012"
+                                << "0123456789012";
+        QTest::newRow("none") << 0 << "any text"
+                              << "any text";
+        QTest::newRow("unknown") << 9 << "1.5"
+                                 << "15"; // stays that of the box
+    }
     void validators()
     {
-        const std::tuple<int, const char*, const char*> rows[] = {
-            { 1, "-32768", "-32768" },
-            { 1, "327678", "32767" },
-            { 2, "-2147483648", "-2147483648" },
-            { 2, "2147483647.8", "2147483647" },
-            { 3, "-1.2345678e3", "-1.234567e3" },
-            { 4, "0,123456789012", "0123456789012" },
-        };
-        for (const auto& [kind, typed, taken] : rows) {
-            QLineEdit line;
-            setComponentValidator(kind, &line);
-            QTest::keyClicks(&line, QLatin1String(typed));
-            QCOMPARE(line.text(), QLatin1String(taken));
-            // An unknown kind leaves the validator, 0 takes it away.
-            const QValidator* const validator = line.validator();
-            setComponentValidator(9, &line);
-            QCOMPARE(line.validator(), validator);
-            setComponentValidator(0, &line);
-            QVERIFY(!line.validator());
+        QFETCH(int, kind);
+        QFETCH(QString, typed);
+        WfSFBox3sWidget editor;
+        editor.load();
+        editor.setValidatorKind(kind);
+        for (QLineEdit* line :
+            editor.getFrame()->findChildren<QLineEdit*>(QStringLiteral("m_lineEdits"))) {
+            QTest::keyClicks(line, typed);
+            QTEST(line->text(), "taken");
         }
+        editor.unload();
     }
 };
 

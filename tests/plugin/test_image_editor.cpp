@@ -97,6 +97,10 @@ private Q_SLOTS:
             QCOMPARE(images.popup->size(), size.boundedTo(QSize(256, 256)));
             QCOMPARE(images.thumbnail->size(), QSize(16, 16));
             QCOMPARE(images.shown().size(), size);
+            for (auto* label : { images.thumbnail, static_cast<QLabel*>(images.popup) })
+                QVERIFY(label->hasScaledContents());
+            QVERIFY(images.thumbnail->hasMouseTracking());
+            QCOMPARE(images.thumbnail->focusPolicy(), Qt::NoFocus);
         }
     }
 

@@ -52,28 +52,31 @@ private Q_SLOTS:
         QTEST(names.join(u' '), "names");
     }
 
+    void spinBoxesStopAtTheEndsOfTheirType_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("-32768") << QByteArray("SFVec2s") << "-32768";
+        QTest::newRow("-327689") << QByteArray("SFVec2s") << "-32768";
+        QTest::newRow("-2147483648") << QByteArray("SFVec2i32") << "-2147483648";
+        QTest::newRow("21474836479") << QByteArray("SFVec2i32") << "2147483647";
+        QTest::newRow("1,000") << QByteArray("SFVec2i32") << "1000";
+    }
     void spinBoxesStopAtTheEndsOfTheirType()
     {
-        const char* const rows[][3] = {
-            { "SFVec2s", "-32768", "-32768" },
-            { "SFVec2s", "-327689", "-32768" },
-            { "SFVec2i32", "-2147483648", "-2147483648" },
-            { "SFVec2i32", "21474836479", "2147483647" },
-            { "SFVec2i32", "1,000", "1000" },
-        };
-        for (const auto& [type, typed, shown] : rows) {
-            EditorFixture fixture;
-            fixture.select(fixture.field(type));
-            auto* const box = fixture.child<QSpinBox>("SF2Box");
-            box->setFocus();
-            box->selectAll();
-            QTest::keyClicks(box, QLatin1String(typed));
-            EditorFixture::settle();
-            QCOMPARE(box->text(), QLatin1String(shown));
-            // Every change of value was written while the person typed.
-            QCOMPARE(EditorFixture::text(fixture.field(type)), box->text() + QStringLiteral(" 0"));
-            QVERIFY(fixture.undoStack().count() > 1);
-        }
+        QFETCH(QByteArray, type);
+        EditorFixture fixture;
+        fixture.select(fixture.field(type.constData()));
+        auto* const box = fixture.child<QSpinBox>("SF2Box");
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, QLatin1String(QTest::currentDataTag()));
+        EditorFixture::settle();
+        QTEST(box->text(), "shown");
+        // Every change of value was written while the person typed.
+        QCOMPARE(EditorFixture::text(fixture.field(type.constData())),
+            box->text() + QStringLiteral(" 0"));
+        QVERIFY(fixture.undoStack().count() > 1);
     }
 
     /// A large font of the user doesn't clip a number in the fixed heights, and a small one stays.
