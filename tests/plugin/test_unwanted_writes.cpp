@@ -123,6 +123,7 @@ private Q_SLOTS:
         QVERIFY(inDialog<QColorDialog>(
             editor.getFrame()->findChild<QPushButton*>(QStringLiteral("m_colorDisp")), goAway));
         typeInto(line, QStringLiteral("0.5"));
+        QTest::keyClick(line, Qt::Key_Escape);
         pokeEverything(editor);
         QVERIFY(!editor.shows(field.get()));
         editor.deactivate();

@@ -81,8 +81,13 @@ void CrvFieldEditors::attachField(KnField* field) { m_fieldSensor->attach(field)
 
 bool CrvFieldEditors::shows(const KnField* field) const
 {
-    const KnField* const shown = m_fieldSensor ? m_fieldSensor->getAttachedField() : nullptr;
-    return field && (field == shown || field == m_leftField);
+    return field
+        && (field == m_leftField || (isAttached() && field == m_fieldSensor->getAttachedField()));
+}
+
+bool CrvFieldEditors::isAttached() const
+{
+    return m_fieldSensor && m_fieldSensor->getAttachedField();
 }
 
 void CrvFieldEditors::fieldChanged(void* data, KnSensor*)

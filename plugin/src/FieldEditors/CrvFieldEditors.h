@@ -52,6 +52,9 @@ public:
     /// left of a line, a popup or a dialog after that must not reach the field, which may be gone.
     bool shows(const KnField* field) const;
 
+    /// Whether there is a field to read: one is attached and hasn't gone away.
+    bool isAttached() const;
+
     /// The parent of all of the editor's widgets.
     QFrame* getFrame() const { return m_frame; }
 

@@ -29,7 +29,7 @@ QString centredText(const QString& text)
     return QStringLiteral("<p align=\"center\">") + text + QStringLiteral("</p>");
 }
 
-QPushButton* makeFocusedIconButton(QWidget* parent, const char* name, const QPixmap& icon)
+QPushButton* makeFocusableIconButton(QWidget* parent, const char* name, const QPixmap& icon)
 {
     auto* const button = new QPushButton(parent);
     button->setObjectName(QLatin1String(name));
@@ -42,7 +42,7 @@ QPushButton* makeFocusedIconButton(QWidget* parent, const char* name, const QPix
 
 QPushButton* makeIconButton(QWidget* parent, const char* name, const QPixmap& icon)
 {
-    QPushButton* const button = makeFocusedIconButton(parent, name, icon);
+    QPushButton* const button = makeFocusableIconButton(parent, name, icon);
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::NoFocus);
     return button;

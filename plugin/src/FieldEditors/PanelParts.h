@@ -26,4 +26,4 @@ QPushButton* makeIconButton(QWidget* parent, const char* name, const QPixmap& ic
 
 /// The same with the focus policy of a plain button: the tab key reaches it, and Space and Return
 /// press it.
-QPushButton* makeFocusedIconButton(QWidget* parent, const char* name, const QPixmap& icon);
+QPushButton* makeFocusableIconButton(QWidget* parent, const char* name, const QPixmap& icon);

@@ -31,7 +31,7 @@ void WfPopupWidget::load()
 {
     WfSFLineWidget::load();
 
-    m_editButton = makeFocusedIconButton(getFrame(), "m_editButton", m_editPixmap);
+    m_editButton = makeFocusableIconButton(getFrame(), "m_editButton", m_editPixmap);
     m_buttonLayout->insertWidget(0, m_editButton, 0);
     connect(m_editButton, &QPushButton::clicked, this, &WfPopupWidget::managePopFramePos);
     m_lineEdit->setEnabled(false);
@@ -73,6 +73,8 @@ void WfPopupWidget::managePopFramePos()
         m_popupFrame->hide();
         return;
     }
+    if (!isAttached())
+        return;
     settlePopupSize(m_popupFrame);
     const QPoint corner = getFrame()->mapToGlobal(m_editButton->geometry().bottomRight());
     m_popupFrame->move(popupPosition(corner, QGuiApplication::primaryScreen()->availableSize(),

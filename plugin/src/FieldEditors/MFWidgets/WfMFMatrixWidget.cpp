@@ -63,7 +63,7 @@ void WfMFMatrixWidget::setFieldValue(int row, int, QString)
 
 QString WfMFMatrixWidget::getCellText(int, int)
 {
-    if (!m_field)
+    if (!shows(m_field))
         return QString();
     // No character is narrower than a pixel, so a text with more characters than the cell has
     // pixels is cut, and where depends on its beginning alone.

@@ -25,7 +25,7 @@ public:
         setLabel(QLatin1String(Traits::typeName));
         WfSFColorBox::load();
         // A line that goes back takes its channel and the display along.
-        dropUnwrittenTexts(m_lines, [this](std::size_t i) {
+        dropUnwrittenTexts(m_lines, this, [this](std::size_t i) {
             return componentText(Components::read(field()->getValue())[i]);
         });
     }

@@ -29,7 +29,7 @@ public:
         setLabel(QLatin1String(Traits::typeName));
         WfPopupWidget::load();
         setValidatorKind(Traits::validatorKind);
-        dropUnwrittenTexts(m_lineEdits, [this](std::size_t i) {
+        dropUnwrittenTexts(m_lineEdits, this, [this](std::size_t i) {
             return componentText(Components::read(field()->getValue())[i]);
         });
     }
@@ -48,15 +48,14 @@ public:
     using WfPopupWidget::applyChanges;
     void applyChanges() override
     {
-        if (!shows(m_field))
-            return;
         typename Components::Numbers numbers;
         for (std::size_t i = 0; i < numbers.size(); ++i)
             numbers[i] = componentNumber<typename Components::Number>(m_lineEdits[i]->text());
         executeFieldEdit(
             *this, m_field, [this, &numbers] { field()->setValue(Components::make(numbers)); });
         // The summary shows the new value at once, without waiting for the sensor.
-        WfSFLineWidget::updateFromField();
+        if (shows(m_field))
+            WfSFLineWidget::updateFromField();
     }
 
 private:

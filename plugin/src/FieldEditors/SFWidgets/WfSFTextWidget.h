@@ -30,7 +30,7 @@ public:
         setLabel(QLatin1String(Traits::typeName));
         WfSFieldWidget::load();
         m_lineEdit = makeLineEdit(m_editionFrame, m_editLayout);
-        new UnwrittenText(m_lineEdit, [this] { updateFromField(); });
+        new UnwrittenText(m_lineEdit, this, [this] { updateFromField(); });
         connect(m_lineEdit, &QLineEdit::editingFinished, this, &WfSFTextWidget::setCommandValue);
     }
 

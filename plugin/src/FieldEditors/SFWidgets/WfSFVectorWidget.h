@@ -32,10 +32,11 @@ public:
             nameArray[i] = QLatin1String(Components::names[i]);
         this->setLabels(nameArray);
         // A spin box writes while a person types.
-        if constexpr (std::is_base_of_v<WfSFLineBox, Box>)
-            dropUnwrittenTexts(this->m_lines, [this](std::size_t i) {
+        if constexpr (std::is_base_of_v<WfSFLineBox, Box>) {
+            dropUnwrittenTexts(this->m_lines, this, [this](std::size_t i) {
                 return componentText(Components::read(field()->getValue())[i]);
             });
+        }
     }
 
     void updateFromField() override

@@ -69,7 +69,7 @@ WfSlider::WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row
     connect(m_notifyCheckBox, &QCheckBox::toggled, this, &WfSlider::eventNotify);
     // A cell has a way of its own to end without a change.
     if (m_inTable == 0)
-        new UnwrittenText(m_lineEdit, [this] { m_owner->updateFromField(); });
+        new UnwrittenText(m_lineEdit, m_owner, [this] { m_owner->updateFromField(); });
 }
 
 WfSlider::~WfSlider()
