@@ -5,6 +5,7 @@
 #include "KnSensorQueue.h"
 
 #include <QDockWidget>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <memory>
@@ -211,6 +212,8 @@ private Q_SLOTS:
         ProbeEditor editor(type, log);
         ProbePlugin plugin(&editor);
         CrvPluginsManager::getInstance()->adoptPlugin(&plugin);
+        // Also behind a failure, while the editor lives.
+        const auto unload = qScopeGuard([] { CrvPluginsManager::getInstance()->unloadAll(); });
         QMainWindow& window = fixture.shell().window();
         auto* const dock = window.findChild<QDockWidget*>(dockName);
         const auto& all = fixture.plugin().getExtensions();
@@ -258,7 +261,6 @@ private Q_SLOTS:
         QVERIFY(extension.isActive());
         select(&fixture.node());
         QCOMPARE(log, shown);
-        CrvPluginsManager::getInstance()->unloadAll();
     }
 
 private:
