@@ -155,6 +155,7 @@ void showLongLines(QTextEdit& view)
 
 int main(int argc, char** argv)
 {
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
     const QApplication application(argc, argv);
     const int messages = argc > 1 ? std::atoi(argv[1]) : 100000;
     BenchShell shell;
@@ -214,15 +215,17 @@ int main(int argc, char** argv)
     }();
     console.clear();
     QTextEdit* const view = bare.form.m_consoleOutput;
-    flood(*view, lines, "  bare view, queued calls", [view](const QString& line) {
-        QMetaObject::invokeMethod(
-            view,
-            [view, line] {
-                view->setTextColor(Qt::darkGreen);
-                view->append(line);
-            },
-            Qt::QueuedConnection);
-    });
+    // A tenth, which is stall enough.
+    flood(*view, lines / 10 / floodThreads * floodThreads, "  bare view, a tenth of them",
+        [view](const QString& line) {
+            QMetaObject::invokeMethod(
+                view,
+                [view, line] {
+                    view->setTextColor(Qt::darkGreen);
+                    view->append(line);
+                },
+                Qt::QueuedConnection);
+        });
     bare.form.m_consoleOutput->clear();
     showLongLines(*console.m_consoleOutput);
 

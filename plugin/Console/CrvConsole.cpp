@@ -101,11 +101,13 @@ bool CrvConsole::event(QEvent* e)
 {
     if (e->type() == consoleEventType) {
         // Any code may post an event of this number.
-        if (auto* const printed = dynamic_cast<PrintEvent*>(e))
+        if (auto* const printed = dynamic_cast<PrintEvent*>(e)) {
+            m_brake.noteArrival();
             m_feed.take(
                 { printed->getText(), printed->getOutputType(), std::move(printed->place) });
-        else if (const auto* const message = dynamic_cast<ConsoleEvent*>(e))
+        } else if (const auto* const message = dynamic_cast<ConsoleEvent*>(e)) {
             m_feed.take({ message->getText(), message->getOutputType(), {} });
+        }
     }
     return QObject::event(e);
 }

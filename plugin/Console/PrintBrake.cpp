@@ -24,6 +24,12 @@ PrintBrake::Place PrintBrake::enter(std::size_t weight)
     return { this, weight };
 }
 
+void PrintBrake::noteArrival()
+{
+    const std::lock_guard lock(m_mutex);
+    m_lastStep = Clock::now();
+}
+
 void PrintBrake::setEngaged(bool engaged)
 {
     const std::lock_guard lock(m_mutex);

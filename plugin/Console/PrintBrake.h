@@ -11,9 +11,10 @@
 /// piles up in memory nor keeps the view's thread from its other work.
 ///
 /// A thread waits while the messages on their way weigh more than the limit, and never longer than
-/// the patience for one message. Once the view has shown nothing for that long nobody waits at all,
-/// until it shows something again: a view whose thread waits for a printing one, by joining it or
-/// for a lock that it holds, stands still no longer than that, however much the thread has to say.
+/// the patience for one message. Once the view's thread has done nothing about messages for that
+/// long nobody waits at all, until it does again: a view whose thread waits for a printing one, by
+/// joining it or for a lock that it holds, stands still no longer than that, however much the
+/// thread has to say.
 /// Without Qt, so that the thread sanitizer sees all of it.
 class PrintBrake {
 public:
@@ -53,6 +54,10 @@ public:
     /// Called by a thread that prints, before it hands its message over.
     Place enter(std::size_t weight);
 
+    /// Called by the view's thread when a message reaches it, long before it may be shown. Without
+    /// this, threads that were let go once would post faster than Qt delivers, and go on to do so.
+    void noteArrival();
+
     /// Before the first call, and when it is called with false, no thread waits: those that do go
     /// on at once.
     void setEngaged(bool engaged);
@@ -65,6 +70,6 @@ private:
     std::mutex m_mutex; // guards what follows
     std::condition_variable m_eased;
     std::size_t m_load = 0; // weight of all that is on its way
-    Clock::time_point m_lastStep; // when the view last showed a message, or last owed none
+    Clock::time_point m_lastStep; // of the view's thread: took or showed a message, or owed none
     bool m_engaged = false;
 };
