@@ -26,9 +26,9 @@ constexpr int consoleEventType = QEvent::User;
 
 enum OutputType { ErrorOutput = 0, InfoOutput = 1, WarningOutput = 2 };
 
-// How long a thread that prints waits for the view; with a slice of messages it stays below what a
-// person notices.
-constexpr std::chrono::milliseconds patience { 50 };
+// How long a thread that prints waits for the view: longer than a slice and its layout take on a
+// busy machine, and too short for a person to notice when the user interface waits for the thread.
+constexpr std::chrono::milliseconds patience { 100 };
 // Some thousand lines on their way: enough for several slices, soon shown.
 constexpr std::size_t brakeLimit = 1 << 20;
 constexpr std::size_t messageWeight = 256; // of a posted event without its text

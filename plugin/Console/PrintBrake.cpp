@@ -16,7 +16,8 @@ PrintBrake::Place PrintBrake::enter(std::size_t weight)
         m_lastStep = Clock::now();
     if (m_engaged && m_load >= m_limit) {
         const Clock::time_point longest = Clock::now() + m_patience;
-        const auto end = [this, longest] { return std::min(longest, m_lastStep + m_patience); };
+        const auto end
+            = [this, longest] { return std::min(longest, m_lastStep.load() + m_patience); };
         while (m_engaged && m_load >= m_limit && Clock::now() < end())
             m_eased.wait_until(lock, end());
     }
@@ -24,11 +25,7 @@ PrintBrake::Place PrintBrake::enter(std::size_t weight)
     return { this, weight };
 }
 
-void PrintBrake::noteArrival()
-{
-    const std::lock_guard lock(m_mutex);
-    m_lastStep = Clock::now();
-}
+void PrintBrake::noteArrival() { m_lastStep = Clock::now(); }
 
 void PrintBrake::setEngaged(bool engaged)
 {

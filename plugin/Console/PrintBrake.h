@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstddef>
@@ -70,6 +71,8 @@ private:
     std::mutex m_mutex; // guards what follows
     std::condition_variable m_eased;
     std::size_t m_load = 0; // weight of all that is on its way
-    Clock::time_point m_lastStep; // of the view's thread: took or showed a message, or owed none
     bool m_engaged = false;
+    // Of the view's thread: took or showed a message, or owed none. Not guarded: it is noted for
+    // each message of a flood, when many threads want the lock.
+    std::atomic<Clock::time_point> m_lastStep = Clock::time_point();
 };
