@@ -253,6 +253,6 @@ if __name__ == "__main__":
     if len(sys.argv) > 1:
         write_sheet(pathlib.Path(sys.argv[1]))
     else:
-        write_xpm(ROOT / "src/FieldEditors/PixmapTexts.inc")
+        write_xpm(ROOT / "src/FieldEditors/Parts/PixmapTexts.inc")
         for icon, side, drawing in PNG:
             write_png(ROOT / "Console/Icons" / f"{icon}.png", png_pixels(side, drawing))
