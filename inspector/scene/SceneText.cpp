@@ -68,13 +68,6 @@ QString imageSummary(const KnSFImage& image)
 
 } // namespace
 
-QString toQString(const KbString& text) { return QString::fromStdU16String(text.toUtf16()); }
-
-KbString toKbString(const QString& text)
-{
-    return KbString::fromUtf16(reinterpret_cast<const char16_t*>(text.utf16()), text.size());
-}
-
 QString typeName(const KnType& type) { return toQString(type.getName().getString()); }
 
 QString toolTipText(const QString& text)

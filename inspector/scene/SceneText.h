@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "CrvStrings.h"
+
 #include <QString>
 
-class KbString;
 class KnField;
 class KnFieldContainer;
 class KnType;
 
 /// How the window words kernel objects. What these functions cost doesn't grow with an array.
 
-QString toQString(const KbString& text);
-KbString toKbString(const QString& text);
 QString typeName(const KnType& type);
 /// For a tool tip, which would take a text with angle brackets for markup.
 QString toolTipText(const QString& text);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvProfileReader.h"
 
+#include "CrvStrings.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QStringList>
@@ -15,8 +17,6 @@ constexpr QLatin1String name("name");
 constexpr QLatin1String extensions("extensions");
 constexpr QLatin1String controls("controls");
 } // namespace Key
-
-KbString toKbString(const QString& text) { return KbString::fromUtf16(text.utf16(), text.size()); }
 
 } // namespace
 

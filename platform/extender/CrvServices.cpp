@@ -3,6 +3,7 @@
 
 #include "CrvCommand.h"
 #include "CrvSensorPump.h"
+#include "CrvStrings.h"
 #include "KnDatabase.h"
 #include "KnField.h"
 #include "KnFieldContainer.h"
@@ -43,11 +44,6 @@ private:
     std::unique_ptr<CrvCommand> m_command;
     bool m_executed = false;
 };
-
-QString toQString(const KbName& name)
-{
-    return QString::fromStdU16String(name.getString().toUtf16());
-}
 
 /// A command has no description of its own; it comes from the editor of the selected field.
 QString undoText(const KnField* field)

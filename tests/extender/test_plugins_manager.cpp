@@ -2,6 +2,7 @@
 #include "CrvPluginsManager.h"
 #include "CrvProfile.h"
 #include "CrvServices.h"
+#include "CrvStrings.h"
 #include "KnMaterial.h"
 #include "RecordingPlugin.h"
 
@@ -28,8 +29,6 @@ QByteArray profileOf(const QByteArray& extensions)
 {
     return R"({"profiles":[{"name":"Caf\u00e9","extensions":)" + extensions + "}]}";
 }
-
-QString toQString(const KbString& text) { return QString::fromStdString(text.toUtf8()); }
 
 } // namespace
 

@@ -3,6 +3,7 @@
 #include "CrvPlugin.h"
 #include "CrvPluginsManager.h"
 #include "CrvServices.h"
+#include "CrvStrings.h"
 #include "KbMemory.h"
 #include "KnError.h"
 #include "KnSensorQueue.h"
@@ -31,7 +32,7 @@ QString identity(const Described& object)
     QStringList parts;
     for (const KbString& part :
         { object.getName(), object.getDescription(), object.getAuthor(), object.getVersion() })
-        parts << QString::fromStdU16String(part.toUtf16());
+        parts << toQString(part);
     return parts.join(u'|');
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ArrayFixture.h"
+#include "CrvStrings.h"
 #include "SliderInput.h"
 
 #include "KnMaterial.h"
-#include "StringConversion.h"
 #include "WfRealSlider.h"
 
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "CrvStrings.h"
 #include "EditorFixture.h"
 #include "KnMField.h"
 #include "LayoutDump.h"
-#include "StringConversion.h"
 
 #include <QApplication>
 
@@ -292,7 +292,7 @@ private Q_SLOTS:
                              : u"Wf%1Widget"_s.arg(QLatin1String(
                                  name == "MField" ? QByteArray("MFDefaultField") : name)));
         QCOMPARE(toQString(editor->getName()), QLatin1String(name));
-        QCOMPARE(toQString(editor->getHandledType().getName().getString()), QLatin1String(name));
+        QCOMPARE(toQString(editor->getHandledType().getName()), QLatin1String(name));
 
         QString actual = m_dump->panel(editor->getFrame());
         if (isArray)

@@ -2,7 +2,7 @@
 #include "CrvPluginsManager.h"
 #include "CrvProfile.h"
 #include "CrvProfileSelectorExtension.h"
-#include "StringConversion.h"
+#include "CrvStrings.h"
 #include "TableInput.h"
 
 #include <QApplication>

@@ -4,8 +4,8 @@
 #include "CrvMFSetFieldValueCommand.h"
 #include "CrvMFSetValueCommand.h"
 #include "CrvMFSwapRowsCommand.h"
+#include "CrvStrings.h"
 #include "KnMFields.h"
-#include "StringConversion.h"
 
 #include <QRandomGenerator>
 #include <QTest>

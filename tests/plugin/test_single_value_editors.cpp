@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "CrvStrings.h"
 #include "EditorRow.h"
 #include "KnComplexity.h"
 #include "KnDirectionalLight.h"
 #include "KnReadError.h"
 #include "SliderInput.h"
-#include "StringConversion.h"
 #include "WfRealSlider.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "CrvStrings.h"
 #include "EditorRow.h"
 #include "SliderInput.h"
-#include "StringConversion.h"
 #include "WfIntSlider.h"
 #include "WfRealSlider.h"
 #include "WfUIntSlider.h"

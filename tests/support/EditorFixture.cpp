@@ -3,8 +3,8 @@
 
 #include "CrvPluginsManager.h"
 #include "CrvServices.h"
+#include "CrvStrings.h"
 #include "KnSensorQueue.h"
-#include "StringConversion.h"
 
 #include <QApplication>
 #include <QRegularExpression>

@@ -2,6 +2,7 @@
 #include "TestShell.h"
 
 #include "CrvExtension.h"
+#include "CrvStrings.h"
 
 #include <QDockWidget>
 #include <QToolBar>
@@ -13,10 +14,7 @@ QString call(const char* operation, const QString& what, int number)
     return QStringLiteral("%1 %2 %3").arg(QLatin1String(operation), what).arg(number);
 }
 
-QString nameOf(const CrvExtension* extension)
-{
-    return QString::fromStdU16String(extension->getName().toUtf16());
-}
+QString nameOf(const CrvExtension* extension) { return toQString(extension->getName()); }
 
 } // namespace
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfMFLineWidget.h"
 
+#include "CrvStrings.h"
 #include "FieldRow.h"
-#include "StringConversion.h"
 
 WfMFLineWidget::WfMFLineWidget(const char* name)
     : WfMFieldWidget(name)

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfMFMatrixWidget.h"
 
+#include "CrvStrings.h"
 #include "FieldRow.h"
 #include "KnMFields.h"
 #include "RowComponents.h"
 #include "RowEdit.h"
-#include "StringConversion.h"
 #include "WfMFieldTable.h"
 #include "WfTablePopupLineEdit.h"
 

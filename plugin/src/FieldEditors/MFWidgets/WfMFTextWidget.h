@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "CrvStrings.h"
 #include "KnMFields.h"
 #include "RowEdit.h"
-#include "StringConversion.h"
 #include "WfMFieldWidget.h"
 
 #include <QLatin1String>

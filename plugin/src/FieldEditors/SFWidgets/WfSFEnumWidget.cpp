@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfSFEnumWidget.h"
 
+#include "CrvStrings.h"
 #include "EnumNames.h"
 #include "FieldEdit.h"
 #include "KnSFEnum.h"
-#include "StringConversion.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "CrvStrings.h"
 #include "FieldRangeTable.h"
-#include "StringConversion.h"
 #include "WfSFNumericWidget.h"
 
 /// The editors of single whole numbers. Value and field meet as text, so that the slider shows the

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfSFLineWidget.h"
 
+#include "CrvStrings.h"
 #include "FieldEdit.h"
 #include "KnSField.h"
 #include "LineEdits.h"
-#include "StringConversion.h"
 
 #include <QLineEdit>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "CrvStrings.h"
 #include "FieldEdit.h"
 #include "KnField.h"
 #include "LineEdits.h"
-#include "StringConversion.h"
 #include "UnwrittenText.h"
 #include "WfSFieldWidget.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfIntSlider.h"
 
+#include "CrvStrings.h"
 #include "NumberLocale.h"
-#include "StringConversion.h"
 
 #include <QIntValidator>
 #include <QLineEdit>

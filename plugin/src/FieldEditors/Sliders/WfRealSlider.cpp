@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfRealSlider.h"
 
+#include "CrvStrings.h"
 #include "NumberLocale.h"
-#include "StringConversion.h"
 
 #include <QDoubleValidator>
 #include <QLineEdit>

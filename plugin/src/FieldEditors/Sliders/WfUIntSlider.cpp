@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfUIntSlider.h"
 
-#include "StringConversion.h"
+#include "CrvStrings.h"
 
 #include <QLineEdit>
 
