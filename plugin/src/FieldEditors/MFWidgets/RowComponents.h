@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "ValueComponents.h"
+#include "KbComponents.h"
 
-/// How a row of an array splits into the columns of its table: as ValueComponents does.
+/// The columns of a row in the table of an array: the value's components,
 template <class Value>
-struct RowComponents : ValueComponents<Value> {
+struct RowComponents : KbComponents<Value> {
 };
 
-/// But the columns of a rotation are its quaternion.
+/// except for a rotation, whose columns are its quaternion.
 template <>
-struct RowComponents<KbRotation> : ValueComponents<KbRotation> {
+struct RowComponents<KbRotation> : KbComponents<KbRotation> {
     static Numbers read(const KbRotation& rotation) { return rotation.getValue(); }
     static KbRotation make(const Numbers& numbers)
     {

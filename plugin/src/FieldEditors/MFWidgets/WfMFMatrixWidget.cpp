@@ -4,8 +4,8 @@
 #include "CrvStrings.h"
 #include "FieldRow.h"
 #include "KnMFields.h"
-#include "RowComponents.h"
 #include "RowEdit.h"
+#include "ValueComponents.h"
 #include "WfMFieldTable.h"
 #include "WfTablePopupLineEdit.h"
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-using Components = RowComponents<KbMatrix>;
+using Components = KbComponents<KbMatrix>;
 
 // Of the overview's text so many characters are given in any case.
 constexpr int LeastText = 512;

@@ -6,6 +6,7 @@
 #include "KnMFields.h"
 #include "RowComponents.h"
 #include "RowEdit.h"
+#include "ValueComponents.h"
 #include "WfMFieldTable.h"
 #include "WfMFieldWidget.h"
 
@@ -20,7 +21,8 @@
 template <class Self, class Traits>
 class WfMFVectorWidget : public WfMFieldWidget {
 public:
-    using Components = RowComponents<typename Traits::Field::Value>;
+    using Value = typename Traits::Field::Value;
+    using Components = RowComponents<Value>;
     using Number = typename Components::Number;
 
     explicit WfMFVectorWidget(const char* name = nullptr)
@@ -35,7 +37,7 @@ public:
         WfMFieldWidget::load();
         QStringList headers;
         for (int column = 0; column < Components::count; ++column)
-            headers << QLatin1String(Components::names[column]);
+            headers << QLatin1String(componentNames<Value>[column]);
         shapeColumns(headers);
         m_table->setEditorKind(Traits::editorKind);
     }

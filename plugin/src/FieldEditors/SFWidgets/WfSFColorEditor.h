@@ -50,7 +50,7 @@ public:
 
 private:
     using Field = typename Traits::Field;
-    using Components = ValueComponents<typename Field::Value>;
+    using Components = KbComponents<typename Field::Value>;
 
     Field* field() const { return static_cast<Field*>(m_field); }
 };

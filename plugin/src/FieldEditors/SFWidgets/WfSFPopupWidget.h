@@ -60,7 +60,7 @@ public:
 
 private:
     using Field = typename Traits::Field;
-    using Components = ValueComponents<typename Field::Value>;
+    using Components = KbComponents<typename Field::Value>;
     static_assert(Traits::rows * Traits::columns == Components::count);
 
     Field* field() const { return static_cast<Field*>(m_field); }

@@ -29,7 +29,7 @@ public:
         Box::load();
         QString nameArray[Components::count];
         for (std::size_t i = 0; i < Components::count; ++i)
-            nameArray[i] = QLatin1String(Components::names[i]);
+            nameArray[i] = QLatin1String(componentNames<typename Field::Value>[i]);
         this->setLabels(nameArray);
         // A spin box writes while a person types.
         if constexpr (std::is_base_of_v<WfSFLineBox, Box>) {
@@ -58,7 +58,7 @@ public:
 
 private:
     using Field = typename Traits::Field;
-    using Components = ValueComponents<typename Field::Value>;
+    using Components = KbComponents<typename Field::Value>;
 
     Field* field() const { return static_cast<Field*>(this->m_field); }
 };
