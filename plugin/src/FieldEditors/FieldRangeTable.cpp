@@ -19,7 +19,7 @@ struct Row {
     const char* isBounded; // "0" or "1"
 };
 
-constexpr Row Rows[] = {
+constexpr Row rows[] = {
     { "DefaultNode", "floatField", "0.0", "10.0", "f", "0" },
     { "DefaultNode", "doubleField", "0.0", "10.0", "d", "0" },
     { "DefaultNode", "intField", "0", "100", "i", "0" },
@@ -40,7 +40,7 @@ int toInt(const QString& text) { return text.toInt(nullptr, FieldRangeTable::det
 
 FieldRangeTable::FieldRangeTable()
 {
-    for (const Row& row : Rows) {
+    for (const Row& row : rows) {
         const QString minValue = QLatin1String(row.minValue);
         const QString maxValue = QLatin1String(row.maxValue);
         const QLatin1String type(row.type);

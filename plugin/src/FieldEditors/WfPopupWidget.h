@@ -20,7 +20,7 @@ public:
     /// Whether a line of the grid was edited; the summary doesn't count.
     bool edited() override;
 
-    /// Gives each line of the grid the validator of that kind, see setComponentValidator.
+    /// Gives each line of the grid the validator of a ValidatorKind; see setComponentValidator.
     void setValidatorKind(int kind);
     void resetCursorPositions();
 

@@ -24,7 +24,7 @@ public:
     /// What line number `index` of the popup shows for a row; empty if there is no such row.
     virtual QString getPopupCellText(int row, int index);
 
-    /// Gives each line of the popup the validator of that kind, see setComponentValidator.
+    /// Gives each line of the popup the validator of a ValidatorKind; see setComponentValidator.
     void setValidatorKind(int kind);
 
 protected Q_SLOTS:

@@ -14,7 +14,7 @@ template <class Traits, class Vector>
 class WfMFColorEditor : public Vector {
 public:
     explicit WfMFColorEditor(const char* name = nullptr)
-        : Vector(1, name)
+        : Vector(WfMFieldWidget::ColorTable, name)
     {
         this->identify(Field::getClassTypeId(), Traits::typeName, name, Traits::className);
     }

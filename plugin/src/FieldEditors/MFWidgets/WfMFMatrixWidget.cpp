@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfMFMatrixWidget.h"
 
+#include "ComponentValidator.h"
 #include "CrvStrings.h"
 #include "FieldRow.h"
 #include "KnMFields.h"
@@ -16,9 +17,9 @@ namespace {
 using Components = KbComponents<KbMatrix>;
 
 // Of the overview's text so many characters are given in any case.
-constexpr int LeastText = 512;
+constexpr int leastText = 512;
 // The shortest text of a matrix: 16 digits with a blank between two.
-constexpr int ShortestMatrix = 31;
+constexpr int shortestMatrix = 31;
 
 KnMFMatrix& matrices(KnMField* field) { return static_cast<KnMFMatrix&>(*field); }
 
@@ -41,7 +42,7 @@ void WfMFMatrixWidget::load()
 {
     setLabel(QStringLiteral("MFMatrix"));
     WfTablePopupWidget::load();
-    setValidatorKind(3);
+    setValidatorKind(FloatValidator);
 }
 
 void WfMFMatrixWidget::swapFieldValues(int row1, int row2)
@@ -67,8 +68,8 @@ QString WfMFMatrixWidget::getCellText(int, int)
         return QString();
     // No character is narrower than a pixel, so a text with more characters than the cell has
     // pixels is cut, and where depends on its beginning alone.
-    const int longest = std::max(LeastText, m_table->columnWidth(0));
-    const int shownRows = longest / ShortestMatrix + 1;
+    const int longest = std::max(leastText, m_table->columnWidth(0));
+    const int shownRows = longest / shortestMatrix + 1;
     if (m_field->getNum() <= shownRows)
         return fieldText(*m_field);
     KnMFMatrix beginning;

@@ -17,7 +17,7 @@
 #include <QPushButton>
 
 WfMFieldWidget::WfMFieldWidget(const char* name)
-    : WfMFieldWidget(0, name)
+    : WfMFieldWidget(PlainTable, name)
 {
 }
 
@@ -30,8 +30,8 @@ WfMFieldWidget::WfMFieldWidget(int tableKind, const char* name)
     , m_ignorePixmap(ignorePixmap())
 {
     setObjectName(name ? QString(QLatin1String(name)) : QStringLiteral("WfMFieldWidget"));
-    m_table = tableKind == 1 ? new WfMFColorTable(this, getFrame(), "m_table")
-                             : new WfMFieldTable(this, getFrame(), "m_table");
+    m_table = tableKind == ColorTable ? new WfMFColorTable(this, getFrame(), "m_table")
+                                      : new WfMFieldTable(this, getFrame(), "m_table");
 }
 
 WfMFieldWidget::~WfMFieldWidget()

@@ -21,8 +21,11 @@ class WfMFieldTable;
 class WfMFieldWidget : public CrvFieldEditors {
     Q_OBJECT
 public:
+    /// The table of an editor.
+    enum TableKind : int { PlainTable = 0, ColorTable = 1 };
+
     explicit WfMFieldWidget(const char* name);
-    /// `tableKind` 1 makes a table of colours, any other a plain one.
+    /// `tableKind` is a TableKind. Any other number makes a plain table.
     WfMFieldWidget(int tableKind, const char* name);
     ~WfMFieldWidget() override;
 

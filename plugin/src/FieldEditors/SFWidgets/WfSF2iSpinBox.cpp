@@ -43,9 +43,9 @@ QWidget* WfSF2iSpinBox::makeInput(int height)
 void WfSF2iSpinBox::setSpinRange(int kind)
 {
     for (QSpinBox* box : m_boxes) {
-        if (kind == 0)
+        if (kind == Int16Range)
             setFullRange<std::int16_t>(box);
-        else if (kind == 1 || kind == 2)
+        else if (kind == IntRange || kind == Int32Range)
             setFullRange<std::int32_t>(box);
     }
 }

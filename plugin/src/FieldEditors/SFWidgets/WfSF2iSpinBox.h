@@ -10,9 +10,16 @@ class QSpinBox;
 class WfSF2iSpinBox : public WfSFColumnBox {
     Q_OBJECT
 public:
+    /// The numbers that the boxes take, all of them signed.
+    enum RangeKind : int {
+        Int16Range = 0,
+        IntRange = 1, ///< of an `int`, which has 32 bits, too
+        Int32Range = 2,
+    };
+
     explicit WfSF2iSpinBox(const char* name = nullptr);
 
-    /// 0 for 16 bits, 1 and 2 for 32 bits, both signed; any other kind changes nothing.
+    /// Limits both boxes to the numbers of a RangeKind. Any other number changes nothing.
     void setSpinRange(int kind);
 
 protected:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "ComponentValidator.h"
 #include "KnSFields.h"
 #include "WfSFPopupWidget.h"
 
@@ -10,7 +11,7 @@ struct SFBox2fTraits {
     static constexpr const char* className = "WfSFBox2fWidget";
     static constexpr int rows = 2;
     static constexpr int columns = 2;
-    static constexpr int validatorKind = 3;
+    static constexpr int validatorKind = FloatValidator;
 };
 
 /// Edits a KnSFBox2f: the lowest corner in the first row of the grid, the highest in the second.

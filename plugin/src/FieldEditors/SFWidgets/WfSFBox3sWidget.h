@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "ComponentValidator.h"
 #include "KnSFields.h"
 #include "WfSFPopupWidget.h"
 
@@ -10,7 +11,7 @@ struct SFBox3sTraits {
     static constexpr const char* className = "WfSFBox3sWidget";
     static constexpr int rows = 2;
     static constexpr int columns = 3;
-    static constexpr int validatorKind = 1;
+    static constexpr int validatorKind = Int16Validator;
 };
 
 /// Edits a KnSFBox3s: the lowest corner in the first row of the grid, the highest in the second.

@@ -7,7 +7,7 @@
 struct SFDoubleTraits {
     using Field = KnSFDouble;
     using Slider = WfRealSlider;
-    static constexpr int sliderKind = 2;
+    static constexpr int sliderKind = WfSFieldWidget::DoubleSlider;
     static constexpr const char* typeName = "SFDouble";
     static constexpr const char* className = "WfSFDoubleWidget";
     static constexpr const char* defaultField = "doubleField";

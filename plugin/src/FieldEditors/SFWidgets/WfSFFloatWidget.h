@@ -7,7 +7,7 @@
 struct SFFloatTraits {
     using Field = KnSFFloat;
     using Slider = WfRealSlider;
-    static constexpr int sliderKind = 1;
+    static constexpr int sliderKind = WfSFieldWidget::FloatSlider;
     static constexpr const char* typeName = "SFFloat";
     static constexpr const char* className = "WfSFFloatWidget";
     static constexpr const char* defaultField = "floatField";

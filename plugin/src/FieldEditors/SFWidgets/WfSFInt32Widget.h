@@ -8,7 +8,7 @@
 struct SFInt32Traits {
     using Field = KnSFInt32;
     using Slider = WfIntSlider;
-    static constexpr int sliderKind = 3;
+    static constexpr int sliderKind = WfSFieldWidget::Int32Slider;
     static constexpr const char* typeName = "SFInt32";
     static constexpr const char* className = "WfSFInt32Widget";
 };

@@ -23,7 +23,7 @@ QWidget* WfSFLineBox::makeInput(int height)
     auto* const line = new QLineEdit(m_editionFrame);
     line->setAlignment(m_alignment);
     fitNumberLine(line, height);
-    setComponentValidator(3, line);
+    setComponentValidator(FloatValidator, line);
     connect(line, &QLineEdit::editingFinished, this, &WfSFLineBox::setFocusLeaveEvent);
     connect(line, &QLineEdit::returnPressed, this, &WfSFLineBox::setCommandValue);
     m_lines.push_back(line);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "ComponentValidator.h"
 #include "KnSFields.h"
 #include "WfSFPopupWidget.h"
 
@@ -10,7 +11,7 @@ struct SFMatrixTraits {
     static constexpr const char* className = "WfSFMatrixWidget";
     static constexpr int rows = 4;
     static constexpr int columns = 4;
-    static constexpr int validatorKind = 3;
+    static constexpr int validatorKind = FloatValidator;
 };
 
 /// Edits a KnSFMatrix, one element a cell.

@@ -12,7 +12,7 @@
 /// range, and calls applyChanges() when a person changes the value. `Traits` says what a member of
 /// the family is made for:
 ///   `Field`, `Slider`: field class and slider class,
-///   `sliderKind`: of the slider that the base makes,
+///   `sliderKind`: the SliderKind of the slider that the base makes,
 ///   `typeName`, `className`: extension name and label, and the default object name.
 template <class Traits>
 class WfSFNumericWidget : public WfSFieldWidget {

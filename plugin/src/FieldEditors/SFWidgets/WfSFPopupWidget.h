@@ -14,7 +14,7 @@
 ///   `Field`: the field class,
 ///   `typeName`, `className`: extension name and label, and the default object name,
 ///   `rows`, `columns`: of the grid,
-///   `validatorKind`: of its lines.
+///   `validatorKind`: the ValidatorKind of its lines.
 template <class Traits>
 class WfSFPopupWidget : public WfPopupWidget {
 public:

@@ -8,7 +8,7 @@
 struct SFShortTraits {
     using Field = KnSFShort;
     using Slider = WfIntSlider;
-    static constexpr int sliderKind = 5;
+    static constexpr int sliderKind = WfSFieldWidget::Int16Slider;
     static constexpr const char* typeName = "SFShort";
     static constexpr const char* className = "WfSFShortWidget";
 };

@@ -8,7 +8,7 @@
 struct SFUInt32Traits {
     using Field = KnSFUInt32;
     using Slider = WfUIntSlider;
-    static constexpr int sliderKind = 4;
+    static constexpr int sliderKind = WfSFieldWidget::UInt32Slider;
     static constexpr const char* typeName = "SFUInt32";
     static constexpr const char* className = "WfSFUInt32Widget";
 };

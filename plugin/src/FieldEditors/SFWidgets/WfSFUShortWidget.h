@@ -8,7 +8,7 @@
 struct SFUShortTraits {
     using Field = KnSFUShort;
     using Slider = WfUIntSlider;
-    static constexpr int sliderKind = 6;
+    static constexpr int sliderKind = WfSFieldWidget::UInt16Slider;
     static constexpr const char* typeName = "SFUShort";
     static constexpr const char* className = "WfSFUShortWidget";
 };

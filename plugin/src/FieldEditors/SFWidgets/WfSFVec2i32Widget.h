@@ -19,6 +19,6 @@ public:
     void load() override
     {
         WfSFVectorWidget::load();
-        setSpinRange(2);
+        setSpinRange(Int32Range);
     }
 };

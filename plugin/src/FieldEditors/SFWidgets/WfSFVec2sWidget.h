@@ -19,6 +19,6 @@ public:
     void load() override
     {
         WfSFVectorWidget::load();
-        setSpinRange(0);
+        setSpinRange(Int16Range);
     }
 };

@@ -20,19 +20,20 @@ WfSlider* makeSlider(int kind, CrvFieldEditors* owner, QWidget* parent)
 {
     constexpr int row = 0;
     constexpr int column = 1;
+    constexpr int place = WfSlider::InEditor;
     switch (kind) {
-    case 1:
-        return new WfRealSlider(0, owner, parent, true, row, column);
-    case 2:
-        return new WfRealSlider(0, owner, parent, false, row, column);
-    case 3:
-        return new WfIntSlider(1, 0, owner, parent, row, column);
-    case 4:
-        return new WfUIntSlider(2, 0, owner, parent, row, column);
-    case 5:
-        return new WfIntSlider(3, 0, owner, parent, row, column);
-    case 6:
-        return new WfUIntSlider(4, 0, owner, parent, row, column);
+    case WfSFieldWidget::FloatSlider:
+        return new WfRealSlider(place, owner, parent, true, row, column);
+    case WfSFieldWidget::DoubleSlider:
+        return new WfRealSlider(place, owner, parent, false, row, column);
+    case WfSFieldWidget::Int32Slider:
+        return new WfIntSlider(WfIntSlider::Int32, place, owner, parent, row, column);
+    case WfSFieldWidget::UInt32Slider:
+        return new WfUIntSlider(WfUIntSlider::UInt32, place, owner, parent, row, column);
+    case WfSFieldWidget::Int16Slider:
+        return new WfIntSlider(WfIntSlider::Int16, place, owner, parent, row, column);
+    case WfSFieldWidget::UInt16Slider:
+        return new WfUIntSlider(WfUIntSlider::UInt16, place, owner, parent, row, column);
     default:
         return nullptr;
     }

@@ -18,10 +18,20 @@ class QSpacerItem;
 class WfSFieldWidget : public CrvFieldEditors {
     Q_OBJECT
 public:
+    /// The number type of the slider that a numeric editor consists of.
+    enum SliderKind : int {
+        FloatSlider = 1,
+        DoubleSlider = 2,
+        Int32Slider = 3,
+        UInt32Slider = 4,
+        Int16Slider = 5,
+        UInt16Slider = 6,
+    };
+
     /// For editors whose inputs stand in a plain frame.
     explicit WfSFieldWidget(const char* name);
-    /// For the numeric editors, whose edition frame is a slider: 1 float, 2 double, 3 signed 32
-    /// bits, 4 unsigned 32 bits, 5 signed 16 bits, 6 unsigned 16 bits; any other kind makes none.
+    /// For the numeric editors, whose edition frame is the slider of a SliderKind. Any other number
+    /// makes none.
     WfSFieldWidget(int sliderKind, const char* name);
 
     void load() override;

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "SliderMath.h"
 
+#include "NumberLimits.h"
+
 #include <cmath>
 #include <limits>
 
 namespace SliderMath {
 namespace {
 
-constexpr int FloatDecimals = 6;
-constexpr int DoubleDigits = 15;
-constexpr unsigned int UnsignedOffset = 0x80000000U;
+constexpr int doubleDigits = 15;
+constexpr unsigned int unsignedOffset = 0x80000000U;
 
 QLatin1String prefixOf(int base)
 {
@@ -17,12 +18,12 @@ QLatin1String prefixOf(int base)
 }
 
 // A power of two, so that scaling a range by it loses nothing.
-constexpr double HugeRangeScale = 1.0 / 256.0;
+constexpr double hugeRangeScale = 1.0 / 256.0;
 
 // 1 unless a hundred times the range can't be held.
 double scaleFor(double minimum, double maximum)
 {
-    return std::isfinite(RealScaleTop * (maximum - minimum)) ? 1.0 : HugeRangeScale;
+    return std::isfinite(realScaleTop * (maximum - minimum)) ? 1.0 : hugeRangeScale;
 }
 
 } // namespace
@@ -45,11 +46,11 @@ QString withPrefix(const QString& digits, int base)
     return prefix + (typedAlong ? digits.mid(prefix.size()) : digits);
 }
 
-int unsignedPosition(unsigned int value) { return static_cast<int>(value + UnsignedOffset); }
+int unsignedPosition(unsigned int value) { return static_cast<int>(value + unsignedOffset); }
 
 unsigned int unsignedValue(int position)
 {
-    return static_cast<unsigned int>(position) + UnsignedOffset;
+    return static_cast<unsigned int>(position) + unsignedOffset;
 }
 
 int realPosition(double value, double minimum, double maximum)
@@ -60,11 +61,11 @@ int realPosition(double value, double minimum, double maximum)
     if (!(high > low) || !(value > low))
         return 0;
     if (value >= high)
-        return RealScaleTop;
+        return realScaleTop;
     const double scale = scaleFor(low, high);
     const double ratio
-        = RealScaleTop * (value * scale - low * scale) / (high * scale - low * scale);
-    return limited(static_cast<int>(ratio + 0.5), 0, RealScaleTop);
+        = realScaleTop * (value * scale - low * scale) / (high * scale - low * scale);
+    return limited(static_cast<int>(ratio + 0.5), 0, realScaleTop);
 }
 
 double realValue(int position, double minimum, double maximum)
@@ -73,17 +74,14 @@ double realValue(int position, double minimum, double maximum)
     const double high = finite(maximum, false);
     if (!(high > low) || position <= 0)
         return low;
-    if (position >= RealScaleTop)
+    if (position >= realScaleTop)
         return high;
     const double scale = scaleFor(low, high);
-    const double scaled = low * scale + position * (high * scale - low * scale) / RealScaleTop;
+    const double scaled = low * scale + position * (high * scale - low * scale) / realScaleTop;
     return limited(scaled / scale, low, high);
 }
 
-double realLimit(bool isFloat)
-{
-    return isFloat ? std::numeric_limits<float>::max() : std::numeric_limits<double>::max();
-}
+double realLimit(bool isFloat) { return isFloat ? floatLimit : std::numeric_limits<double>::max(); }
 
 double finite(double value, bool isFloat)
 {
@@ -94,13 +92,13 @@ QString realText(double value, bool isFloat)
 {
     QString text;
     if (isFloat)
-        return text.setNum(value, 'f', FloatDecimals);
-    text.setNum(value, 'g', DoubleDigits);
+        return text.setNum(value, 'f', floatDecimals);
+    text.setNum(value, 'g', doubleDigits);
     bool reads = true;
     text.toDouble(&reads);
     // The largest numbers round up, beyond the type: there the last digit is rounded down instead.
     if (!reads && std::isfinite(value))
-        text.setNum(value * (1.0 - 5e-15), 'g', DoubleDigits);
+        text.setNum(value * (1.0 - 5e-15), 'g', doubleDigits);
     return text;
 }
 
@@ -114,8 +112,7 @@ double realFromText(const QString& text, bool isFloat)
 
 float toFloat(double value)
 {
-    return static_cast<float>(
-        std::isinf(value) ? value : limited(value, -realLimit(true), realLimit(true)));
+    return static_cast<float>(std::isinf(value) ? value : limited(value, -floatLimit, floatLimit));
 }
 
 } // namespace SliderMath

@@ -8,7 +8,7 @@
 namespace SliderMath {
 
 /// A real scale always has the positions 0 to 100: percent of the present range.
-inline constexpr int RealScaleTop = 100;
+inline constexpr int realScaleTop = 100;
 
 /// The number base of an integer text: 16 for a text of three or more characters that starts with
 /// "0x", 8 for one of exactly two that starts with "0", otherwise 10.
@@ -24,7 +24,7 @@ QString withPrefix(const QString& digits, int base);
 int unsignedPosition(unsigned int value);
 unsigned int unsignedValue(int position);
 
-/// The position of a value in a range, always from 0 to RealScaleTop: a value outside lies at the
+/// The position of a value in a range, always from 0 to realScaleTop: a value outside lies at the
 /// nearer end, and everything, "nan" too, lies at 0 where the range is empty or upside down.
 int realPosition(double value, double minimum, double maximum);
 /// The value of a position, always inside the range. Infinite limits count as the largest numbers.

@@ -2,6 +2,7 @@
 #include "WfRealSlider.h"
 
 #include "CrvStrings.h"
+#include "NumberLimits.h"
 #include "NumberLocale.h"
 
 #include <QDoubleValidator>
@@ -9,8 +10,7 @@
 
 namespace {
 
-constexpr int FloatDecimals = 6;
-constexpr int DoubleDecimals = 15;
+constexpr int doubleDecimals = 15;
 
 } // namespace
 
@@ -22,7 +22,7 @@ WfRealSlider::WfRealSlider(
 {
     const double limit = SliderMath::realLimit(isFloat);
     m_validator->setLocale(numberLocale());
-    m_validator->setRange(-limit, limit, isFloat ? FloatDecimals : DoubleDecimals);
+    m_validator->setRange(-limit, limit, isFloat ? floatDecimals : doubleDecimals);
     m_lineEdit->setValidator(m_validator);
 }
 
@@ -48,7 +48,7 @@ int WfRealSlider::topPosition() const
 {
     // A free range has its full scale from the start: its maximum is set before its minimum, and
     // the two may be equal in between.
-    return isBounded() && !(m_maximum > m_minimum) ? 0 : SliderMath::RealScaleTop;
+    return isBounded() && !(m_maximum > m_minimum) ? 0 : SliderMath::realScaleTop;
 }
 
 void WfRealSlider::updateEdit() { setText(valueText()); }

@@ -19,8 +19,8 @@ struct LayoutGaps {
     int spacing; // pixels
 };
 
-constexpr LayoutGaps FieldGaps { 2, 4 };
-constexpr LayoutGaps CellGaps { 0, 3 };
+constexpr LayoutGaps fieldGaps { 2, 4 };
+constexpr LayoutGaps cellGaps { 0, 3 };
 
 } // namespace
 
@@ -41,7 +41,7 @@ WfSlider::WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row
 {
     setObjectName(QStringLiteral("WfSliderFrame"));
 
-    const LayoutGaps& gaps = m_inTable != 0 ? CellGaps : FieldGaps;
+    const LayoutGaps& gaps = m_inTable == InEditor ? fieldGaps : cellGaps;
     m_layout = new QHBoxLayout(this);
     m_layout->setContentsMargins(gaps.margin, gaps.margin, gaps.margin, gaps.margin);
     m_layout->setSpacing(gaps.spacing);
@@ -68,7 +68,7 @@ WfSlider::WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row
     connect(m_lineEdit, &QLineEdit::editingFinished, this, &WfSlider::changeValueFromEdit);
     connect(m_notifyCheckBox, &QCheckBox::toggled, this, &WfSlider::eventNotify);
     // A cell has a way of its own to end without a change.
-    if (m_inTable == 0)
+    if (m_inTable == InEditor)
         new UnwrittenText(m_lineEdit, m_owner, [this] { m_owner->updateFromField(); });
 }
 
@@ -144,7 +144,7 @@ void WfSlider::notifyOwner()
 {
     if (m_ownerHeld || !m_hasValue)
         return;
-    if (m_inTable == 0) {
+    if (m_inTable == InEditor) {
         m_owner->applyChanges();
         return;
     }

@@ -19,6 +19,9 @@ class QSlider;
 class WfSlider : public QFrame {
     Q_OBJECT
 public:
+    /// Where a slider stands, the constructors' `inTable`.
+    enum Place : int { InEditor = 0, InTable = 1 };
+
     ~WfSlider() override;
 
     /// Takes a value in the field's text form, without telling the owner.
@@ -55,8 +58,8 @@ protected Q_SLOTS:
     void valueChangeSlot(int newValue);
 
 protected:
-    /// `inTable` is 0 for the input area of an editor: changes reach `owner` by applyChanges().
-    /// Otherwise the slider edits the cell (`row`, `column`), and they reach it by setFieldValue().
+    /// `inTable` is a Place. As the input area of an editor the slider tells `owner` of a change by
+    /// applyChanges(); anywhere else it edits the cell (`row`, `column`), by setFieldValue().
     /// `owner` isn't owned and outlives the slider.
     WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row, int column);
 

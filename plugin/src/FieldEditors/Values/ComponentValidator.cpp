@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ComponentValidator.h"
 
+#include "NumberLimits.h"
 #include "NumberLocale.h"
 
 #include <QDoubleValidator>
@@ -13,16 +14,15 @@ namespace {
 
 QValidator* makeValidator(int kind, QLineEdit* line)
 {
-    using Float = std::numeric_limits<float>;
     using Short = std::numeric_limits<short>;
     switch (kind) {
-    case 1:
+    case Int16Validator:
         return new QIntValidator(Short::min(), Short::max(), line);
-    case 2:
+    case Int32Validator:
         return new QIntValidator(line);
-    case 3:
-        return new QDoubleValidator(Float::lowest(), Float::max(), 6, line);
-    case 4:
+    case FloatValidator:
+        return new QDoubleValidator(-floatLimit, floatLimit, floatDecimals, line);
+    case DoubleValidator:
         return new QDoubleValidator(line);
     default:
         return nullptr;
@@ -36,6 +36,6 @@ void setComponentValidator(int kind, QLineEdit* line)
     QValidator* const validator = makeValidator(kind, line);
     if (validator)
         validator->setLocale(numberLocale());
-    if (validator || kind == 0)
+    if (validator || kind == NoValidator)
         line->setValidator(validator);
 }

@@ -3,7 +3,15 @@
 
 class QLineEdit;
 
-/// Gives a line for one component of a compound value its validator, whose parent is the line:
-/// 0 none, 1 signed 16 bits, 2 signed 32 bits, 3 float with 6 decimals, 4 double. Any other kind
-/// leaves the line as it is.
+/// What may be typed as one component of a compound value.
+enum ValidatorKind : int {
+    NoValidator = 0, ///< any text
+    Int16Validator = 1,
+    Int32Validator = 2,
+    FloatValidator = 3, ///< with 6 decimals
+    DoubleValidator = 4,
+};
+
+/// Gives a line the validator of a ValidatorKind; its parent is the line. Any other number leaves
+/// the line as it is.
 void setComponentValidator(int kind, QLineEdit* line);
