@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: BSD-3-Clause
 """Draws the plug-in's icons: the XPM texts of the field widgets' buttons, the console's PNG files.
 
-Usage: make_icons.py            writes PixmapTexts.inc and Console/Icons/*.png
+Usage: make_icons.py            writes ButtonIcons.inc and Console/Icons/*.png
        make_icons.py SHEET.png  draws all of them on light and dark grounds, to look at
 
 A shape is a function of a point that gives a grey level or None; a pixel's coverage is counted on a
@@ -34,7 +34,7 @@ def box(x, y, left, top, right, bottom, radius=0.0):
 
 
 def polygon(x, y, *points):
-    """Convex, corners in the order of a clock's hand as the screen shows it."""
+    """Convex; the corners run clockwise on the screen."""
     distance = -1e9
     for (x0, y0), (x1, y1) in zip(points, points[1:] + points[:1]):
         distance = max(distance, ((x - x0) * (y1 - y0) - (y - y0) * (x1 - x0))
@@ -253,6 +253,6 @@ if __name__ == "__main__":
     if len(sys.argv) > 1:
         write_sheet(pathlib.Path(sys.argv[1]))
     else:
-        write_xpm(ROOT / "src/FieldEditors/Parts/PixmapTexts.inc")
+        write_xpm(ROOT / "src/FieldEditors/Parts/ButtonIcons.inc")
         for icon, side, drawing in PNG:
             write_png(ROOT / "Console/Icons" / f"{icon}.png", png_pixels(side, drawing))

@@ -10,9 +10,10 @@
 #include "WfMFieldTable.h"
 #include "WfMFieldWidget.h"
 
-/// What all editors of arrays share whose values are a few numbers each: one row a value, one
-/// column a component. It stands between them and WfMFieldWidget. `Self` is the editor's class.
-/// `Traits` has
+/// What all editors share of arrays whose values are a few numbers each: one row a value, one
+/// column a component. `Self` is the editor's own class, since cells are written by its
+/// setCellValue(): that is virtual in the two editors that those of colours build on, and in no
+/// other. `Traits` has
 ///   `Field`: the field class,
 ///   `typeName`, `className`: label and extension name, and the default object name,
 ///   `editorKind`: of the table's cells,

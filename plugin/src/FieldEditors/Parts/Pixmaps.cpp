@@ -3,7 +3,7 @@
 
 namespace {
 // Written by plugin/icons/make_icons.py.
-#include "PixmapTexts.inc"
+#include "ButtonIcons.inc"
 } // namespace
 
 QPixmap defaultPixmap() { return QPixmap(defaultText); }

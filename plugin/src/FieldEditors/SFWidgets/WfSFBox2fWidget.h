@@ -22,5 +22,6 @@ public:
     using WfSFPopupWidget::WfSFPopupWidget;
 
 public Q_SLOTS:
+    // Repeated because a template can't make it a slot.
     void applyChanges() override { WfSFPopupWidget::applyChanges(); }
 };

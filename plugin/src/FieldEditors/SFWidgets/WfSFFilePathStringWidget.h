@@ -20,6 +20,7 @@ public:
 protected Q_SLOTS:
     /// Lets the person choose a file, whose path is applied at once.
     void openFileDialog();
+    // Repeated because a template can't make it a slot.
     bool edited() override { return WfSFTextWidget::edited(); }
 
 private:

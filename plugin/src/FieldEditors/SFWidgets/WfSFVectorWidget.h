@@ -8,14 +8,17 @@
 
 #include <type_traits>
 
-/// What all vector editors share: the inputs of `Box`, a column box, show the components of the
-/// field's value. `Traits` has
+/// What all vector editors share: the inputs of a column box show the components of the field's
+/// value. The box is the base, because a template can't have the meta-object that the box has, and
+/// a parameter, because the inputs are lines for some values and spin boxes for others. `Traits`
+/// has
 ///   `Field`: the field class,
 ///   `typeName`, `className`: extension name and label, and the default object name.
 template <class Traits, class Box>
 class WfSFVectorWidget : public Box {
 public:
-    /// `boxArguments` go to the box, in front of the name.
+    /// `boxArguments` go to the box, in front of the name: WfSFLineBox is told its layout, the
+    /// other boxes have one of their own.
     template <class... BoxArguments>
     explicit WfSFVectorWidget(const char* name = nullptr, const BoxArguments&... boxArguments)
         : Box(boxArguments..., name)
