@@ -7,6 +7,9 @@
 #include "CrvServices.h"
 #include "KnField.h"
 #include "KnFieldContainer.h"
+#include "KnNodePtr.h"
+
+#include <memory>
 
 void setFieldToDefault(const CrvFieldEditors& editor, KnField* field)
 {
@@ -15,29 +18,28 @@ void setFieldToDefault(const CrvFieldEditors& editor, KnField* field)
     KnFieldContainer* const container = field->getContainer();
     if (!container)
         return;
-    auto* const instance
-        = dynamic_cast<KnFieldContainer*>(container->getObjectType().createInstance());
+    const KnNodePtr instance(
+        dynamic_cast<KnFieldContainer*>(container->getObjectType().createInstance()));
     if (!instance)
         return;
-    instance->ref();
 
     const KnFieldData* const data = container->getContainerFieldData();
-    const int index = data->getIndex(container, field);
-    if (KnField* const defaultField = data->getField(instance, index)) {
-        KbString text;
-        defaultField->get(text);
-        auto* const command = new CrvFieldSetDefaultCommand(field, defaultField);
-        field->set(text);
-        CrvServices::getInstance()->executeCommand(command);
-    }
-    // The command has read its texts, so the fresh node has served.
-    instance->unref();
+    KnField* const defaultField = data->getField(instance.get(), data->getIndex(container, field));
+    if (!defaultField)
+        return;
+    KbString text;
+    defaultField->get(text);
+    // It keeps texts, not the fresh node's field.
+    auto command = std::make_unique<CrvFieldSetDefaultCommand>(field, defaultField);
+    field->set(text);
+    CrvServices::getInstance()->executeCommand(command.release());
 }
 
 void setFieldIgnored(const CrvFieldEditors& editor, KnField* field, bool ignored)
 {
     if (!editor.shows(field) || (field->isIgnored() != 0) == ignored)
         return;
+    auto command = std::make_unique<CrvFieldIgnoredCommand>(field, ignored);
     field->setIgnored(ignored ? 1 : 0);
-    CrvServices::getInstance()->executeCommand(new CrvFieldIgnoredCommand(field, ignored));
+    CrvServices::getInstance()->executeCommand(command.release());
 }

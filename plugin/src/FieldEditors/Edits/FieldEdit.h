@@ -5,6 +5,7 @@
 #include "CrvSFSetValueCommand.h"
 #include "CrvServices.h"
 
+#include <memory>
 #include <utility>
 
 /// One undoable edit of a whole field: makes the command while the field still holds the old value,
@@ -17,9 +18,9 @@ void executeFieldEdit(
 {
     if (!editor.shows(field))
         return;
-    auto* const command = new CrvSFSetValueCommand(field, oldValue);
+    auto command = std::make_unique<CrvSFSetValueCommand>(field, oldValue);
     std::forward<Write>(write)();
-    CrvServices::getInstance()->executeCommand(command);
+    CrvServices::getInstance()->executeCommand(command.release());
 }
 
 template <class Write>

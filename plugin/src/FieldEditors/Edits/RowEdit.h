@@ -4,6 +4,7 @@
 #include "CrvMFSetValueCommand.h"
 #include "CrvServices.h"
 
+#include <memory>
 #include <utility>
 
 /// One undoable edit of one row of an array, which exists: makes the command while the row still
@@ -12,7 +13,7 @@ template <class Write>
 void executeRowEdit(KnMField* field, int row, Write&& write)
 {
     KbString noOldValue;
-    auto* const command = new CrvMFSetValueCommand(field, row, noOldValue);
+    auto command = std::make_unique<CrvMFSetValueCommand>(field, row, noOldValue);
     std::forward<Write>(write)();
-    CrvServices::getInstance()->executeCommand(command);
+    CrvServices::getInstance()->executeCommand(command.release());
 }

@@ -4,9 +4,11 @@
 #include "CrvMFSetFieldValueCommand.h"
 #include "WfMFVectorWidget.h"
 
-/// What both editors of arrays of colours share; it stands between them and their vector editors,
-/// so that neither repeats the other. In front of the components, which are those of the vector
-/// editor `Vector`, stands a column that shows each colour. `Traits` has
+#include <memory>
+
+/// What both editors of arrays of colours share: a column that shows each colour, in front of the
+/// columns of its components. `Vector` is the editor of vectors of as many components; a colour
+/// editor is one, and so the base is a parameter. `Traits` has
 ///   `Field`: the field class,
 ///   `typeName`, `className`: label and extension name, and the default object name,
 ///   `channels`: one letter a component.
@@ -36,9 +38,9 @@ public:
         typename Components::Numbers numbers;
         std::copy_n(
             static_cast<const KbVec4f*>(color)->getValue(), numbers.size(), numbers.begin());
-        auto* const command = new CrvMFSetFieldValueCommand(this->m_field, row);
+        auto command = std::make_unique<CrvMFSetFieldValueCommand>(this->m_field, row);
         static_cast<Field*>(this->m_field)->set1Value(row, Components::make(numbers));
-        CrvServices::getInstance()->executeCommand(command);
+        CrvServices::getInstance()->executeCommand(command.release());
     }
 
     QString getCellText(int row, int col) override
