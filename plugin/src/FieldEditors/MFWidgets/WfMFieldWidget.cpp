@@ -4,6 +4,7 @@
 #include "AccessButtonPrivate.h"
 #include "CellEditorKeeper.h"
 #include "FieldActions.h"
+#include "FieldButtons.h"
 #include "KnMField.h"
 #include "LayoutMetrics.h"
 #include "PanelParts.h"
@@ -14,7 +15,6 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 
 WfMFieldWidget::WfMFieldWidget(const char* name)
     : WfMFieldWidget(PlainTable, name)
@@ -96,9 +96,9 @@ void WfMFieldWidget::buildButtonRow()
     m_deleteButton = makeIconButton(frame, "m_deleteButton", m_deletePixmap);
     m_upButton = makeIconButton(frame, "m_upButton", m_upPixmap);
     m_downButton = makeIconButton(frame, "m_downButton", m_downPixmap);
-    m_defaultButton = makeIconButton(frame, "m_defaultButton", m_defaultPixmap);
-    m_ignoreButton = makeIconButton(frame, "m_ignoreButton", m_ignorePixmap);
-    m_ignoreButton->setCheckable(true);
+    const FieldButtons buttons = makeFieldButtons(frame, m_defaultPixmap, m_ignorePixmap);
+    m_defaultButton = buttons.defaultButton;
+    m_ignoreButton = buttons.ignoreButton;
 
     m_buttonsLayout = new QHBoxLayout;
     setMargins(m_buttonsLayout, layoutMetric(QStringLiteral("MFGlobalButtonsLayoutMargin")));
@@ -153,22 +153,19 @@ void WfMFieldWidget::makeConnections()
     connect(m_deleteButton, &QPushButton::clicked, m_table, &WfMFieldTable::deleteRow);
     connect(m_addButton, &QPushButton::clicked, m_table, &WfMFieldTable::addRow);
     connect(m_accessBox, &QSpinBox::valueChanged, m_table, &WfMFieldTable::showTableRow);
-    connect(
-        m_ignoreButton, &QPushButton::released, this, &WfMFieldWidget::ignoreButtonStateChanged);
-    connect(m_defaultButton, &QPushButton::clicked, this, &WfMFieldWidget::setDefaultFieldValue);
+    connectFieldButtons({ m_defaultButton, m_ignoreButton }, this,
+        &WfMFieldWidget::setDefaultFieldValue, &WfMFieldWidget::ignoreButtonStateChanged);
 }
 
 void WfMFieldWidget::languageChange()
 {
-    for (QPushButton* button :
-        { m_addButton, m_deleteButton, m_upButton, m_downButton, m_defaultButton, m_ignoreButton })
+    setFieldButtonTexts({ m_defaultButton, m_ignoreButton });
+    for (QPushButton* button : { m_addButton, m_deleteButton, m_upButton, m_downButton })
         button->setText(QString());
     m_deleteButton->setToolTip(QStringLiteral("Delete current row"));
     m_accessBox->setToolTip(QStringLiteral("Quick access to rows"));
     m_upButton->setToolTip(QStringLiteral("Bring up current row"));
     m_downButton->setToolTip(QStringLiteral("Bring down current row"));
-    m_defaultButton->setToolTip(QStringLiteral("Set to default"));
-    m_ignoreButton->setToolTip(QStringLiteral("Ignore this field"));
     m_addButton->setToolTip(QStringLiteral("Add a row"));
 }
 

@@ -2,6 +2,7 @@
 #include "WfSFieldWidget.h"
 
 #include "FieldActions.h"
+#include "FieldButtons.h"
 #include "KnField.h"
 #include "LayoutMetrics.h"
 #include "PanelParts.h"
@@ -12,7 +13,6 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 
 namespace {
 
@@ -111,10 +111,10 @@ void WfSFieldWidget::load()
     m_buttonLayout->setSpacing(layoutMetric(QStringLiteral("SFButtonLayoutSpacing")));
     m_buttonLayout->setObjectName(QStringLiteral("SFieldLayout"));
 
-    m_defaultButton = makeIconButton(frame, "m_defaultButton", m_defaultPixmap);
+    const FieldButtons buttons = makeFieldButtons(frame, m_defaultPixmap, m_ignorePixmap);
+    m_defaultButton = buttons.defaultButton;
+    m_ignoreButton = buttons.ignoreButton;
     m_buttonLayout->addWidget(m_defaultButton, 0);
-    m_ignoreButton = makeIconButton(frame, "m_ignoreButton", m_ignorePixmap);
-    m_ignoreButton->setCheckable(true);
     m_buttonLayout->addWidget(m_ignoreButton, 0);
 
     m_editionAreaLayout->addLayout(m_buttonLayout, 0);
@@ -123,9 +123,8 @@ void WfSFieldWidget::load()
 
     languageChange();
 
-    connect(m_defaultButton, &QPushButton::clicked, this, &WfSFieldWidget::setDefaultFieldValue);
-    connect(
-        m_ignoreButton, &QPushButton::released, this, &WfSFieldWidget::ignoreButtonStateChanged);
+    connectFieldButtons(buttons, this, &WfSFieldWidget::setDefaultFieldValue,
+        &WfSFieldWidget::ignoreButtonStateChanged);
 }
 
 void WfSFieldWidget::attachField(KnField* field)
@@ -149,13 +148,7 @@ void WfSFieldWidget::setFieldColor(int, const void*) { }
 
 bool WfSFieldWidget::edited() { return false; }
 
-void WfSFieldWidget::languageChange()
-{
-    m_defaultButton->setText(QString());
-    m_ignoreButton->setText(QString());
-    m_defaultButton->setToolTip(QStringLiteral("Set to default"));
-    m_ignoreButton->setToolTip(QStringLiteral("Ignore this field"));
-}
+void WfSFieldWidget::languageChange() { setFieldButtonTexts({ m_defaultButton, m_ignoreButton }); }
 
 void WfSFieldWidget::setCommandValue() { applyChanges(); }
 
