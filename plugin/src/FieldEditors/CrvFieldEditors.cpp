@@ -45,7 +45,7 @@ void CrvFieldEditors::deactivate()
 {
     CrvEditor::deactivate();
     if (m_fieldSensor) {
-        // Hiding ends what is being typed, which is meant for the field that was shown.
+        // Hiding commits what is being typed, which is meant for the field that was shown.
         m_leftField = m_fieldSensor->getAttachedField();
         m_fieldSensor->detach();
     }

@@ -18,11 +18,11 @@ class CrvFieldEditors : public CrvEditor {
     Q_OBJECT
 public:
     CrvFieldEditors();
-    /// Deletes the frame; a dock that shows it gives it back first.
+    /// Deletes the frame. A dock that shows it must give it back first.
     ~CrvFieldEditors() override;
 
-    /// With a field as edited object: attaches, refreshes and shows, in this order. Without one
-    /// it does no more than the base's part.
+    /// With a field as edited object: attaches, refreshes and shows, in this order. Without one it
+    /// only does the base's part.
     void activate() override;
     void deactivate() override;
     void hide() override;
@@ -31,8 +31,8 @@ public:
     void show() override;
     void unload() override;
 
-    /// Attaches the sensor. A subclass stores the field first and then calls this one; what it
-    /// derives from the field (ranges, entries) is made here, before the first refresh.
+    /// Attaches the sensor. A subclass stores the field, then calls this one. Here it also makes
+    /// what it derives from the field (ranges, entries), in time for the first refresh.
     virtual void attachField(KnField* field);
     /// Fills the widgets from the field. It never writes the field.
     virtual void updateFromField() = 0;
@@ -47,12 +47,12 @@ public:
     /// Writes what the widgets show into the field and hands a command to the host.
     virtual void applyChanges() = 0;
 
-    /// Whether the editor shows this field, so that an edit of a person may be written to it: from
-    /// the attachment until the end of the deactivation, unless the field goes away before. What is
-    /// left of a line, a popup or a dialog after that must not reach the field, which may be gone.
+    /// Whether the editor shows this field, so that a person's edit may be written to it: from
+    /// attachment to the end of deactivation, unless the field is destroyed earlier. What a line,
+    /// popup or dialog still reports after that must not reach the field, which may be gone.
     bool shows(const KnField* field) const;
 
-    /// Whether there is a field to read: one is attached and hasn't gone away.
+    /// Whether a field is attached that still exists.
     bool isAttached() const;
 
     /// The parent of all of the editor's widgets.
@@ -70,6 +70,6 @@ private:
     static void fieldChanged(void* data, KnSensor* sensor);
 
     KnFieldSensor* m_fieldSensor = nullptr; // owned, from load to unload
-    const KnField* m_leftField = nullptr; // not owned; set only while a deactivation hides it
+    const KnField* m_leftField = nullptr; // not owned; set only while deactivate() hides the frame
     QFrame* m_frame; // owned; has no parent but the dock that shows it
 };

@@ -8,11 +8,11 @@ class KnField;
 /// A change of a field's ignore flag.
 class CrvFieldIgnoredCommand : public CrvCommand {
 public:
-    /// `ignored` is the state that the edit gives the flag. The field is not owned.
+    /// `ignored` is the flag's state after the edit. The field is not owned.
     CrvFieldIgnoredCommand(KnField* field, bool ignored);
 
     void execute() override;
-    /// Sets the opposite, whatever the flag is by then.
+    /// Sets the opposite of that state, whatever the flag is by then.
     void undo() override;
     void redo() override;
 

@@ -6,7 +6,7 @@
 
 class KnField;
 
-/// A field's return to its default value, held as text.
+/// A reset of a field to its default value, held as text.
 class CrvFieldSetDefaultCommand : public CrvCommand {
 public:
     /// Reads both texts now; `defaultField` isn't needed afterwards. The field is not owned.

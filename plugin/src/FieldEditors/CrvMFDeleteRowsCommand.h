@@ -15,7 +15,7 @@ public:
     CrvMFDeleteRowsCommand(KnMField* field, int firstRow, int rowCount);
 
     void execute() override;
-    /// Brings every row back to its old place.
+    /// Puts every row back in its old place.
     void undo() override;
     void redo() override;
 

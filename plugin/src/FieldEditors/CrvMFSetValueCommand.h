@@ -7,7 +7,7 @@
 /// A new value of one row of an array, of any type, held as text.
 class CrvMFSetValueCommand : public ValueCommand<FieldRow> {
 public:
-    /// `oldValue` is the row's text from before the edit, which is used up: it is made null. A null
-    /// or empty one stands for the row's present text. The field is not owned.
+    /// `oldValue` is the row's text from before the edit; it is made null when it is taken. If it
+    /// is null or empty, the row's current text is read instead. The field is not owned.
     CrvMFSetValueCommand(KnMField* field, int row, KbString& oldValue);
 };

@@ -15,7 +15,7 @@ struct WholeField {
 /// A new value of a field, of any type, held as text.
 class CrvSFSetValueCommand : public ValueCommand<WholeField> {
 public:
-    /// `oldValue` is the text from before the edit, which is used up: it is made null. A null or
-    /// empty one stands for the field's present text. The field is not owned.
+    /// `oldValue` is the text from before the edit; it is made null when it is taken. If it is null
+    /// or empty, the field's current text is read instead. The field is not owned.
     CrvSFSetValueCommand(KnField* field, KbString& oldValue);
 };

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-/// The range of values that a numeric editor starts with, a plain value. Only the pair that fits
-/// the kind of field is meant; the others stay 0.
+/// The range of values that a numeric editor starts with, a plain value. Only the pair for the
+/// field's type is set; the others stay 0.
 class FieldRange {
 public:
     void setFloatRange(float min, float max);

@@ -8,17 +8,17 @@
 
 class KnField;
 
-/// What is known of sensible ranges, by node type and field name. Building one costs next to
-/// nothing: an editor makes it where it needs one.
+/// The sensible ranges that are known, by node type and field name. Building the table is cheap; an
+/// editor makes one where it needs it.
 class FieldRangeTable {
 public:
     FieldRangeTable();
 
     bool exists(const char* nodeType, const char* fieldName) const;
-    /// The default range for a pair that isn't there; no other row stands in for it.
+    /// A default-constructed range for a pair that isn't in the table.
     FieldRange get(const char* nodeType, const char* fieldName) const;
-    /// The range for a field of reals, single or array: all that a ratio node holds runs from 0 to
-    /// 1; every other field takes the row of "DefaultNode" and `defaultField`.
+    /// The range for a field of reals, single or array. In the nodes whose fields are ratios it is
+    /// 0 to 1; any other field takes the row of "DefaultNode" and `defaultField`.
     FieldRange getForRealField(const KnField& field, const char* defaultField) const;
 
     /// The number base of an integer text: 10, 8 or 16.

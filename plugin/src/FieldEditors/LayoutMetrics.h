@@ -14,6 +14,6 @@ struct LayoutMetric {
 /// All sizes, margins and spacings of the field widgets.
 extern const LayoutMetric LayoutMetrics[];
 
-/// The value of that name, which must match in every letter; 0 for a name that isn't there. User
-/// interface thread only.
+/// The value of that name, which is case-sensitive; 0 for a name that isn't there. User interface
+/// thread only.
 int layoutMetric(const QString& name);

@@ -10,7 +10,7 @@
 class QLineEdit;
 
 /// Base of the editors whose value has too many components for one row: the line is a disabled
-/// summary of the value, and a button opens a frame with a grid of lines, one a component.
+/// summary of the value, and a button opens a frame with a grid of lines, one for each component.
 class WfPopupWidget : public WfSFLineWidget {
     Q_OBJECT
 public:

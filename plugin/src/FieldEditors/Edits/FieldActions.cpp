@@ -29,7 +29,7 @@ void setFieldToDefault(const CrvFieldEditors& editor, KnField* field)
         return;
     KbString text;
     defaultField->get(text);
-    // It keeps texts, not the fresh node's field.
+    // The command copies the texts, so it doesn't need the fresh node.
     auto command = std::make_unique<CrvFieldSetDefaultCommand>(field, defaultField);
     field->set(text);
     CrvServices::getInstance()->executeCommand(command.release());

@@ -11,6 +11,7 @@ class KnField;
 /// host. A field without a container has no such default and keeps its value.
 void setFieldToDefault(const CrvFieldEditors& editor, KnField* field);
 
-/// Sets or clears the ignore flag, with a command for the host. A flag that is so already is left
-/// alone: the button was let go beside itself, and undoing that would turn the flag over.
+/// Sets or clears the ignore flag, with a command for the host. If the flag is already in that
+/// state, nothing happens: the mouse was released outside the button, and undoing that would flip
+/// the flag.
 void setFieldIgnored(const CrvFieldEditors& editor, KnField* field, bool ignored);

@@ -10,8 +10,8 @@
 
 /// One undoable edit of a whole field: makes the command while the field still holds the old value,
 /// runs `write`, which writes the field, and hands the command to the host. `oldValue` is the old
-/// text, where the caller saved it before; it is used up. A null one stands for the field's text.
-/// Nothing happens to a field that `editor` doesn't show.
+/// text if the caller has saved it, or null; see CrvSFSetValueCommand. Nothing happens to a field
+/// that `editor` doesn't show.
 template <class Write>
 void executeFieldEdit(
     const CrvFieldEditors& editor, KnField* field, KbString& oldValue, Write&& write)

@@ -7,8 +7,8 @@
 #include <memory>
 #include <utility>
 
-/// One undoable edit of one row of an array, which exists: makes the command while the row still
-/// holds the old value, runs `write`, which writes the row, and hands the command to the host.
+/// One undoable edit of an existing row of an array: makes the command while the row still holds
+/// the old value, runs `write`, which writes the row, and hands the command to the host.
 template <class Write>
 void executeRowEdit(KnMField* field, int row, Write&& write)
 {

@@ -4,10 +4,10 @@
 #include "CrvCommand.h"
 #include "KbString.h"
 
-/// What all commands that give one place a new value share: the place and its two texts. A command
-/// is made before the place is written; the host's call of `execute` then reads what was written,
-/// and the write isn't repeated. `Place` says what is edited: `get(KbString&)` reads its text and
-/// `set(const KbString&)` writes it.
+/// What the commands share that give one place a new value: the place and its two texts. A command
+/// is made before the place is written. `execute`, which the host calls afterwards, reads the new
+/// text and doesn't write it again. `Place` says what is edited: `get(KbString&)` reads its text
+/// and `set(const KbString&)` writes it.
 template <class Place>
 class ValueCommand : public CrvCommand {
 public:
@@ -23,8 +23,8 @@ protected:
         m_place.get(m_oldValue);
     }
 
-    /// `oldValue` is the text from before the edit, which is used up: it is made null. A null or
-    /// empty one stands for the present text.
+    /// `oldValue` is the text from before the edit; it is made null when it is taken. If it is null
+    /// or empty, the place's current text is read instead.
     ValueCommand(const Place& place, KbString& oldValue)
         : m_place(place)
     {

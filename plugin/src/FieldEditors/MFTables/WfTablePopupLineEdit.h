@@ -14,7 +14,7 @@ public:
     WfTablePopupLineEdit(int index, WfTablePopupWidget* popup, QWidget* parent, const char* name);
 
 public Q_SLOTS:
-    /// Has the editor write the current row, with what all of its lines hold.
+    /// Makes the editor write the current row from all of its lines.
     void setCurrentValue(QString text);
 
 private:

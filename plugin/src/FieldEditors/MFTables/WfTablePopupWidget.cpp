@@ -74,21 +74,21 @@ void WfTablePopupWidget::updateFromField()
     WfMFieldWidget::updateFromField();
     if (!m_popupFrame || !m_popupFrame->isVisible())
         return;
-    // An open popup follows the field, or the next key would write stale numbers back. But what is
-    // being typed is meant for the row that the popup was opened for.
+    // An open popup must show what the field holds now, or the next key would write stale numbers
+    // back. But if the current row has changed, what is being typed belongs to the old one.
     if (m_table->currentRow() == row)
         fill(true);
     else
         m_popupFrame->hide();
 }
 
-/// Shows the current row. With `keepTyped` a line whose text stands for what the row holds keeps
-/// it, however it was typed.
+/// Fills the lines from the current row. With `keepTyped` a line keeps its text if that already
+/// means the row's number, such as "1.0" for 1.
 void WfTablePopupWidget::fill(bool keepTyped)
 {
     const int row = m_table->currentRow();
     const bool isRow = hasRow(row);
-    // Without a row there is nothing to edit, and the lines say so.
+    // Without a row there is nothing to edit; disabled lines and a tool tip say so.
     m_popupFrame->setToolTip(
         isRow ? QString() : QStringLiteral("Choose a row with the quick access to edit it"));
     for (std::size_t i = 0; i < m_lineEdits.size(); ++i) {
@@ -99,7 +99,7 @@ void WfTablePopupWidget::fill(bool keepTyped)
         const QString text = getPopupCellText(row, static_cast<int>(i));
         if (keepTyped && componentText(componentNumber<float>(line->text())) == text)
             continue;
-        // A fill is no edit.
+        // Filling a line is not an edit.
         const QSignalBlocker blocker(line);
         line->setText(text);
         line->setCursorPosition(0);
@@ -112,7 +112,7 @@ void WfTablePopupWidget::placePopup()
     const QFrame* const frame = getFrame();
     const QPoint wanted = popupPositionLeftOf(
         frame->mapToGlobal(frame->geometry().topLeft()), m_popupFrame->width());
-    // A panel at the left edge of a screen leaves no room there.
+    // At the left edge of a screen there is no room beside the panel.
     const QScreen* const screen = QGuiApplication::screenAt(wanted);
     m_popupFrame->move(positionInside(
         (screen ? screen : frame->screen())->availableGeometry(), wanted, m_popupFrame->size()));

@@ -9,8 +9,8 @@ class QFrame;
 class WfTablePopupLineEdit;
 
 /// Base of the editors of arrays whose values don't fit on a row of the table. The table is an
-/// overview that can't be edited, and a button opens a popup with a grid of lines, one a component
-/// of the current row. Each change of a line's text is one edit of the row.
+/// overview that can't be edited, and a button opens a popup with a grid of lines, one for each
+/// component of the current row. Each change of a line's text is an edit of its own.
 class WfTablePopupWidget : public WfMFieldWidget {
     Q_OBJECT
 public:

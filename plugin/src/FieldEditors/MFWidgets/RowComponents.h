@@ -3,12 +3,12 @@
 
 #include "KbComponents.h"
 
-/// The columns of a row in the table of an array: the value's components,
+/// What the columns of an array's table show of a value: its components.
 template <class Value>
 struct RowComponents : KbComponents<Value> {
 };
 
-/// except for a rotation, whose columns are its quaternion.
+/// A rotation shows its quaternion instead.
 template <>
 struct RowComponents<KbRotation> : KbComponents<KbRotation> {
     static Numbers read(const KbRotation& rotation) { return rotation.getValue(); }

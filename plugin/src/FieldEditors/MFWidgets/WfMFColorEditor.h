@@ -7,11 +7,11 @@
 #include <memory>
 
 /// What both editors of arrays of colours share: a column that shows each colour, in front of the
-/// columns of its components. `Vector` is the editor of vectors of as many components; a colour
-/// editor is one, and so the base is a parameter. `Traits` has
+/// columns of its components. `Vector`, the base, is the editor of vectors with as many components:
+/// a colour editor is also one of those. `Traits` has
 ///   `Field`: the field class,
 ///   `typeName`, `className`: label and extension name, and the default object name,
-///   `channels`: one letter a component.
+///   `channels`: a letter for each component.
 template <class Traits, class Vector>
 class WfMFColorEditor : public Vector {
 public:
@@ -50,14 +50,13 @@ public:
 
     bool acceptsField(KnField*) override { return true; }
 
-    /// Here `col` is the component, without the column of the colour.
+    /// `col` is the component's number; the column of the colour doesn't count.
     void setCellValue(float value, int row, int col) override
     {
         if (!(double(value) >= 0.0 && double(value) <= 1.0))
             return;
-        // A cell is also written when it is left as it was opened, where it holds six digits of
-        // the component: that must not cost the other ones. So whoever types these six digits
-        // keeps the component as it is.
+        // A cell is also written when it is left unchanged, and it shows only six digits of the
+        // component. So a number that equals what the cell shows leaves the component as it is.
         if (this->hasCell(row, col)
             && componentNumber<float>(Vector::getCellText(row, col)) == value)
             value = this->component(row, col);

@@ -19,7 +19,7 @@ struct MFDefaultFieldTraits {
     static void swap(KnMField& field, int row1, int row2) { swapRowTexts(&field, row1, row2); }
 };
 
-/// Edits any array that no closer editor exists for, each row in the kernel's text form.
+/// Edits any array that has no editor of its own, each row in the kernel's text form.
 class WfMFDefaultFieldWidget : public WfMFTextWidget<MFDefaultFieldTraits> {
 public:
     using WfMFTextWidget::WfMFTextWidget;

@@ -16,9 +16,9 @@ namespace {
 
 using Components = KbComponents<KbMatrix>;
 
-// Of the overview's text so many characters are given in any case.
+// The overview's text is never cut to fewer characters than this.
 constexpr int leastText = 512;
-// The shortest text of a matrix: 16 digits with a blank between two.
+// The shortest text of a matrix: 16 digits and the blanks between them.
 constexpr int shortestMatrix = 31;
 
 KnMFMatrix& matrices(KnMField* field) { return static_cast<KnMFMatrix&>(*field); }
@@ -67,7 +67,7 @@ QString WfMFMatrixWidget::getCellText(int, int)
     if (!shows(m_field))
         return QString();
     // No character is narrower than a pixel, so a text with more characters than the cell has
-    // pixels is cut, and where depends on its beginning alone.
+    // pixels is elided anyway, at a place that depends only on its beginning.
     const int longest = std::max(leastText, m_table->columnWidth(0));
     const int shownRows = longest / shortestMatrix + 1;
     if (m_field->getNum() <= shownRows)

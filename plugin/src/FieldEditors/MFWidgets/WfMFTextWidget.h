@@ -8,8 +8,8 @@
 
 #include <QLatin1String>
 
-/// What the editors of arrays share whose rows are any text, in one column of plain lines. It
-/// stands between them and WfMFieldWidget. `Traits` has
+/// What the editors share whose arrays hold arbitrary texts: one column of plain lines. `Traits`
+/// has
 ///   `fieldType()`: the field type of the class,
 ///   `typeName`, `className`: label and extension name, and the default object name,
 ///   `read(KnMField&, int row)`, `write(KnMField&, int row, const KbString&)`: the text of a row

@@ -10,7 +10,7 @@ struct MFVec2sTraits {
     static constexpr int editorKind = PlainTextKind;
 };
 
-/// Edits a KnMFVec2s. Its cells take any text; one that is no number of 16 bits counts as 0.
+/// Edits a KnMFVec2s. Its cells take any text; one that isn't a 16-bit number counts as 0.
 class WfMFVec2sWidget : public WfMFVectorWidget<WfMFVec2sWidget, MFVec2sTraits> {
 public:
     using WfMFVectorWidget::WfMFVectorWidget;

@@ -10,15 +10,15 @@
 #include "WfMFieldTable.h"
 #include "WfMFieldWidget.h"
 
-/// What all editors share of arrays whose values are a few numbers each: one row a value, one
-/// column a component. `Self` is the editor's own class, since cells are written by its
-/// setCellValue(): that is virtual in the two editors that those of colours build on, and in no
-/// other. `Traits` has
+/// What the editors share whose arrays hold values of a few numbers each: a row for each value, a
+/// column for each component. `Self` is the editor's own class: cells are written through its
+/// setCellValue(), which is virtual in the two editors that the colour editors derive from, and
+/// only there. `Traits` has
 ///   `Field`: the field class,
 ///   `typeName`, `className`: label and extension name, and the default object name,
-///   `editorKind`: of the table's cells,
-///   `ColorField`, where there is one: the field class of the colours that consist of the same
-///   numbers, which an editor that builds on this one attaches.
+///   `editorKind`: the EditorKind of the table's cells,
+///   `ColorField`, optional: the class of the colour field with the same numbers, which a derived
+///   editor attaches.
 template <class Self, class Traits>
 class WfMFVectorWidget : public WfMFieldWidget {
 public:
@@ -66,8 +66,8 @@ public:
         return field && field->isOfType(Traits::Field::getClassTypeId());
     }
 
-    /// Writes one component of a row, undoably. A row that the field has lost is ignored; in a
-    /// column that isn't there nothing changes, and the row is written as it was.
+    /// Writes one component of a row, undoably. Does nothing for a row that the field no longer
+    /// has. For a column that doesn't exist the row is written unchanged.
     void setCellValue(Number value, int row, int col)
     {
         if (!hasRow(row))
@@ -82,7 +82,7 @@ public:
     }
 
 protected:
-    /// For an editor that builds on this one and identifies itself; see WfMFieldWidget.
+    /// For a derived editor, which calls identify() itself. `tableKind` is a TableKind.
     WfMFVectorWidget(int tableKind, const char* name)
         : WfMFieldWidget(tableKind, name)
     {
@@ -91,7 +91,7 @@ protected:
     static bool isComponent(int col) { return col >= 0 && col < Components::count; }
     bool hasCell(int row, int col) const { return isComponent(col) && hasRow(row); }
 
-    /// Of a cell that exists.
+    /// The component that an existing cell shows.
     Number component(int row, int col) const
     {
         Number number {};
@@ -102,7 +102,7 @@ protected:
     }
 
 private:
-    /// Calls `use` with the attached field, as what it is.
+    /// Calls `use` with the attached field, cast to its class.
     template <class Use>
     void withField(const Use& use) const
     {

@@ -36,7 +36,7 @@ WfMFieldWidget::WfMFieldWidget(int tableKind, const char* name)
 
 WfMFieldWidget::~WfMFieldWidget()
 {
-    // The frame goes later, when there is nobody left whom an open cell editor could write to.
+    // The frame is deleted later; by then an open cell editor would have nobody left to write to.
     m_table->editorKeeper().drop();
 }
 
@@ -54,7 +54,7 @@ void WfMFieldWidget::updateElementCount()
         return;
     const QString text
         = centredText(QString::number(m_field->getNum()) + QStringLiteral(" elements"));
-    // A label lays its text out anew even when it is the same.
+    // A label lays out its text again even if it hasn't changed.
     if (m_labelNumElement->text() != text)
         m_labelNumElement->setText(text);
 }
@@ -171,7 +171,7 @@ void WfMFieldWidget::languageChange()
 
 void WfMFieldWidget::attachField(KnField* field)
 {
-    // One that is still open belongs to the field before.
+    // A cell editor that is still open belongs to the previous field.
     m_table->editorKeeper().drop();
     if (acceptsField(field))
         m_field = static_cast<KnMField*>(field);
@@ -183,7 +183,7 @@ void WfMFieldWidget::updateFromField()
     if (!m_table || !m_updateEnabled || !m_field)
         return;
     m_table->setNumRows(m_field->getNum());
-    // The cells are drawn on the viewport, which an update of the table alone leaves as it is.
+    // The cells are drawn on the viewport, which updating the table alone doesn't repaint.
     m_table->update();
     m_table->viewport()->update();
     m_ignoreButton->setChecked(m_field->isIgnored() != 0);
@@ -193,7 +193,7 @@ void WfMFieldWidget::updateFromField()
 void WfMFieldWidget::setFieldUpdateEnabled(bool enabled)
 {
     m_updateEnabled = enabled;
-    // This is how a slider in a cell frames its own write.
+    // A slider in a cell turns updates off before its own write and on again after it.
     if (enabled)
         m_table->editorKeeper().cellWritten();
 }

@@ -15,13 +15,13 @@ class QSpacerItem;
 class WfMFieldTable;
 
 /// Base of all editors of multi-value fields: a panel of title, buttons, quick access to rows,
-/// count of elements and the row table. It holds no copy of the field's values. A subclass says how
-/// many columns the table has, and reads and writes one cell, which the table asks for when the
-/// cell is painted or edited.
+/// count of elements and the row table. It holds no copy of the field's values. A subclass decides
+/// how many columns the table has, and reads and writes single cells, which the table asks for when
+/// it paints or edits them.
 class WfMFieldWidget : public CrvFieldEditors {
     Q_OBJECT
 public:
-    /// The table of an editor.
+    /// Which table an editor has.
     enum TableKind : int { PlainTable = 0, ColorTable = 1 };
 
     explicit WfMFieldWidget(const char* name);
@@ -36,7 +36,7 @@ public:
     void updateFromField() override;
     void setFieldUpdateEnabled(bool enabled) override;
     void swapFieldValues(int row1, int row2) override;
-    /// Called with what a person has committed. A row that the field has lost since is ignored.
+    /// Called with what a person has committed. Ignores a row that the field no longer has.
     void setFieldValue(int row, int col, QString text) override;
     void setFieldColor(int row, const void* color) override;
     void applyChanges() override;
@@ -63,10 +63,9 @@ protected:
     /// Whether a field is attached that has this row now. The table's row count may differ from the
     /// field's until the next refresh.
     bool hasRow(int row) const;
-    /// Gives the table its columns, which a person may size, with the header's own numbers as
-    /// labels, and no rows.
+    /// Gives the table its columns, numbered and resizable, and no rows.
     void shapeColumns(int count);
-    /// The same with one column a header.
+    /// The same with a column for each header.
     void shapeColumns(const QStringList& headers);
 
     AccessButtonPrivate* m_accessBox = nullptr; // quick access to a row, from 1
@@ -85,7 +84,7 @@ protected:
     QHBoxLayout* m_manageButtonsLayout = nullptr; // add and delete
     QHBoxLayout* m_movementButtonLayout = nullptr; // up and down
     QHBoxLayout* m_fieldButtonLayout = nullptr; // default and ignore
-    QSpacerItem* m_manageAccessSpacer = nullptr; // owned by m_buttonsLayout, as the next one
+    QSpacerItem* m_manageAccessSpacer = nullptr; // owned by m_buttonsLayout, like the next one
     QSpacerItem* m_accessMoveSpacer = nullptr;
     QPixmap m_deletePixmap;
     QPixmap m_addPixmap;

@@ -16,8 +16,8 @@
 namespace {
 
 constexpr int anySize = QWIDGETSIZE_MAX;
-constexpr int smallestFont = 7; // pixels; below, nobody reads it anyway
-constexpr int narrowFont = 8; // pixels; that of a line as narrow as it may be
+constexpr int smallestFont = 7; // pixels; nobody can read anything smaller
+constexpr int narrowFont = 8; // pixels; of a line at its minimum width
 
 bool fits(const QFont& font, const QString& sample, const QSize& room)
 {
@@ -31,7 +31,7 @@ QString numberSample() { return QStringLiteral("-0.123457"); }
 
 QString fiveDigits() { return QStringLiteral("00000"); }
 
-/// What frame, margins and cursor of a line take of its width and height.
+/// How much of a line's width and height its frame, margins and cursor take.
 QSize surroundings(const QLineEdit* line)
 {
     const QRect whole(0, 0, 1000, 1000);
@@ -48,7 +48,7 @@ QSize surroundings(const QLineEdit* line)
         + QSize(2 * lineMargin + cursor + margins.left() + margins.right(), 0);
 }
 
-/// Keeps five digits of a line whole while its width changes. The line is the parent.
+/// Keeps five digits of a line visible while its width changes. The line is the parent.
 class NarrowLine : public QObject {
 public:
     explicit NarrowLine(QLineEdit* line)
@@ -76,7 +76,7 @@ public:
 
 private:
     QLineEdit* m_line;
-    QFont m_font; // of a line that has room
+    QFont m_font; // of a line with enough room
 };
 
 } // namespace

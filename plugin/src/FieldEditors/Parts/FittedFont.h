@@ -8,18 +8,17 @@ class QLabel;
 class QLineEdit;
 class QSpinBox;
 
-// The field widgets have fixed sizes in pixels, while the font is the user's. A text that would be
-// clipped gets a smaller font, a text that fits keeps its own.
+// The field widgets have fixed sizes in pixels, but the font is the user's choice. A text that
+// would be clipped gets a smaller font; a text that fits keeps its own.
 
-/// The largest font, not larger than `font`, in which `sample` fits into `room` with a pixel of air
-/// above and below it.
+/// `font`, made smaller if needed, so that `sample` fits into `room` with a free pixel above and
+/// below.
 QFont fittedFont(const QFont& font, const QString& sample, const QSize& room);
 
-/// The line shows a number of six digits whole when it is given that size.
+/// Fits the font so that a line of that size shows a number of six digits in full.
 void fitNumberLine(QLineEdit* line, const QSize& size);
-/// The same, for a line of that height. A line that is given less than it wants still shows five
-/// digits, in a font that becomes smaller with it; so narrow it may become before it forces the
-/// dock to be wider.
+/// The same for a line of that height. When the line gets less width than it wants, its font
+/// shrinks so that five digits still show.
 void fitNumberLine(QLineEdit* line, int height);
 void fitSpinBox(QSpinBox* box, int height);
 void fitLabel(QLabel* label, int height);

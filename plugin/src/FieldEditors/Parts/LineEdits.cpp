@@ -26,7 +26,7 @@ void refreshLine(QLineEdit* line, const QString& text)
 
 void resetCursorPosition(QLineEdit* line)
 {
-    // Moving a cursor that stands there already would only take the selection away.
+    // Moving a cursor that is already there would only clear the selection.
     if (line->cursorPosition() != 0)
         line->setCursorPosition(0);
 }

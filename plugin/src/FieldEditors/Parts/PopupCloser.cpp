@@ -35,8 +35,8 @@ bool PopupCloser::eventFilter(QObject* watched, QEvent* event)
         const auto* const press = static_cast<QMouseEvent*>(event);
         if (m_popup->rect().contains(press->position().toPoint()))
             return false;
-        // Qt gives a press that closes a popup to what lies under it, where the button would take
-        // it for the wish to open.
+        // Qt passes a press that closes a popup on to the widget below. The button would open the
+        // popup again.
         const bool onButton = m_button && m_button->isVisible()
             && m_button->rect().contains(
                 m_button->mapFromGlobal(press->globalPosition().toPoint()));
@@ -48,15 +48,15 @@ bool PopupCloser::eventFilter(QObject* watched, QEvent* event)
         if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
             return false;
         if (QWidget* const line = focusInPopup()) {
-            // It would commit when it is left.
+            // With its signals on, it would commit when it loses the focus.
             const QSignalBlocker unheard(line);
             line->clearFocus();
         }
         m_popup->close();
         return true;
     case QEvent::Hide:
-        // Qt gives the focus back only to a window that has a widget for it. A line that kept it
-        // would commit at some later time, whatever field is shown by then.
+        // Qt returns the focus only to a window that has a widget to take it. A line that kept the
+        // focus would commit later, whatever field is shown by then.
         if (QWidget* const line = focusInPopup())
             line->clearFocus();
         return false;

@@ -6,15 +6,14 @@
 class QAbstractButton;
 class QWidget;
 
-/// Lets a popup of an editor go when a person expects it to: at a mouse press outside it and at the
-/// Esc key, whatever its widget class makes of them; when the button that opened it is pressed,
-/// without opening again; and together with the editor. The focus leaves the popup with it, which
-/// ends what is being typed; Esc ends it unheard.
+/// Closes an editor's popup when a person expects it: at a mouse press outside it and at the Esc
+/// key, whatever its widget class does with them; at a press of the button that opened it, which
+/// then doesn't open it again; and when the editor is hidden. Closing takes the focus out of the
+/// popup, which commits what is being typed; Esc discards that.
 class PopupCloser : public QObject {
     Q_OBJECT
 public:
-    /// The popup is the parent. `owner` is the widget that it must not outlive on the screen;
-    /// `button` may be null.
+    /// The popup is the parent. It closes when `owner` is hidden. `button` may be null.
     PopupCloser(QWidget* popup, QWidget* owner, QAbstractButton* button = nullptr);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

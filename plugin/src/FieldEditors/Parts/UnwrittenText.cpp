@@ -27,9 +27,9 @@ bool UnwrittenText::eventFilter(QObject*, QEvent* event)
         return false;
     event->accept();
     if (!isPress)
-        return true; // no shortcut of the host's takes the key
+        return true; // so that no shortcut of the host takes the key
     m_showField();
-    // In a popup the key goes on, and closes it.
+    // In a popup the key goes on to close it.
     return m_line->window()->windowType() != Qt::Popup;
 }
 

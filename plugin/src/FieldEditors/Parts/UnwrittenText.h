@@ -10,13 +10,13 @@
 class CrvFieldEditors;
 class QLineEdit;
 
-/// Lets the Esc key drop what a person has typed into a line and what isn't written yet. On a line
-/// that nobody has typed into the key goes where it would have gone.
+/// Makes the Esc key discard what a person has typed into a line and not applied yet. If nothing
+/// was typed, the key is handled as usual.
 class UnwrittenText : public QObject {
     Q_OBJECT
 public:
-    /// The line is the parent. `showField` makes the line show the value again of the field that
-    /// `editor` shows, which outlives the line.
+    /// The line is the parent. `showField` makes the line show the field's value again. `editor`,
+    /// which shows the field, outlives the line.
     UnwrittenText(QLineEdit* line, const CrvFieldEditors* editor, std::function<void()> showField);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -27,7 +27,7 @@ private:
     std::function<void()> m_showField;
 };
 
-/// The same for lines of which each shows one component of a value; `fieldText` gives what the line
-/// of that number shows of the field.
+/// The same for lines that each show one component of a value; `fieldText` gives the field's text
+/// for the line with that index.
 void dropUnwrittenTexts(const std::vector<QLineEdit*>& lines, const CrvFieldEditors* editor,
     const std::function<QString(std::size_t)>& fieldText);

@@ -52,7 +52,7 @@ void WfSF2iSpinBox::setSpinRange(int kind)
 
 void WfSF2iSpinBox::showNumber(std::size_t column, int number)
 {
-    // A spin box tells of every change of its value; a refresh is not a person's edit.
+    // A spin box reports every change of its value, but a refresh is not a person's edit.
     const QSignalBlocker blocker(m_boxes[column]);
     m_boxes[column]->setValue(number);
 }

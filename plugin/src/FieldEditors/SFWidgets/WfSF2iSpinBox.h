@@ -5,15 +5,15 @@
 
 class QSpinBox;
 
-/// Base of the editors of two integers: two spin boxes, which apply at every change of value, also
-/// while a person types.
+/// Base of the editors of two integers: two spin boxes, which apply every change of value, even
+/// while a person is typing.
 class WfSF2iSpinBox : public WfSFColumnBox {
     Q_OBJECT
 public:
     /// The numbers that the boxes take, all of them signed.
     enum RangeKind : int {
         Int16Range = 0,
-        IntRange = 1, ///< of an `int`, which has 32 bits, too
+        IntRange = 1, ///< the same as Int32Range
         Int32Range = 2,
     };
 

@@ -66,7 +66,7 @@ void WfSFBitMaskWidget::clearCheckBoxes()
 {
     if (m_checkBoxes.isEmpty())
         return;
-    // Not by deleteLater: no box of the former field may be there when the next one is shown.
+    // Not by deleteLater(): no box of the previous field may be left when the next one is shown.
     for (QCheckBox* box : m_checkBoxes) {
         m_checkBoxLayout->removeWidget(box);
         delete box;

@@ -10,8 +10,8 @@
 class QCheckBox;
 class QVBoxLayout;
 
-/// Edits a KnSFBitMask with one check box a name that the field has; a click writes the field at
-/// once, with no command for the host.
+/// Edits a KnSFBitMask with a check box for each of the field's names; a click writes the field at
+/// once, without a command.
 class WfSFBitMaskWidget : public WfSFieldWidget {
     Q_OBJECT
 public:
@@ -20,7 +20,7 @@ public:
 
     void load() override;
     void unload() override;
-    /// Replaces the check boxes by those of the field, set as its mask is now.
+    /// Replaces the check boxes by those of the field, checked as its mask is now.
     void attachField(KnField* field) override;
     /// Leaves the check boxes as they are.
     void updateFromField() override;
@@ -35,6 +35,7 @@ private:
     void clearCheckBoxes();
 
     QList<QCheckBox*> m_checkBoxes; // owned, from attachment to attachment
-    // In the edition frame's layout only while there are boxes, and taken out before it goes.
+    // Part of the edition frame's layout only while there are boxes; taken out before that is
+    // deleted.
     std::unique_ptr<QVBoxLayout> m_checkBoxLayout;
 };

@@ -88,7 +88,7 @@ void WfSFColorBox::changeChannel(std::size_t channel, const QString& text)
 
 void WfSFColorBox::fillLines()
 {
-    // A line whose text changes brings its channel back as the number that the text stands for.
+    // A line whose text changes sets its channel to the number that the text stands for.
     for (std::size_t i = 0; i < m_lines.size(); ++i)
         refreshLine(m_lines[i], componentText(m_channels[i]));
 }
@@ -120,8 +120,8 @@ void WfSFColorBox::chooseColor()
     const KnField* const field = m_field;
     const QColor chosen
         = QColorDialog::getColor(color(), getFrame(), QString(), m_style.dialogOption);
-    // The program runs on behind the dialog. A colour that was chosen for one field must not reach
-    // another one.
+    // The program keeps running behind the dialog. A colour chosen for one field must not reach
+    // another.
     if (!chosen.isValid() || !shows(field))
         return;
     colorChannels(chosen, m_channels.data(), static_cast<int>(m_channels.size()));

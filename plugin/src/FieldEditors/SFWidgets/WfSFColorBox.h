@@ -9,9 +9,9 @@
 
 class QLineEdit;
 
-/// What one kind of colour box is made with.
+/// What distinguishes the kinds of colour box.
 struct ColorBoxStyle {
-    const char* channels; ///< one letter a channel, in order
+    const char* channels; ///< a letter for each channel, in order
     const char* interSpacingMetric; ///< between a channel's label and its line
     const char* layoutName;
     const char* labelName;
@@ -19,9 +19,9 @@ struct ColorBoxStyle {
     QColorDialog::ColorDialogOption dialogOption; ///< 0 for none
 };
 
-/// Base of the colour editors: a button that displays the colour and opens the colour dialog, and
-/// one labelled line a channel. Typing changes the channels that the widget keeps and the display;
-/// the field gets them when a line is finished or the dialog accepted.
+/// Base of the colour editors: a button that displays the colour and opens the colour dialog, and a
+/// labelled line for each channel. Typing changes only the channels that the widget keeps and the
+/// display; the field is written when a line is finished or the dialog accepted.
 class WfSFColorBox : public WfSFieldWidget {
     Q_OBJECT
 public:
@@ -35,7 +35,7 @@ protected:
 
     /// Takes the text of a line as the channel and displays the colour.
     void changeChannel(std::size_t channel, const QString& text);
-    /// Shows what m_channels holds, in lines and display.
+    /// Shows m_channels in the lines and the display.
     void showChannels();
     /// Lets the person choose a colour in the dialog and applies it.
     void chooseColor();

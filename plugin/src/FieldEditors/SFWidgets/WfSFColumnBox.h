@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// What one kind of column box is made with: names of metrics, object names of its parts.
+/// What distinguishes the kinds of column box: names of metrics, object names of the parts.
 struct ColumnBoxStyle {
     const char* spacingMetric; ///< between columns
     const char* marginMetric; ///< around them
@@ -15,14 +15,14 @@ struct ColumnBoxStyle {
     const char* inputName;
 };
 
-/// Base of the editors that show one labelled input a component, side by side: columns of a label
-/// above an input.
+/// Base of the editors that show a labelled input for each component: columns side by side, each a
+/// label above an input.
 class WfSFColumnBox : public WfSFieldWidget {
     Q_OBJECT
 public:
     void load() override;
 
-    /// Sets the texts of the labels; `nameArray` has one name a column.
+    /// Sets the texts of the labels; `nameArray` has a name for each column.
     void setLabels(const QString* nameArray);
 
 protected:

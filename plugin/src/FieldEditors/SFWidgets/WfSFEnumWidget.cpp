@@ -23,7 +23,7 @@ void WfSFEnumWidget::load()
     WfSFieldWidget::load();
     m_comboBox = new QComboBox(m_editionFrame);
     m_comboBox->setObjectName(QStringLiteral("comboBox"));
-    // The names change with the field, so their room must, too.
+    // Each field has names of its own, and the box must be wide enough for them.
     m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_editLayout->addWidget(m_comboBox, 1);
     connect(m_comboBox, &QComboBox::activated, this, &WfSFEnumWidget::setCommandValue);

@@ -5,7 +5,7 @@
 
 class QComboBox;
 
-/// Edits a KnSFEnum: one of the names that the field itself has.
+/// Edits a KnSFEnum with a list of the field's own names.
 class WfSFEnumWidget : public WfSFieldWidget {
     Q_OBJECT
 public:

@@ -23,8 +23,8 @@ void WfSFFilePathStringWidget::openFileDialog()
 {
     const KnField* const field = m_field;
     const QString path = QFileDialog::getOpenFileName(getWidget(), tr("Open File"));
-    // The program runs on behind the dialog. A path that was chosen for one field must not reach
-    // another one.
+    // The program keeps running behind the dialog. A path chosen for one field must not reach
+    // another.
     if (path.isEmpty() || !shows(field))
         return;
     m_lineEdit->setText(path);

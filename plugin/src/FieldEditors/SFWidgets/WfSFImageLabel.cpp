@@ -38,7 +38,7 @@ void WfSFImageLabel::setImage(const QPixmap& pixmap)
 
 void WfSFImageLabel::mouseMoveEvent(QMouseEvent*)
 {
-    // Without a picture the popup would be a window that nobody sees and that holds the mouse.
+    // Without a picture the popup would be an invisible window that grabs the mouse.
     if (m_pixmapLabel->isVisible() || m_pixmapLabel->size().isEmpty())
         return;
     m_pixmapLabel->move(popupPosition(mapToGlobal(geometry().topLeft()),

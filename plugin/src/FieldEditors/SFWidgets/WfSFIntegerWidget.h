@@ -5,9 +5,9 @@
 #include "FieldRangeTable.h"
 #include "WfSFNumericWidget.h"
 
-/// The editors of single whole numbers. Value and field meet as text, so that the slider shows the
-/// base of the field's own text form. The range is given once: what one field has grown stays for
-/// the next.
+/// The editors of single whole numbers. Values pass between slider and field as text, so that the
+/// slider shows the base of the field's text form. The range is set only once: when it has grown
+/// for one field, it stays so for the next.
 template <class Traits>
 class WfSFIntegerWidget : public WfSFNumericWidget<Traits> {
 public:

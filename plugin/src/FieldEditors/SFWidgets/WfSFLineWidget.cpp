@@ -32,7 +32,7 @@ void WfSFLineWidget::load()
 
 void WfSFLineWidget::updateFromField()
 {
-    // The line listens to every change of its text; a refresh is not a person's edit.
+    // Every change of the line's text is applied, but a refresh is not a person's edit.
     m_lineEdit->blockSignals(true);
     KbString text;
     m_field->get(text);

@@ -6,15 +6,15 @@
 class QLineEdit;
 
 /// Edits a single value of any type in its text form, in one line; every keystroke writes the text.
-/// It serves the field types that no other editor is made for. The base of the editors that show
-/// such a line as a summary.
+/// It serves the field types that have no editor of their own, and is the base of the editors that
+/// show such a line as a summary.
 class WfSFLineWidget : public WfSFieldWidget {
     Q_OBJECT
 public:
     explicit WfSFLineWidget(const char* name = nullptr);
 
     void load() override;
-    /// The cursor stays where the person left it, also when the kernel has rewritten the text.
+    /// The cursor stays where the person left it, even when the kernel has rewritten the text.
     void updateFromField() override;
     bool edited() override;
 

@@ -14,7 +14,7 @@ struct SFMatrixTraits {
     static constexpr int validatorKind = FloatValidator;
 };
 
-/// Edits a KnSFMatrix, one element a cell.
+/// Edits a KnSFMatrix, one element in each cell of the grid.
 class WfSFMatrixWidget : public WfSFPopupWidget<SFMatrixTraits> {
 public:
     using WfSFPopupWidget::WfSFPopupWidget;

@@ -31,7 +31,7 @@ public:
 
     void attachField(KnField* field) override
     {
-        // A drag that the change of field cut short has saved a text of the field before.
+        // A drag that was cut short by the change of field has left a text of the previous one.
         static_cast<Slider*>(m_editionFrame)->m_oldValue.makeNull();
         WfSFieldWidget::attachField(field);
     }
@@ -42,11 +42,11 @@ protected:
     using Field = typename Traits::Field;
     using Slider = typename Traits::Slider;
 
-    /// Called before anything else uses the slider.
+    /// Sets m_slider; called before anything uses it.
     void takeSlider() { m_slider = static_cast<Slider*>(m_editionFrame); }
 
-    /// One edit of the attached field, of which there must be one, undone by the text that the
-    /// slider saved when it was pressed.
+    /// One edit of the attached field. Undo brings back the text that the slider saved when it was
+    /// pressed.
     template <class Write>
     void executeEdit(Write&& write)
     {

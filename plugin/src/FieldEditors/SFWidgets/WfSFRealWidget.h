@@ -5,11 +5,11 @@
 #include "WfRealSlider.h"
 #include "WfSFNumericWidget.h"
 
-/// The editors of single reals. The range is chosen for each field: 0 to 1, bounded, for those of
-/// the nodes that hold ratios, a free one for all others. Beyond WfSFNumericWidget, `Traits` has
+/// The editors of single reals. The range depends on the field: bounded, 0 to 1, in the nodes whose
+/// fields are ratios, free in all others. Beyond WfSFNumericWidget, `Traits` has
 ///   `Slider`: always WfRealSlider,
 ///   `defaultField`: the row for a field of any node,
-///   `rangeMin(range)`, `rangeMax(range)`: the limits of a range that are meant for the type,
+///   `rangeMin(range)`, `rangeMax(range)`: the limits that a range has for the type,
 ///   `toValue(double)`: the slider's value as the field's.
 template <class Traits>
 class WfSFRealWidget : public WfSFNumericWidget<Traits> {
@@ -20,8 +20,8 @@ public:
     {
         this->takeSlider();
         this->m_fieldRange = FieldRangeTable().getForRealField(*field, Traits::defaultField);
-        // The scale still stands where the field before left it; what the new range does to it
-        // is no edit of either.
+        // The scale still stands where the previous field left it. If the new range moves it, that
+        // is not a person's edit of either field.
         const WfSlider::OwnerHold hold(*this->m_slider);
         this->m_slider->setRange(Traits::rangeMin(this->m_fieldRange),
             Traits::rangeMax(this->m_fieldRange), this->m_fieldRange.isBounded());
@@ -33,7 +33,8 @@ public:
         if (this->m_field) {
             const double value = this->field()->getValue();
             WfRealSlider& slider = *this->m_slider;
-            // Even a bounded range opens for what the field holds already. Opening pushes no scale.
+            // Even a bounded range widens to what the field already holds. That never moves the
+            // scale.
             if (value > slider.getMaximum())
                 slider.setRange(slider.getMinimum(), value, slider.isBounded());
             if (slider.getMinimum() > value)

@@ -12,7 +12,7 @@ struct SFRotationTraits {
 };
 
 /// Edits a KnSFRotation with four lines: the axis, and the angle in radians. Only Return applies,
-/// since an axis that is typed halfway makes no sense.
+/// since a half-typed axis makes no sense.
 class WfSFRotationWidget : public WfSFVectorWidget<SFRotationTraits, WfSF4fBox> {
     Q_OBJECT
 public:

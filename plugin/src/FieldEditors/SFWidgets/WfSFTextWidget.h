@@ -12,7 +12,7 @@
 #include <QLineEdit>
 
 /// The editors whose line holds the value itself, character for character, not a text form that the
-/// kernel parses. They write whenever the editing of the line finishes. `Traits` has
+/// kernel parses. They write whenever a person has finished editing the line. `Traits` has
 ///   `typeName`, `className`: extension name and label, and the default object name,
 ///   `fieldType()`: the field type of the class,
 ///   `read(const KnField&)`, `write(KnField&, const KbString&)`: the value of such a field.

@@ -9,16 +9,15 @@
 #include <type_traits>
 
 /// What all vector editors share: the inputs of a column box show the components of the field's
-/// value. The box is the base, because a template can't have the meta-object that the box has, and
-/// a parameter, because the inputs are lines for some values and spin boxes for others. `Traits`
-/// has
+/// value. `Box` is the base because it has a meta-object, which a template can't have, and a
+/// parameter because some values have lines as inputs and others spin boxes. `Traits` has
 ///   `Field`: the field class,
 ///   `typeName`, `className`: extension name and label, and the default object name.
 template <class Traits, class Box>
 class WfSFVectorWidget : public Box {
 public:
-    /// `boxArguments` go to the box, in front of the name: WfSFLineBox is told its layout, the
-    /// other boxes have one of their own.
+    /// `boxArguments` go to the box, before the name: WfSFLineBox takes its layout from them, the
+    /// other boxes have their own.
     template <class... BoxArguments>
     explicit WfSFVectorWidget(const char* name = nullptr, const BoxArguments&... boxArguments)
         : Box(boxArguments..., name)
@@ -34,7 +33,7 @@ public:
         for (std::size_t i = 0; i < Components::count; ++i)
             nameArray[i] = QLatin1String(componentNames<typename Field::Value>[i]);
         this->setLabels(nameArray);
-        // A spin box writes while a person types.
+        // Spin boxes write while a person types, so they have nothing to discard.
         if constexpr (std::is_base_of_v<WfSFLineBox, Box>) {
             dropUnwrittenTexts(this->m_lines, this, [this](std::size_t i) {
                 return componentText(Components::read(field()->getValue())[i]);

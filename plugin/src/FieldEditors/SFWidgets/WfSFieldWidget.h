@@ -43,7 +43,7 @@ public:
     void setFieldValue(int row, int column, QString text) override;
     void setFieldColor(int row, const void* color) override;
 
-    /// Whether a line edit holds a text that wasn't applied yet.
+    /// Whether a line edit holds text that hasn't been applied yet.
     virtual bool edited();
 
     /// Sets the title, once: a label that has text keeps it. A subclass calls it before `load` of

@@ -20,7 +20,7 @@ QLatin1String prefixOf(int base)
 // A power of two, so that scaling a range by it loses nothing.
 constexpr double hugeRangeScale = 1.0 / 256.0;
 
-// 1 unless a hundred times the range can't be held.
+// 1, unless a hundred times the range would overflow.
 double scaleFor(double minimum, double maximum)
 {
     return std::isfinite(realScaleTop * (maximum - minimum)) ? 1.0 : hugeRangeScale;
@@ -57,7 +57,7 @@ int realPosition(double value, double minimum, double maximum)
 {
     const double low = finite(minimum, false);
     const double high = finite(maximum, false);
-    // Written so that "nan" in any of the three ends here.
+    // Written so that "nan" in any of the three returns here.
     if (!(high > low) || !(value > low))
         return 0;
     if (value >= high)
@@ -96,7 +96,7 @@ QString realText(double value, bool isFloat)
     text.setNum(value, 'g', doubleDigits);
     bool reads = true;
     text.toDouble(&reads);
-    // The largest numbers round up, beyond the type: there the last digit is rounded down instead.
+    // The largest numbers would round up to beyond the type: their last digit is rounded down.
     if (!reads && std::isfinite(value))
         text.setNum(value * (1.0 - 5e-15), 'g', doubleDigits);
     return text;
@@ -106,7 +106,7 @@ double realFromText(const QString& text, bool isFloat)
 {
     bool reads = false;
     const double value = text.toDouble(&reads);
-    // A number too large for the type isn't infinite: "inf" is, and reads well.
+    // A number that is too large becomes the largest one; only the text "inf" is infinite.
     return reads ? value : finite(value, isFloat);
 }
 

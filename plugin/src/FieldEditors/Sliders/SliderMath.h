@@ -3,20 +3,20 @@
 
 #include <QString>
 
-/// The arithmetic of the sliders, free of widgets: number bases, text, and the way between values
-/// and the positions of a QSlider.
+/// The arithmetic of the sliders, without widgets: number bases, texts, and the conversion between
+/// values and positions of a QSlider.
 namespace SliderMath {
 
-/// A real scale always has the positions 0 to 100: percent of the present range.
+/// The scale of a real always has the positions 0 to 100, percent of the current range.
 inline constexpr int realScaleTop = 100;
 
 /// The number base of an integer text: 16 for a text of three or more characters that starts with
 /// "0x", 8 for one of exactly two that starts with "0", otherwise 10.
 int detectBase(const QString& text);
-/// `text` without as many leading characters as a prefix of the base has, whatever they are.
+/// `text` without its first characters, as many as the prefix of the base has, whatever they are.
 QString withoutPrefix(const QString& text, int base);
-/// `digits` with the prefix of the base in front. A hexadecimal prefix that was typed along isn't
-/// doubled.
+/// `digits` with the prefix of the base in front. A hexadecimal prefix that a person has typed
+/// isn't doubled.
 QString withPrefix(const QString& digits, int base);
 
 /// Unsigned values keep their order on the signed scale: 0 lies at the lowest `int`, 4294967295 at
@@ -24,25 +24,26 @@ QString withPrefix(const QString& digits, int base);
 int unsignedPosition(unsigned int value);
 unsigned int unsignedValue(int position);
 
-/// The position of a value in a range, always from 0 to realScaleTop: a value outside lies at the
-/// nearer end, and everything, "nan" too, lies at 0 where the range is empty or upside down.
+/// The position of a value in a range, from 0 to realScaleTop. A value outside the range gets the
+/// nearer end. In a range that is empty or upside down everything is at 0, and "nan" is at 0
+/// anywhere.
 int realPosition(double value, double minimum, double maximum);
 /// The value of a position, always inside the range. Infinite limits count as the largest numbers.
 double realValue(int position, double minimum, double maximum);
 
 /// The largest finite number of the type.
 double realLimit(bool isFloat);
-/// An infinite number as the largest of its sign; every other number unchanged.
+/// Infinity as the largest finite number of its sign; any other number unchanged.
 double finite(double value, bool isFloat);
 /// A float is shown with 6 decimals, a double with 15 significant digits. A finite number never
 /// gets a text that reads back as infinite.
 QString realText(double value, bool isFloat);
-/// The number that a text says; 0.0 for one that says none.
+/// The number that a text stands for; 0.0 if it isn't one.
 double realFromText(const QString& text, bool isFloat);
-/// Narrows without leaving the finite numbers, except for what is infinite already.
+/// Narrows to a float. A finite number stays finite.
 float toFloat(double value);
 
-/// `value` cut at the ends of a range, the maximum first. "nan" stays.
+/// `value` clamped to a range, to the maximum first. "nan" stays.
 template <class Value>
 Value limited(Value value, Value minimum, Value maximum)
 {

@@ -38,7 +38,7 @@ void WfIntSlider::updateValueFromEdit()
 {
     bool reads = false;
     const int value = m_lineEdit->text().toInt(&reads, m_base);
-    // Without a validator on the line, the limits of the type are kept here.
+    // Only decimal texts have a validator; the others are limited here.
     const bool limit = reads && m_base != 10;
     takeValue(limit ? SliderMath::limited(value, typeBottom(), typeTop()) : value);
 }

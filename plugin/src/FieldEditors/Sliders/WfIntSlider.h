@@ -10,7 +10,7 @@ class WfIntSlider : public WfIntegerSliderOf<WfIntSlider, int> {
 public:
     enum Kind { Int32 = 1, Int16 = 3 };
 
-    /// `kind` fixes the limits of the type; any other number than the two leaves those of `int`.
+    /// `kind` fixes the limits of the type; any other number leaves those of `int`.
     WfIntSlider(
         int kind, int inTable, CrvFieldEditors* owner, QWidget* parent, int row, int column);
 

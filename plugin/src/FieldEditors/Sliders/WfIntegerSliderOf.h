@@ -3,9 +3,9 @@
 
 #include "WfSliderOf.h"
 
-/// What the two integer sliders share: the base of their text, decided once by the first text, and
-/// limits of the type that a bounded range narrows for good. Beyond WfSliderOf the concrete slider
-/// supplies
+/// What the two integer sliders share: the base of their text, which the first text decides for
+/// good, and the limits of the type, which a bounded range narrows for good. Beyond WfSliderOf the
+/// concrete slider supplies
 ///   `Value typeBottom() const`, `Value typeTop() const`: the present limits of the type,
 ///   `void baseDetected()`: m_base has been decided,
 ///   `static int positionOf(Value)`, `static Value valueOf(int position)`.

@@ -29,7 +29,7 @@ WfRealSlider::WfRealSlider(
 void WfRealSlider::setRange(double min, double max, bool bounded)
 {
     if (!bounded) {
-        // The limits of a bounded range before this one don't outlive it.
+        // The limits of an earlier bounded range no longer apply.
         const double limit = SliderMath::realLimit(m_isFloat);
         limitType(-limit, limit);
     }
@@ -46,8 +46,8 @@ void WfRealSlider::limitType(double min, double max)
 
 int WfRealSlider::topPosition() const
 {
-    // A free range has its full scale from the start: its maximum is set before its minimum, and
-    // the two may be equal in between.
+    // A free range always has the full scale, since its maximum is set before its minimum and the
+    // two may be equal in between.
     return isBounded() && !(m_maximum > m_minimum) ? 0 : SliderMath::realScaleTop;
 }
 

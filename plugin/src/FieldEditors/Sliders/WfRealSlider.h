@@ -5,22 +5,22 @@
 
 class QDoubleValidator;
 
-/// The slider of reals. Its scale is a percentage of the present range, so that a change of the
-/// range moves the meaning of every position.
+/// The slider of reals. Its scale is a percentage of the current range, so changing the range
+/// changes what every position means.
 class WfRealSlider : public WfSliderOf<WfRealSlider, double> {
 public:
     /// `isFloat` fixes the limits of the type and how a value is shown.
     WfRealSlider(
         int inTable, CrvFieldEditors* owner, QWidget* parent, bool isFloat, int row, int column);
 
-    /// A bounded range limits what may be typed; a free one gives back all numbers of the type.
+    /// A bounded range limits what may be typed; a free one allows all numbers of the type again.
     void setRange(double min, double max, bool bounded);
     using WfSlider::setValue;
-    /// Shows the value and takes what the text says of it; the owner isn't told.
+    /// Shows the value and takes it as its text rounds it; the owner isn't told.
     void setValue(double value);
 
     void limitType(double min, double max);
-    /// An empty bounded range has an empty scale: nothing can be moved, and nothing is written.
+    /// With an empty bounded range the scale is empty: it can't be moved, so nothing is written.
     int bottomPosition() const { return 0; }
     int topPosition() const;
 

@@ -67,14 +67,14 @@ WfSlider::WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row
     connect(m_lineEdit, &QLineEdit::returnPressed, this, &WfSlider::changeValueFromEdit);
     connect(m_lineEdit, &QLineEdit::editingFinished, this, &WfSlider::changeValueFromEdit);
     connect(m_notifyCheckBox, &QCheckBox::toggled, this, &WfSlider::eventNotify);
-    // A cell has a way of its own to end without a change.
+    // A cell has its own way to cancel an edit.
     if (m_inTable == InEditor)
         new UnwrittenText(m_lineEdit, m_owner, [this] { m_owner->updateFromField(); });
 }
 
 WfSlider::~WfSlider()
 {
-    // A line that goes after this object, as a child does, would tell it of its last text.
+    // Children are deleted after this class is gone, and the line would still report its last text.
     delete m_lineEdit;
     delete m_notifyCheckBox;
     delete m_slider;
@@ -148,7 +148,7 @@ void WfSlider::notifyOwner()
         m_owner->applyChanges();
         return;
     }
-    // The table keeps still while its own cell writes.
+    // The table must not refresh while one of its own cells writes.
     m_owner->setFieldUpdateEnabled(false);
     m_owner->setFieldValue(m_row, m_column, getText());
     m_owner->setFieldUpdateEnabled(true);

@@ -13,9 +13,10 @@ class QLineEdit;
 class QSlider;
 
 /// Edits one number by a check box, a scale and a line, side by side. It serves as the whole input
-/// area of a numeric editor and as the editor of one cell of a table. It knows no field: it holds
-/// value and range itself and tells its owner of a change, which writes the field. The subclasses
-/// bring the arithmetic of their type. The value is the truth; position and text follow it.
+/// area of a numeric editor and as the editor of one cell of a table. It doesn't know the field: it
+/// holds value and range itself and tells its owner of a change, and the owner writes the field.
+/// The subclasses add the arithmetic of their number type. The value is what counts; position and
+/// text follow from it.
 class WfSlider : public QFrame {
     Q_OBJECT
 public:
@@ -30,8 +31,8 @@ public:
     /// Whether the line holds text that a person typed and no refresh has replaced.
     bool isModified() const;
 
-    /// Holds the owner's calls back while it lives: an owner that attaches a field or refreshes
-    /// moves the range, and the scale that this may push is nobody's edit.
+    /// While it lives, the slider doesn't call its owner. An owner that attaches a field sets a new
+    /// range, and if that moves the scale, it is not a person's edit.
     class OwnerHold {
     public:
         explicit OwnerHold(WfSlider& slider);
@@ -44,8 +45,8 @@ public:
     };
 
     QLineEdit* m_lineEdit; // child
-    /// Text of the value when the scale was pressed, null when there is none. A command that
-    /// takes it makes it null.
+    /// The value's text from when the scale was pressed, or null. The command that takes it makes
+    /// it null.
     KbString m_oldValue;
 
 public Q_SLOTS:
@@ -58,9 +59,9 @@ protected Q_SLOTS:
     void valueChangeSlot(int newValue);
 
 protected:
-    /// `inTable` is a Place. As the input area of an editor the slider tells `owner` of a change by
-    /// applyChanges(); anywhere else it edits the cell (`row`, `column`), by setFieldValue().
-    /// `owner` isn't owned and outlives the slider.
+    /// `inTable` is a Place. In an editor the slider reports a change by the owner's
+    /// applyChanges(), in a table by its setFieldValue() for the cell (`row`, `column`). `owner`
+    /// isn't owned and outlives the slider.
     WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row, int column);
 
     /// Writes the value into the line.
@@ -72,11 +73,11 @@ protected:
     /// Stores the value's text in m_oldValue.
     virtual void saveOldValue();
 
-    /// Shows a text from its start; it counts as not modified.
+    /// Shows a text from its start. The line then counts as unmodified.
     void setText(const QString& text);
     /// The line's text, with the prefix of the base.
     QString getText() const;
-    /// Moves the scale to the value's position without an echo.
+    /// Moves the scale to the value's position without reporting a change.
     void syncPosition();
     /// Shows `text` and takes it as the value; the owner isn't told.
     void takeText(const QString& text);
@@ -96,8 +97,8 @@ protected:
 private:
     void notifyOwner();
 
-    // Until a first value was set there is nothing to tell: what the scale shows before comes of
-    // the range alone.
+    // Before a first value is set, the scale stands where the range has put it, which nobody needs
+    // to be told.
     bool m_hasValue = false;
     bool m_ownerHeld = false;
 };

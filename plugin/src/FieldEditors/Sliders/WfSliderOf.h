@@ -22,7 +22,7 @@ public:
 protected:
     using WfSlider::WfSlider;
 
-    /// Takes a range as it is. The value isn't changed, unless the scale is pushed by it.
+    /// Takes a range as it is. The value only changes if the new range moves the scale.
     void takeRange(Value min, Value max, bool bounded)
     {
         m_bounded = bounded;
@@ -37,7 +37,7 @@ protected:
         m_slider->setRange(self().bottomPosition(), self().topPosition());
     }
 
-    /// The value that the range has for `value`: a bounded range cuts it, a free one grows to it.
+    /// `value` as the range admits it: a bounded range clamps it, a free one grows to include it.
     Value admitted(Value value)
     {
         if (m_bounded)

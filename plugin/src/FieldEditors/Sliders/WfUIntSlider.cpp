@@ -32,8 +32,8 @@ void WfUIntSlider::updateValueFromEdit()
 
 void WfUIntSlider::saveOldValue()
 {
-    // The line may still show a text that was refused or cut; undo would bring that back, not the
-    // value.
+    // The line may still show a text that was refused or clamped. Undo must bring back the value,
+    // not that text.
     bool reads = false;
     const bool showsValue = m_lineEdit->text().toUInt(&reads, m_base) == m_value && reads;
     m_oldValue = toKbString(

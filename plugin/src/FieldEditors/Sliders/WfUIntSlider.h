@@ -3,13 +3,13 @@
 
 #include "WfIntegerSliderOf.h"
 
-/// The slider of unsigned whole numbers. The lowest position of the scale is 0, the highest
-/// 4294967295. The line has no validator: the limits are kept when its text is read.
+/// The slider of unsigned whole numbers. The lowest position of the scale stands for 0, the highest
+/// for 4294967295. The line has no validator; the limits apply when its text is read.
 class WfUIntSlider : public WfIntegerSliderOf<WfUIntSlider, unsigned int> {
 public:
     enum Kind { UInt32 = 2, UInt16 = 4 };
 
-    /// `kind` fixes the limits of the type; any other number than UInt16 has 32 bits.
+    /// `kind` fixes the limits of the type; anything but UInt16 means 32 bits.
     WfUIntSlider(
         int kind, int inTable, CrvFieldEditors* owner, QWidget* parent, int row, int column);
 

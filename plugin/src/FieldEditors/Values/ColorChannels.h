@@ -4,12 +4,11 @@
 #include <QColor>
 
 /// The byte that displays a channel of nominal range 0 to 1: 255 times the channel, cut towards
-/// zero; -1 where that lies outside 0 to 255 or is no number.
+/// zero; -1 if that is outside 0 to 255 or not a number.
 int channelByte(float channel);
 
-/// The colour that displays 3 channels, opaque, or 4, alpha last. It isn't valid when a channel has
-/// no byte.
+/// The colour of 3 channels, opaque, or of 4, alpha last. It isn't valid if a channel has no byte.
 QColor channelColor(const float* channels, int count);
 
-/// The channels of a colour, red, green, blue and, for a `count` of 4, alpha.
+/// Stores the channels of a colour: red, green, blue and, for a `count` of 4, alpha.
 void colorChannels(const QColor& color, float* channels, int count);

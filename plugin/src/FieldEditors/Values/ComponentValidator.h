@@ -12,6 +12,6 @@ enum ValidatorKind : int {
     DoubleValidator = 4,
 };
 
-/// Gives a line the validator of a ValidatorKind; its parent is the line. Any other number leaves
-/// the line as it is.
+/// Gives a line the validator of a ValidatorKind, as its child. Any other number leaves the line as
+/// it is.
 void setComponentValidator(int kind, QLineEdit* line);

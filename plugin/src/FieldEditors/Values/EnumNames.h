@@ -8,7 +8,7 @@
 
 class KnSFEnum;
 
-/// A name of an enum or a mask as its editor shows it, and its value.
+/// A name of an enum or a bit mask, as its editor shows it, with its value.
 struct NamedValue {
     QString name;
     int value;
@@ -17,5 +17,5 @@ struct NamedValue {
 /// The names of a field with their values, in the field's order, read as Latin-1.
 QList<NamedValue> namedValues(KnSFEnum* field);
 
-/// The kernel's name for a text that is shown.
+/// The kernel's name for a text as it is shown.
 KbName enumName(const QString& text);

@@ -8,8 +8,8 @@
 
 namespace {
 
-// Each buffer is the picture's own, whose rows are padded to 32 bits, so that a packed row of any
-// length fits.
+// The pixels are copied into the picture's own buffer. Its rows are padded to 32 bits, so packed
+// rows of any length fit.
 
 QImage copiedRows(const unsigned char* bytes, int width, int height, int components)
 {
@@ -26,8 +26,8 @@ QImage copiedRows(const unsigned char* bytes, int width, int height, int compone
 
 void convertRow(const unsigned char* source, QRgb* row, int width, std::integral_constant<int, 3>)
 {
-    // One load a pixel is twice as fast as three; it takes in a byte of the next pixel, which the
-    // last one of a row doesn't have.
+    // One load for each pixel is twice as fast as three. It also reads a byte of the next pixel, so
+    // the last pixel of a row is read byte by byte.
     for (int x = 0; x < width - 1; ++x, source += 3)
         row[x] = 0xff000000U | qFromBigEndian<quint32>(source) >> 8;
     row[width - 1] = qRgb(source[0], source[1], source[2]);

@@ -3,7 +3,7 @@
 
 #include <limits>
 
-/// So many decimals a float is shown with and may be typed with.
+/// The decimals that a slider shows of a float, and that may be typed.
 inline constexpr int floatDecimals = 6;
 /// The largest finite float. A double, since validators and sliders compute in doubles.
 inline constexpr double floatLimit = std::numeric_limits<float>::max();

@@ -3,8 +3,8 @@
 
 #include <QLocale>
 
-/// What every number validator gets: numbers are typed with a point and without group separators,
-/// wherever the process runs.
+/// The locale of every number validator: numbers are typed with a point and without group
+/// separators, whatever the user's locale.
 inline QLocale numberLocale()
 {
     QLocale locale = QLocale::c();
