@@ -3,12 +3,10 @@
 # Fails when an include runs against the direction of the layers, naming file, line and reason.
 # Usage: check_includes.sh [SOURCE_DIR]
 set -uo pipefail
-cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}" || exit
+scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
-# Headers are included by file name alone, so all file names are read before any file is.
-find platform plugin inspector examples -type f \( -name '*.h' -o -name '*.cpp' \) |
-    LC_ALL=C sort | awk '
-function deny(reason) { print file ":" line ": " reason; failures++ }
+"$scripts/list_includes.sh" "${1:-$scripts/..}" | awk -F '\t' '
+function deny(file, line, reason) { print file ":" line ": " reason; failures++ }
 
 # layer FOLDER "LAYERS": files of the folder may include those of it and of the layers named.
 function layer(folder, below,    names, count, i) {
@@ -19,32 +17,14 @@ function layer(folder, below,    names, count, i) {
         may[folder, names[i]] = 1
 }
 
-# The layer of a file. Below platform each folder is one, elsewhere the outermost folder is.
+# The layer of a file. In platform and in the inspector each folder is one, elsewhere the outermost
+# folder is.
 function layerOf(path,    folder) {
     folder = path
     sub(/\/[^\/]*$/, "", folder)
-    if (folder !~ /^platform\//)
+    if (folder !~ /^(platform|inspector)\//)
         sub(/\/.*/, "", folder)
     return folder
-}
-
-function check(path,    text, target) {
-    file = path
-    line = 0
-    while ((getline text <path) > 0) {
-        line++
-        if (text !~ /^[ \t]*#[ \t]*include[ \t]*["<]/)
-            continue
-        target = text
-        sub(/^[^"<]*["<]/, "", target)
-        sub(/[">].*/, "", target)
-        if (layers[path] in kernel && target ~ /^(Qt[A-Za-z0-9]*\/)?(Q[A-Z]|Qt|q[a-z]+\.h)/)
-            deny("the kernel knows no Qt (" target ")")
-        sub(/.*\//, "", target)
-        if (target in home && !((layers[path], home[target]) in may))
-            deny(layers[path] " may not include " target " of " home[target])
-    }
-    close(path)
 }
 
 BEGIN {
@@ -64,36 +44,42 @@ BEGIN {
         kernel[name] = 1
     layer("platform/extender", platform)
     layer("plugin", platform)
-    layer("inspector", platform)
+    layer("inspector/text", platform)
+    layer("inspector/scene", platform " inspector/text")
+    layer("inspector/window", platform " inspector/text inspector/scene")
+    layer("inspector", platform " inspector/text inspector/scene inspector/window")
     layer("examples", platform) # written as if by somebody else
 }
 
-{
-    name = $0
+$1 == "file" {
+    files++
+    own = layerOf($2)
+    if (!(own in known))
+        deny($2, 1, own " is no layer; give it a line in check_includes.sh")
+    name = $2
     sub(/.*\//, "", name)
-    layers[$0] = layerOf($0)
-    paths[++count] = $0
     if (name ~ /\.h$/) {
-        if (name in home) {
-            file = $0
-            line = 1
-            deny("a second " name ", beside that of " home[name])
-        }
-        home[name] = layers[$0]
+        if (name in home)
+            deny($2, 1, "a second " name ", beside that of " home[name])
+        home[name] = own
     }
-    if (!(layers[$0] in known)) {
-        file = $0
-        line = 1
-        deny(layers[$0] " is no layer; give it a line in check_includes.sh")
+}
+
+$1 == "include" {
+    own = layerOf($2)
+    if (own in kernel && $4 ~ /^(Qt[A-Za-z0-9]*\/)?(Q[A-Z]|Qt|q[a-z]+\.h)/)
+        deny($2, $3, "the kernel knows no Qt (" $4 ")")
+    if ($5 != "-" && !((own, layerOf($5)) in may)) {
+        name = $5
+        sub(/.*\//, "", name)
+        deny($2, $3, own " may not include " name " of " layerOf($5))
     }
 }
 
 END {
-    if (count == 0) {
+    if (files == 0) {
         print "no sources found"
         exit 1
     }
-    for (i = 1; i <= count; i++)
-        check(paths[i])
     exit (failures > 0)
 }'

@@ -18,8 +18,8 @@ while read -r folder own allowed; do
     touch "$tree/$folder/$own"
     source=$folder/${own%.h}.cpp
     line=0
-    for target in Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h Plugin.h Inspector.h \
-        Example.h QString QtCore/QString qglobal.h vector; do
+    for target in Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h Plugin.h Wording.h \
+        Scene.h Window.h Program.h Example.h QString QtCore/QString qglobal.h vector; do
         line=$((line + 1))
         echo "#include <$target>" >>"$tree/$source"
         [[ " $own $allowed vector " = *" ${target##*/} "* ]] ||
@@ -35,7 +35,10 @@ platform/kestrix/nodes   Nodes.h   Base.h Types.h Errors.h Text.h Fields.h
 platform/kestrix_gl      Gl.h      Base.h Types.h Errors.h Text.h Fields.h Nodes.h
 platform/extender        Host.h    Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h QString qglobal.h
 plugin/src/Deep          Plugin.h  Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h
-inspector                Inspector.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h
+inspector/text           Wording.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h
+inspector/scene          Scene.h   Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h Wording.h
+inspector/window         Window.h  Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h Wording.h Scene.h
+inspector                Program.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h Wording.h Scene.h Window.h
 examples                 Example.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h
 END
 
