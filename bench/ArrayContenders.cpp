@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr QSize WindowSize(400, 600); // pixels
+constexpr QSize windowSize(400, 600); // pixels
 
 /// The editor of a field class.
 template <class Editor, class Field>
@@ -148,6 +148,7 @@ public:
 private:
     void setItem(int row, float value)
     {
+        // The table owns its items.
         m_table.setItem(row, 0, new QTableWidgetItem(QString::number(value)));
     }
 };
@@ -231,7 +232,7 @@ void ArrayContender::paint() const
 void ArrayContender::show() const
 {
     QWidget* const window = view()->window();
-    window->resize(WindowSize);
+    window->resize(windowSize);
     window->show();
     paint();
 }

@@ -18,8 +18,8 @@
 
 namespace {
 
-constexpr int RowCounts[] = { 1'000, 100'000, 1'000'000 };
-constexpr int Repeats = 9;
+constexpr int rowCounts[] = { 1'000, 100'000, 1'000'000 };
+constexpr int repeats = 9;
 
 /// Median of the times that `run` takes up to the last pixel, in milliseconds; `prepare` isn't
 /// timed.
@@ -27,7 +27,7 @@ double median(const ArrayContender& table, const std::function<void()>& prepare,
     const std::function<void()>& run)
 {
     std::vector<double> times;
-    for (int i = 0; i < Repeats; ++i) {
+    for (int i = 0; i < repeats; ++i) {
         prepare();
         table.paint();
         QElapsedTimer timer;
@@ -36,8 +36,8 @@ double median(const ArrayContender& table, const std::function<void()>& prepare,
         table.paint();
         times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
     }
-    std::nth_element(times.begin(), times.begin() + Repeats / 2, times.end());
-    return times[Repeats / 2];
+    std::nth_element(times.begin(), times.begin() + repeats / 2, times.end());
+    return times[repeats / 2];
 }
 
 void show(ArrayContender& table, int rows)
@@ -51,7 +51,7 @@ struct Measurement {
     double (*measure)(ArrayContender& table, int rows);
 };
 
-constexpr Measurement Measurements[] = {
+constexpr Measurement measurements[] = {
     { "select, from 3 rows",
         [](ArrayContender& table, int rows) {
             const auto prepare = [&] {
@@ -121,7 +121,7 @@ void printTimes(const Contenders& tables, int rows)
     for (const auto& table : tables)
         std::printf("%20s", table->name());
     std::printf("\n");
-    for (const Measurement& measurement : Measurements) {
+    for (const Measurement& measurement : measurements) {
         std::printf("%-26s", measurement.name);
         double first = 0;
         for (const auto& table : tables) {
@@ -166,10 +166,10 @@ int main(int argc, char** argv)
             const Contenders tables = make();
             for (const auto& table : tables)
                 table->show();
-            for (const int rows : RowCounts)
+            for (const int rows : rowCounts)
                 printTimes(tables, rows);
         }
-        printMemory(make(), RowCounts[2]);
+        printMemory(make(), rowCounts[2]);
     }
     return 0;
 }

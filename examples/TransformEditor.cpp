@@ -98,5 +98,6 @@ void TransformEditor::refresh()
 
 void TransformEditor::moveBack()
 {
+    // The host owns the command from here on.
     CrvServices::getInstance()->executeCommand(new SetText(transform()->translation, "0 0 0"));
 }

@@ -35,7 +35,7 @@ Startup::Startup(MainWindow& window)
 
 Startup::~Startup() { CrvPluginsManager::getInstance()->unloadAll(); }
 
-bool Startup::carryOut(const CommandLine& commandLine)
+bool Startup::applyCommandLine(const CommandLine& commandLine)
 {
     return chooseProfile(commandLine) && loadPlugins(commandLine) && openScene(commandLine)
         && select(commandLine);

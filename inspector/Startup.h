@@ -7,7 +7,7 @@
 class CommandLine;
 class MainWindow;
 
-/// Carries a command line out on a fresh window. Plug-ins stay loaded while it lives.
+/// Applies a command line to a fresh window. Plug-ins stay loaded while it lives.
 class Startup {
     Q_DECLARE_TR_FUNCTIONS(Startup)
 public:
@@ -20,7 +20,7 @@ public:
 
     /// Profiles, plug-ins, scene and selection, in this order. False as soon as one of them fails,
     /// and `errorText` says why.
-    bool carryOut(const CommandLine& commandLine);
+    bool applyCommandLine(const CommandLine& commandLine);
     const QString& errorText() const { return m_error; }
 
 private:

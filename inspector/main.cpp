@@ -91,7 +91,7 @@ int run(const CommandLine& commandLine)
 
     MainWindow window(settings.get());
     Startup startup(window);
-    if (!startup.carryOut(commandLine))
+    if (!startup.applyCommandLine(commandLine))
         return fail(startup.errorText());
     if (!forPerson)
         return takePicture(window, commandLine.picture);

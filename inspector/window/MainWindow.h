@@ -42,6 +42,7 @@ private:
     void buildPanels();
     void buildEditMenu();
     void buildViewMenu();
+    /// The dock owns the panel, and the window the dock.
     QDockWidget* addPanelDock(QWidget* panel, const QString& name, const QString& title);
     void findNode();
     void giveFirstSize(QDockWidget* dock);

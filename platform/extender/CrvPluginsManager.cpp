@@ -40,7 +40,7 @@ struct CrvPluginsManager::Private {
 
     void startPlugin(CrvPlugin* plugin, std::unique_ptr<CrvPluginLibrary> library);
     void replaceProfiles(Profiles newProfiles);
-    void carryOut();
+    void applyActiveProfile();
     void announceProfile();
     void unloadPlugins();
     CrvProfileResolution* resolve();
@@ -65,7 +65,7 @@ void CrvPluginsManager::Private::startPlugin(
     for (CrvExtension* extension : std::vector<CrvExtension*>(plugin->getExtensions()))
         extension->load();
     plugins.push_back({ plugin, std::move(library) });
-    carryOut();
+    applyActiveProfile();
 }
 
 void CrvPluginsManager::Private::replaceProfiles(Profiles newProfiles)
@@ -85,10 +85,10 @@ void CrvPluginsManager::Private::replaceProfiles(Profiles newProfiles)
     // The profile selector reads the list when it is activated.
     activation.renewAll();
     Q_EMIT q->profilesChanged();
-    carryOut();
+    applyActiveProfile();
 }
 
-void CrvPluginsManager::Private::carryOut()
+void CrvPluginsManager::Private::applyActiveProfile()
 {
     resolution.reset();
     if (activation.update())
@@ -234,7 +234,7 @@ void CrvPluginsManager::setActiveProfile(CrvProfile* profile)
         return;
     d->activeProfile = profile;
     d->profileChanged = true;
-    d->carryOut();
+    d->applyActiveProfile();
 }
 
 CrvProfileSetting* CrvPluginsManager::getProfileSetting(const CrvExtension* extension) const

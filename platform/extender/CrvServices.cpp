@@ -77,7 +77,7 @@ CrvServices::CrvServices()
     : m_undoStack(new QUndoStack(this))
 {
     KnDatabase::init();
-    new CrvSensorPump(this);
+    new CrvSensorPump(this); // a child; it works by itself
 }
 
 CrvServices::~CrvServices()
@@ -95,7 +95,7 @@ CrvServices::SelectionHold::SelectionHold(CrvServices& services)
 CrvServices::SelectionHold::~SelectionHold()
 {
     --m_services.m_holds;
-    m_services.carryOutRequests();
+    m_services.applyRequests();
 }
 
 void CrvServices::selectNode(KnFieldContainer* node) { request({ KnNodePtr(node), nullptr }); }
@@ -122,10 +122,10 @@ void CrvServices::request(Selection selection)
     // A repeated announcement that still waits is due whatever is selected then.
     selection.again = selection.again || (m_requested && m_requested->again);
     m_requested = std::move(selection);
-    carryOutRequests();
+    applyRequests();
 }
 
-void CrvServices::carryOutRequests()
+void CrvServices::applyRequests()
 {
     // Listeners that answer each other's selections would never come to an end.
     constexpr int maxRounds = 100;

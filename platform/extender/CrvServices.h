@@ -35,7 +35,7 @@ public:
     /// Emits both signals again with what is selected.
     void announceSelection();
 
-    /// Makes selections wait while it lives; the last one that was asked for is carried out at the
+    /// Makes selections wait while it lives; the last one that was asked for is applied at the
     /// end. For whoever takes panes away: they hand the focus on, and who gets it may select.
     class SelectionHold {
     public:
@@ -69,10 +69,10 @@ private:
         bool again = false; // to be announced also where nothing changes
     };
 
-    /// What will be selected when all requests have been carried out.
+    /// What will be selected when all requests have been applied.
     Selection latestSelection() const;
     void request(Selection selection);
-    void carryOutRequests();
+    void applyRequests();
     void apply(const Selection& selection);
     void announceField(KnField* field);
 

@@ -39,7 +39,7 @@ public:
         commandLine.profile = profile;
         commandLine.plugins = QStringList { QStringLiteral(CORVANE_PLUGIN),
             QStringLiteral(CORVANE_EXAMPLE_PLUGIN) };
-        if (!startup.carryOut(commandLine))
+        if (!startup.applyCommandLine(commandLine))
             qFatal("%s", qPrintable(startup.errorText()));
         window.restoreLayout();
         window.show();
