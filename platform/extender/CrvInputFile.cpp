@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 
@@ -56,9 +57,17 @@ std::optional<QByteArray> readInputFile(const QString& fileName, qint64 maxSize,
         return std::nullopt;
 
     const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (descriptor < 0) {
+        *error = qt_error_string(errno);
+        return std::nullopt;
+    }
     QFile file;
-    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)
-        || ::fstat(descriptor, &info) != 0) {
+    if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        *error = file.errorString();
+        ::close(descriptor); // which the file hasn't taken over
+        return std::nullopt;
+    }
+    if (::fstat(descriptor, &info) != 0) {
         *error = qt_error_string(errno);
         return std::nullopt;
     }
