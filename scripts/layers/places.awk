@@ -1,0 +1,104 @@
+# SPDX-License-Identifier: BSD-3-Clause
+# Where things stand in the picture. That is chosen by hand: a target is a frame, and a room, which is
+# a folder, a box inside it. draw_layers.sh refuses a folder that has no place.
+
+function target(id, x, y, width, height, title) {
+    targets[++targetCount] = id
+    left[id] = x
+    top[id] = y
+    wide[id] = width
+    high[id] = height
+    titleOf[id] = title
+}
+
+# room FOLDER TARGET CENTER ROW LABEL: the centre counts from the target, rows count from 0.
+function room(folder, id, center, row, label) {
+    rooms[++roomCount] = folder
+    targetOf[folder] = id
+    rowOf[folder] = row
+    labelOf[folder] = label
+    centerOf[folder] = left[id] + center
+    wide[folder] = atLeast(length(label) * 7.6 + 26, 92)
+    high[folder] = boxHeight
+    top[folder] = top[id] + titleHeight + row * pitch
+}
+
+# lane FROM TO X: where the arrow from one target to another goes straight down.
+function lane(from, to, x) { laneOf[from, to] = x }
+
+BEGIN {
+    boxHeight = 42
+    titleHeight = 40
+    pitch = 92 # from row to row
+    gap = 3 # before an arrow's head
+    between = 46 # targets
+    upper = 5 * pitch + 10
+    target("program", 20, 20, 210, upper, "corvane")
+    room("inspector", "program", 105, 0, "inspector/")
+    room("inspector/window", "program", 105, 1, "window/")
+    room("inspector/scene", "program", 105, 2, "scene/")
+    room("inspector/text", "program", 105, 3, "text/")
+
+    target("example", 245, 20, 150, upper, "example plug-in")
+    room("examples", "example", 75, 0, "examples/")
+
+    target("defaults", 410, 20, 750, upper, "ubn_corvane_extender_base")
+    room("plugin", "defaults", 380, 0, "plugin/")
+    room("plugin/Console", "defaults", 75, 1, "Console/")
+    room("plugin/ProfileSelector", "defaults", 215, 1, "ProfileSelector/")
+    room("plugin/src/FieldEditors/MFWidgets", "defaults", 430, 1, "MFWidgets/")
+    room("plugin/src/FieldEditors/SFWidgets", "defaults", 640, 1, "SFWidgets/")
+    room("plugin/src/FieldEditors/MFTables", "defaults", 430, 2, "MFTables/")
+    room("plugin/src/FieldEditors/Sliders", "defaults", 640, 2, "Sliders/")
+    room("plugin/src/FieldEditors", "defaults", 310, 3, "FieldEditors/")
+    room("plugin/src/Docks", "defaults", 90, 4, "Docks/")
+    room("plugin/src/FieldEditors/Edits", "defaults", 270, 4, "Edits/")
+    room("plugin/src/FieldEditors/Parts", "defaults", 450, 4, "Parts/")
+    room("plugin/src/FieldEditors/Values", "defaults", 650, 4, "Values/")
+
+    y = 20 + upper + between
+    single = titleHeight + boxHeight + 14
+    target("host", 110, y, 560, single, "ubn_corvane_extender")
+    room("platform/extender", "host", 280, 0, "platform/extender/")
+
+    y += single + between
+    middle = 3 * pitch + titleHeight + boxHeight + 14
+    target("kernel", 20, y, 800, middle, "ubn_kestrix")
+    room("platform/kestrix/nodes", "kernel", 400, 0, "nodes/")
+    room("platform/kestrix/fields", "kernel", 400, 1, "fields/")
+    room("platform/kestrix/errors", "kernel", 225, 2, "errors/")
+    room("platform/kestrix/text", "kernel", 560, 2, "text/")
+    room("platform/kestrix", "kernel", 400, 3, "platform/kestrix/")
+
+    target("gl", 930, y, 230, single, "ubn_kestrix_gl")
+    room("platform/kestrix_gl", "gl", 115, 0, "platform/kestrix_gl/")
+
+    y += middle + between
+    target("base", 20, y, 1140, single, "ubn_kestrix_base")
+    room("platform/kestrix_base", "base", 400, 0, "platform/kestrix_base/")
+
+    # With lanes for what may come: what a target may use is settled by check_includes.sh.
+    lane("program", "host", 170)
+    lane("program", "kernel", 65)
+    lane("program", "base", 45)
+    lane("example", "host", 285)
+    lane("example", "kernel", 345)
+    lane("defaults", "host", 530)
+    lane("defaults", "kernel", 750)
+    lane("defaults", "base", 875)
+    lane("defaults", "gl", 1045)
+    lane("host", "kernel", 420)
+    lane("host", "base", 650)
+    lane("gl", "base", 1045)
+    lane("kernel", "base", 420)
+
+    legendX = 930
+    y2 = bottomOf("gl") + 70
+    legend = sprintf("<text class=\"legend\" x=\"%d\" y=\"%d\">%s</text>\n", legendX, y2 - 28,
+        "Includes, and how many there are:")
+    explain("near", y2, "to the row below")
+    explain("far", y2 + 24, "sideways or further down")
+    explain("up", y2 + 48, "up again, within the plug-in")
+    width = 1180
+    height = y + single + 20
+}
