@@ -37,7 +37,7 @@ public:
         undoStack().clear();
         m_editor.deactivate();
         m_editor.unload();
-        // It belongs to the editor, as after a stay in a dock.
+        // The frame belongs to the editor, so the window gives it back, as a dock does.
         m_window.takeCentralWidget();
     }
 
@@ -95,7 +95,7 @@ private:
     QSpinBox* m_accessBox; // of the editor
 };
 
-/// A table widget that is told how many rows there are and nothing of what they hold.
+/// A table widget that is told how many rows there are, but not what they hold.
 class BareContender : public ArrayContender {
 public:
     explicit BareContender(int columns = 1)

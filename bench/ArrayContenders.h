@@ -22,14 +22,14 @@ public:
     virtual void refresh() = 0;
     virtual void jump(int row);
     virtual void edit(int row) = 0;
-    /// Takes the last edit back, where that isn't an edit as any other.
+    /// Takes the last edit back. Nothing in a table that has no undo.
     virtual void undo() { }
-    /// Behind the current row.
+    /// Adds a row behind the current one.
     virtual void add() = 0;
-    /// The current row.
+    /// Deletes the current row.
     virtual void remove() = 0;
 
-    /// Ends when everything that is to be seen of the table is on the screen.
+    /// Returns when everything visible of the table is on the screen.
     void paint() const;
     void show() const;
 };

@@ -96,7 +96,7 @@ void runUntil(const QTextEdit& view, int lines, const char* what)
         static_cast<double>(total.elapsed()) / 1000, static_cast<long long>(longest));
 }
 
-/// Lets the threads print their lines and shows them; answers how many are lost or out of order.
+/// Lets the threads print their lines and shows them; returns how many are lost or out of order.
 template <class Print>
 int flood(const QTextEdit& view, int lines, const char* what, Print print)
 {
@@ -131,7 +131,7 @@ void showLongLines(QTextEdit& view)
         const QByteArray& text;
     } lines[] = { { "10 MB with blanks", words }, { "10 MB without a blank", dense },
         { "another one", dense }, { "a short line behind it", "short" } };
-    // A view that holds something, as a console does when such a line comes.
+    // A console is rarely empty when such a line comes.
     constexpr int linesBefore = 1000;
     for (int i = 0; i < linesBefore; ++i)
         std::cout << "line";
@@ -215,7 +215,7 @@ int main(int argc, char** argv)
     }();
     console.clear();
     QTextEdit* const view = bare.form.m_consoleOutput;
-    // A tenth, which is stall enough.
+    // Only a tenth, which stalls long enough.
     flood(*view, lines / 10 / floodThreads * floodThreads, "  bare view, a tenth of them",
         [view](const QString& line) {
             QMetaObject::invokeMethod(

@@ -49,7 +49,7 @@ void fieldWrite(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * numberCount);
 }
 
-/// The rival: the same numbers, one blank behind each, into a buffer that is there already.
+/// The rival: the same numbers, each with a blank behind it, into a buffer that is there already.
 void bareWrite(benchmark::State& state)
 {
     const float* numbers = points()[0].getValue();

@@ -12,7 +12,7 @@ install(TARGETS ${libraries} EXPORT corvaneTargets
 install(EXPORT corvaneTargets NAMESPACE corvane::
         DESTINATION "${CMAKE_INSTALL_LIBDIR}/cmake/corvane")
 
-# The host's inner classes are nobody else's.
+# All headers but those of the host's inner classes, which no plug-in needs.
 install(DIRECTORY platform/kestrix_base platform/kestrix platform/kestrix_gl platform/extender
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/corvane"
         FILES_MATCHING PATTERN "*.h"

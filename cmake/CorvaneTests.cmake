@@ -25,7 +25,7 @@ if(LOCALEDEF_PROGRAM AND EXISTS "/usr/share/i18n/locales/de_DE" AND NOT CORVANE_
     add_custom_target(corvane_german_locale ALL DEPENDS "${locale_dir}/de_DE.UTF-8/LC_NUMERIC")
 endif()
 
-# One precompiled header serves all tests that use Qt.
+# All tests that use Qt share one precompiled header.
 set(pch_source "${CMAKE_CURRENT_BINARY_DIR}/test_pch.cpp")
 file(CONFIGURE OUTPUT "${pch_source}" CONTENT "int main() { return 0; }\n" @ONLY)
 add_executable(corvane_test_pch "${pch_source}")
@@ -33,7 +33,7 @@ set_target_properties(corvane_test_pch PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORC
 target_link_libraries(corvane_test_pch PRIVATE Qt6::Widgets Qt6::Test)
 corvane_strict_qt(corvane_test_pch)
 corvane_qt_pch(corvane_test_pch <QtTest>)
-# Qt defines these as the target's folders, by which no two folders could share the header.
+# Qt defines these differently in each folder, so that no two folders could share the header.
 target_compile_options(corvane_test_pch PRIVATE -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR)
 
 # Built instead of everything where only the tests without Qt can run.

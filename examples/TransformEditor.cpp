@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Writes a field's text, and back.
+/// Gives a field a new text; undo gives it the old one.
 class SetText : public CrvCommand {
 public:
     SetText(KnField& field, const char* text)

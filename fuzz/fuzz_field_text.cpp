@@ -44,9 +44,9 @@ void require(bool condition, const char* what, const KnField& field)
 
 } // namespace
 
-/// The first byte picks the field type, the rest is the text. A text that is taken gives a text
-/// that any other field of the type takes and gives again; one that is refused changes nothing and
-/// posts one error.
+/// The first byte picks the field type, the rest is the text. When a field takes it, the text that
+/// the field then gives must be taken by another field of the type, and given back the same. When
+/// the field refuses it, nothing may change, and one error is posted.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     if (size == 0)

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The options and their parser, made anew where needed.
+// The options with their parser; whoever needs it makes one.
 struct Parser : QCommandLineParser {
     Parser()
     {
@@ -16,7 +16,7 @@ struct Parser : QCommandLineParser {
         addPositionalArgument(QStringLiteral("scene"),
             CommandLine::tr("Scene file to open, in JSON."), QStringLiteral("[scene.json]"));
         addOptions({ help, version, profile, profilesFile, selection, picture, plugin });
-        // Taken by the application object.
+        // For the application object, which reads them itself.
         for (const QLatin1String name : toolkitOptions()) {
             QCommandLineOption option(name, QString(), name);
             option.setFlags(QCommandLineOption::HiddenFromHelp);

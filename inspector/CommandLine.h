@@ -25,5 +25,5 @@ public:
     QString selection; ///< NODE or NODE.FIELD; empty for none
     QString picture; ///< empty: a window for a person
     QStringList plugins; ///< empty: the default extensions beside the program
-    QStringList toolkitArguments; ///< what the application object is to see
+    QStringList toolkitArguments; ///< passed on to the application object
 };

@@ -16,7 +16,7 @@
 
 namespace {
 
-// Beside the program: as it was built, or as it was installed.
+// Where it lies, seen from the program: in the build tree, or in an installed one.
 QString defaultPlugin()
 {
     const QDir directory(QCoreApplication::applicationDirPath());

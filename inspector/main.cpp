@@ -23,7 +23,7 @@ QStringList argumentList(int argc, char** argv)
     return arguments;
 }
 
-// The arguments of the application object: it would take "--plugin" for an option of its own.
+// The arguments for the application object, which would take "--plugin" for an option of its own.
 class ApplicationArguments {
 public:
     ApplicationArguments(char* program, const QStringList& arguments)
@@ -46,7 +46,7 @@ private:
     int m_count;
 };
 
-// The process's own streams: a console dock may have taken over those of C++.
+// Uses the process's own streams, since a console dock may have taken over those of C++.
 int fail(const QString& error)
 {
     complainToTerminal(QStringLiteral("corvane: ") + error);
@@ -64,7 +64,7 @@ int answer(int argc, char** argv, CommandLine::Request request)
     return 0;
 }
 
-// A picture needs no display, so that none is used, nor tried, unless a platform was asked for.
+// A picture needs no display, so none is opened, unless there is one and a platform was asked for.
 void drawOffscreen()
 {
     const bool hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY")

@@ -10,8 +10,8 @@
 
 class KnField;
 
-/// The fields of one node, one row each, kept up to date by a sensor a field. Values are made when
-/// a view asks for them, and cut short.
+/// The fields of one node, one row each, kept up to date by one sensor per field. The texts of the
+/// values are made when a view asks for them, and cut short.
 class FieldListModel : public QAbstractTableModel {
     Q_OBJECT
 public:

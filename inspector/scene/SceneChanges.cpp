@@ -10,7 +10,7 @@
 
 namespace {
 
-// More rows or bytes aren't compared each time that a slider moves.
+// Comparing larger fields each time that a slider moves would be felt.
 constexpr int maxComparedRows = 256;
 constexpr int maxComparedBytes = 4096;
 
@@ -33,7 +33,7 @@ bool isSmall(const KnField& field)
 
 } // namespace
 
-/// One field, and what of it was saved.
+/// One field and what it held when it was saved.
 class SceneChanges::Watch : private KnFieldSensor {
 public:
     Watch(SceneChanges* owner, const KnFieldContainer* node, KnField* field)
@@ -59,7 +59,8 @@ public:
         differs = false;
     }
 
-    /// Answers a touch; `byCommand` if it may be a command's.
+    /// Whether the field, which was touched, differs from what was saved. `byCommand` if the touch
+    /// may be a command's.
     bool compare(bool byCommand)
     {
         m_rewritten = m_rewritten || (!m_comparable && !byCommand);
@@ -145,7 +146,7 @@ void SceneChanges::forgetNodes()
     update();
 }
 
-// By now the command has touched its fields, so that their sensors wait already.
+// The command has touched its fields by now, so their sensors stand in the queue already.
 void SceneChanges::stackMoved()
 {
     m_commandInBatch = true;

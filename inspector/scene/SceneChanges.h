@@ -15,8 +15,8 @@ class QUndoStack;
 /// Says whether the scene differs from what was last read or saved. The undo stack alone doesn't
 /// know, since some edits write a field without a command; so the fields of every node that was
 /// ever selected are watched, for as long as node and scene live, and compared with what was saved.
-/// A field too large to be compared at each change counts as changed from the first write on that
-/// came without a command.
+/// A field that is too large to be compared at each change counts as changed after the first write
+/// that came without a command.
 class SceneChanges : public QObject {
     Q_OBJECT
 public:
@@ -26,7 +26,7 @@ public:
     /// Watches the node's fields from now on, without keeping the node alive. A node that dies is
     /// forgotten, and no longer differs.
     void watch(KnFieldContainer* node);
-    /// What the fields hold now is what was saved. The undo stack gets its clean state here.
+    /// Takes what the fields hold now for what was saved, and marks the undo stack as clean.
     void markSaved();
     /// Before the scene goes away.
     void forgetNodes();
@@ -47,11 +47,11 @@ private:
     void update();
 
     QUndoStack* m_stack; // the host's
-    // The nodes are alive, since a node that dies takes its watches away.
+    // The nodes are alive, since a node that dies takes its watches along.
     std::unordered_map<const KnFieldContainer*, std::vector<std::unique_ptr<Watch>>> m_watches;
     int m_differing = 0; // watches that differ
-    bool m_commandInBatch = false; // the touches that come now may be a command's
-    KnSensor m_batchEnd; // runs behind the sensors of the fields that a command has touched
+    bool m_commandInBatch = false; // what is touched now may be a command's doing
+    KnSensor m_batchEnd; // runs after the sensors of the fields that a command has touched
     KnSensor m_forgotten; // runs once dead nodes are gone for good
     bool m_modified = false;
 };

@@ -59,7 +59,7 @@ bool SceneDocument::save(const QString& fileName, QString* error)
         *error = writer.errorText();
         return false;
     }
-    // What was written is what the queue has yet to announce, too.
+    // The file also holds the changes that the queue hasn't announced yet.
     KnSensorQueue::getInstance().process();
     m_changes.markSaved();
     say(tr("Saved %1").arg(fileName));
@@ -75,7 +75,7 @@ void SceneDocument::release()
 {
     CrvServices* const services = CrvServices::getInstance();
     services->selectNode(nullptr);
-    // A listener may have chosen something else of this scene, in answer to that.
+    // In answer to that a listener may have selected something else of this scene.
     if (services->getSelectedNode())
         services->selectNode(nullptr);
     services->getUndoStack()->clear();

@@ -20,7 +20,7 @@ public:
     /// Empty for a scene that was never saved.
     const QString& fileName() const { return m_fileName; }
 
-    /// Includes what was written a moment ago and hasn't been announced yet.
+    /// Counts what was written a moment ago, even if it hasn't been announced yet.
     bool isModified();
 
     /// Replaces the scene by that of a file. A refused file leaves everything as it is, and

@@ -3,7 +3,8 @@
 
 #include <QSortFilterProxyModel>
 
-/// Leaves the nodes whose name or type contains the filter text, in any case, and their ancestors.
+/// Shows only the nodes whose name or type contains the filter text, upper or lower case, and their
+/// ancestors.
 class SceneFilterModel : public QSortFilterProxyModel {
     Q_OBJECT
 public:

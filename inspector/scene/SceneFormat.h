@@ -3,12 +3,13 @@
 
 #include <QLatin1String>
 
-/// What reader and writer of scene files agree on.
+/// What the reader and the writer of scene files agree on.
 namespace SceneFormat {
 
 inline constexpr QLatin1String name("corvane-scene");
 inline constexpr int version = 1;
-/// Children below the root; Qt's own reader ends at 1024 brackets, of which a node takes two.
+/// Levels of children below the root. Qt's parser stops at 1024 brackets inside each other, and a
+/// node takes two.
 inline constexpr int maxDepth = 400;
 
 namespace Key {

@@ -17,7 +17,7 @@ struct SceneModel::Item {
     {
     }
 
-    // The rows that a view knows of stay, whatever the group does.
+    // Rows that a view knows about stay, whatever becomes of the group.
     int childCount() const
     {
         if (!children.empty())

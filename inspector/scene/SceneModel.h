@@ -7,9 +7,10 @@
 
 #include <memory>
 
-/// The scene as a tree: one row a node, the root at the top. Rows are made when a view asks for
-/// them. A node that has several parents stands in several places. Nothing tells of a graph that
-/// changes its shape: rows that were made stay as they are, and keep their nodes alive.
+/// The scene as a tree: one row per place of a node, the root at the top. Rows are made when a view
+/// asks for them. A node that has several parents stands in several places. The kernel doesn't tell
+/// when a graph changes its shape: rows that were made stay as they are, and keep their nodes
+/// alive.
 class SceneModel : public QAbstractItemModel {
     Q_OBJECT
 public:

@@ -39,7 +39,7 @@ bool SceneSearch::find(KnFieldContainer* root, const QString& text)
     m_node = findNode(root, text);
     if (m_node)
         return true;
-    // A node's name may hold points, a field's doesn't.
+    // A node's name may contain dots, a field's never does.
     const qsizetype point = text.lastIndexOf(QLatin1Char('.'));
     if (point >= 0)
         m_node = findNode(root, text.left(point));

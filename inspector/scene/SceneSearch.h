@@ -11,9 +11,9 @@ class KnFieldContainer;
 class SceneSearch {
     Q_DECLARE_TR_FUNCTIONS(SceneSearch)
 public:
-    /// `text` is NODE or NODE.FIELD, NODE being a node's name or, for a node that isn't found by
-    /// name, a type, which stands for the first node of it. False if there is none, and
-    /// `errorText` says what is missing.
+    /// `text` is NODE or NODE.FIELD. NODE is a node's name or, if no node has that name, a type,
+    /// which stands for the first node of that type. False if there is none, and `errorText` says
+    /// what is missing.
     bool find(KnFieldContainer* root, const QString& text);
 
     /// Set by a successful `find`; not owned.

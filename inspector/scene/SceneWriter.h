@@ -9,9 +9,10 @@
 #include <map>
 #include <string>
 
-/// Writes a scene file, in the form that SceneReader reads. It says of each node only what differs
-/// from a fresh node of its type. Members stand in the order in which a person reads them, which
-/// Qt's own writer would sort by name, and every text survives, lone surrogates included.
+/// Writes a scene file, in the form that SceneReader reads. Of each node it writes only what
+/// differs from a fresh node of its type. Members stand in the order in which a person reads them,
+/// where Qt's own writer would sort them by name, and every text survives, lone surrogates
+/// included.
 class SceneWriter {
 public:
     /// Replaces the file only when all of it has been written. False leaves it as it was, and

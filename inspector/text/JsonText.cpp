@@ -6,7 +6,7 @@
 
 namespace {
 
-// Half of no pair: neither the first of two, nor the second behind a first.
+// Whether there is one half of a surrogate pair without the other.
 bool isLoneSurrogate(QStringView text, qsizetype i)
 {
     if (text[i].isHighSurrogate())

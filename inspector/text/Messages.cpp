@@ -11,8 +11,9 @@ namespace {
 
 std::string oneLine(const QString& line) { return (line + QLatin1Char('\n')).toStdString(); }
 
-// Character by character: whoever has taken the stream over gets characters as lines without their
-// line end, but a block as it stands, which would show as a message and an empty one.
+// Character by character: who captures the stream gathers single characters into lines and drops
+// the line end, but takes a block as it stands, and would show a message and an empty one behind
+// it.
 void writeTo(std::ostream& stream, const QString& line)
 {
     for (const char c : oneLine(line))

@@ -8,7 +8,7 @@ void say(const QString& line);
 /// The same on `std::cerr`.
 void complain(const QString& line);
 
-/// One line on the process's own standard output or error, whoever has taken over the streams:
-/// for who started the program from a terminal or a script.
+/// One line on the process's own standard output or error, even while a console captures the
+/// streams: for whoever started the program from a terminal or a script.
 void sayToTerminal(const QString& line);
 void complainToTerminal(const QString& line);

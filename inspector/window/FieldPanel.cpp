@@ -22,7 +22,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setIndent(fontMetrics().averageCharWidth());
     m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    // As high as the line beside it, so that tree and list start at one height.
+    // As high as the filter line beside it, so that tree and list start level.
     m_heading->setMinimumHeight(QLineEdit().sizeHint().height());
 
     m_list->setObjectName(QStringLiteral("fieldList"));
@@ -51,7 +51,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     connect(services, &CrvServices::selectedFieldChanged, this, &FieldPanel::showField);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &FieldPanel::currentChanged);
-    // Opens an editor again whose dock was closed.
+    // Brings back an editor whose dock was closed.
     connect(m_list, &QTreeView::activated, services, &CrvServices::announceSelection);
     showNode(services->getSelectedNode());
 }

@@ -13,7 +13,7 @@
 
 namespace {
 
-// A line or a cell takes what was typed when it is left, so it is left for a moment.
+// A line or a cell writes what was typed when it loses the focus, so it loses it for a moment.
 void commitTyping()
 {
     const QPointer<QWidget> focus = QApplication::focusWidget();

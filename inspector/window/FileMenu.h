@@ -15,8 +15,8 @@ public:
     /// `document` outlives the menu; `settings` too, and may be null.
     FileMenu(SceneDocument* document, QSettings* settings, QWidget* parent);
 
-    /// Opens a file, unless the person keeps the present scene because of its edits, or the file is
-    /// refused. Says so, with a message box for a refused one.
+    /// Opens a file, unless the person decides to keep the present scene with its edits. A message
+    /// box says why a file is refused.
     void openFile(const QString& fileName);
     /// Asks what to do with edits that aren't saved. False if the scene must stay.
     bool mayDropScene();

@@ -25,7 +25,7 @@ namespace {
 // Changes with the set of the window's own docks.
 constexpr int layoutVersion = 1;
 
-// Pixels; what the columns and the row at the bottom get in a fresh layout.
+// In pixels: the sizes in a fresh layout.
 constexpr int sceneWidth = 320;
 constexpr int historyHeight = 160;
 constexpr int editorWidth = 400;
@@ -103,7 +103,7 @@ void MainWindow::buildEditMenu()
     menu->addAction(undo);
     QAction* const redo = stack->createRedoAction(this, tr("&Redo"));
     redo->setObjectName(QStringLiteral("redoAction"));
-    // Both keys in use, whatever the platform's own is.
+    // Both keys that people use, whichever of them is the platform's.
     redo->setShortcuts(
         { QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y) });
     menu->addAction(redo);
@@ -139,8 +139,8 @@ void MainWindow::showFileName()
     setWindowTitle(QStringLiteral("%1[*] %2 Corvane").arg(shown, QChar(0x2013)));
 }
 
-// Which docks an extension shows follows from profile and selection; of the last time only the
-// places come back, and what the person had closed.
+// Which docks are shown follows from the profile and the selection. From last time only their
+// places come back, and which of them the person had closed.
 void MainWindow::restoreLayout()
 {
     if (!m_layout)
@@ -166,7 +166,7 @@ void MainWindow::addDockWidget(QDockWidget* dock, int area)
         Qt::SingleShotConnection);
 }
 
-// A dock comes up as small as what is in it at that moment, which an editor fills later.
+// A dock comes up as small as its content at that moment, and its editor comes later.
 void MainWindow::giveFirstSize(QDockWidget* dock)
 {
     if (m_layoutRestored)

@@ -23,7 +23,7 @@ public:
     ~MainWindow() override;
 
     SceneDocument& document() { return m_document; }
-    /// Brings the docks into the places of the last time; called when all of them are there.
+    /// Puts the docks where they stood last time; called when all of them are there.
     void restoreLayout();
 
     void addDockWidget(QDockWidget* dock, int area) override;

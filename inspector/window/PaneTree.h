@@ -3,8 +3,8 @@
 
 #include <QTreeView>
 
-/// The tree of a panel whose current row is the host's selection. Receiving the focus is no choice:
-/// where no row is current, none becomes it, as the first one would in a plain view.
+/// The tree of a panel whose current row is the host's selection. Getting the focus selects
+/// nothing, where a plain view without a current row would make its first row the current one.
 class PaneTree : public QTreeView {
     Q_OBJECT
 public:

@@ -42,7 +42,7 @@ void ViewMenu::removeExtension(CrvExtension* extension)
         [extension](const Entry& entry) { return entry.extension == extension; });
     if (it == m_entries.end())
         return;
-    // The extension may be going because of this very action.
+    // This very action may have been what made the extension go.
     it->action->deleteLater();
     removeAction(it->action);
     m_entries.erase(it);
@@ -76,7 +76,7 @@ bool ViewMenu::belongs(const QWidget* pane, const CrvExtension* extension)
     return pane->windowTitle() == toQString(extension->getName());
 }
 
-// A pane that is out of sight because its window or another tab is in front isn't hidden.
+// A pane that can't be seen because another tab or window is in front of it isn't hidden.
 void ViewMenu::paneToggled(QWidget* pane)
 {
     for (const Entry& entry : m_entries) {

@@ -20,11 +20,12 @@ public:
     /// A dock or a tool bar.
     void addPane(QWidget* pane);
     void removePane(QWidget* pane);
-    /// To be called when panes were shown or hidden without a word, as a restored layout does while
-    /// the window isn't on the screen.
+    /// To be called when panes were shown or hidden without a signal, as a restored layout does
+    /// while the window isn't on the screen.
     void takeOverPanes();
 
-    /// What comes behind the extensions is added before this action.
+    /// The separator below the extensions. What is inserted before it while there are none stands
+    /// above them.
     QAction* endOfExtensions() const { return m_end; }
 
 private:

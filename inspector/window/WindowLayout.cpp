@@ -17,7 +17,7 @@ QString layoutKey() { return QStringLiteral("window/layout"); }
 
 QString checkKey() { return QStringLiteral("window/check"); }
 
-// There from before the layout is restored until the window has come up with it.
+// Set before the layout is restored, and removed when the window has come up with it.
 QString restoringKey() { return QStringLiteral("window/restoring"); }
 
 QString checkOf(const QByteArray& geometry, const QByteArray& layout)
@@ -47,7 +47,7 @@ bool WindowLayout::restore()
                     "being restored."));
         return false;
     }
-    // Nothing was saved, or by a version that saved no check.
+    // Nothing was saved, or it was saved by a version without the check.
     if (!m_settings->contains(checkKey())) {
         drop();
         return false;
@@ -76,8 +76,8 @@ void WindowLayout::save()
     m_settings->remove(restoringKey());
 }
 
-// The docks take their places only when the window is shown, in events that wait by then. Behind
-// them the window has come up.
+// The docks take their places only when the window is shown, in events that are in the queue by
+// then. Once those have run, the window has come up.
 bool WindowLayout::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_window && event->type() == QEvent::Show) {

@@ -8,7 +8,7 @@
 class CrvProfileSetting;
 
 /// One thing that a plug-in adds to the tool: a dock, a tool bar, an editor. The host calls `load`
-/// once, then `activate`, `show`, `hide` and `deactivate` as the profile has it, and `unload` once,
+/// once, then `activate`, `show`, `hide` and `deactivate` as the profile says, and `unload` once,
 /// all on the user interface thread. An override of `activate`, `deactivate`, `hide` or `show`
 /// calls the base's.
 class CrvExtension : public QObject {

@@ -47,7 +47,7 @@ std::optional<QByteArray> readInputFile(const QString& fileName, qint64 maxSize,
 {
     const QByteArray path = QFile::encodeName(fileName);
     struct stat info { };
-    // Asked for by name first, since opening alone may set a device going.
+    // Looked at before it is opened, since opening alone may set a device going.
     if (::stat(path.constData(), &info) != 0) {
         *error = qt_error_string(errno);
         return std::nullopt;
@@ -78,7 +78,7 @@ std::optional<QByteArray> readInputFile(const QString& fileName, qint64 maxSize,
 
     QByteArray content;
     content.reserve(static_cast<qsizetype>(info.st_size) + 1);
-    // The size says nothing of a file that grows, nor of those that the kernel makes up.
+    // The size can't be trusted for a file that grows, or for one that the system makes up.
     for (QByteArray chunk = file.read(chunkSize); !chunk.isEmpty(); chunk = file.read(chunkSize)) {
         content += chunk;
         if (content.size() > maxSize) {

@@ -87,7 +87,7 @@ bool CrvJsonReader::parse(QByteArray json)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
-        // As a compiler says it.
+        // File, line and column, as a compiler says it.
         m_fileName += QLatin1Char(':') + faultPlace(std::move(json));
         return refuse(QString(), error.errorString());
     }

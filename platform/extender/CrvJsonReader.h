@@ -27,8 +27,8 @@ protected:
     CrvJsonReader() = default;
     virtual ~CrvJsonReader() = default;
 
-    /// Reads the file and builds what it describes. Gives false for a refused file, be it for want
-    /// of memory.
+    /// Reads the file and builds what it describes. False for a refused file, also when there isn't
+    /// enough memory for it.
     bool read(const QString& fileName);
     /// The same for the content of a file; `fileName` only stands in messages.
     bool readContent(QByteArray json, const QString& fileName);
@@ -40,14 +40,14 @@ protected:
     static QString memberPath(const QString& path, const QString& member);
     static QString elementPath(const QString& path, qsizetype index);
 
-    /// Each of these refuses what isn't as its name says, and gives whether it is.
+    /// Each of these refuses a value that isn't of the kind that it is named after, with false.
     bool checkObject(const QJsonValue& value, const QString& path);
-    /// A member that isn't known is most often misspelled.
+    /// Refuses unknown members too: most often they are misspelled.
     bool checkObject(const QJsonValue& value, const QString& path, const QStringList& knownMembers);
     bool checkArray(const QJsonValue& value, const QString& path);
     bool checkString(const QJsonValue& value, const QString& path);
 
-    /// `path` may be empty, for the file as a whole. Gives false.
+    /// `path` may be empty, for the file as a whole. Always false.
     bool refuse(const QString& path, const QString& reason);
     bool isRefused() const { return !m_error.isEmpty(); }
 

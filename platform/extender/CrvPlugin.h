@@ -14,7 +14,7 @@ public:
     CrvPlugin(const CrvPlugin&) = delete;
     CrvPlugin& operator=(const CrvPlugin&) = delete;
 
-    /// Called by the host once, behind `loadPlugin`. An override registers its extensions with
+    /// Called by the host once, after `loadPlugin`. An override registers its extensions with
     /// `addExtension` and calls this one last.
     virtual void load();
     /// Called by the host once, before `unloadPlugin`, when the extensions have been unloaded. It

@@ -29,7 +29,7 @@ using Profiles = std::vector<std::unique_ptr<CrvProfile>>;
 
 struct CrvPluginsManager::Private {
     struct LoadedPlugin {
-        CrvPlugin* plugin; // owned by the library's code, or by who had it adopted
+        CrvPlugin* plugin; // owned by the library's code, or by whoever had it adopted
         std::unique_ptr<CrvPluginLibrary> library; // null for an adopted one
     };
 

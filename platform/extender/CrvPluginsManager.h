@@ -13,8 +13,8 @@ class CrvExtension;
 class CrvProfile;
 class CrvProfileSetting;
 
-/// Loads plug-in files, holds the profiles and carries the active one out: the extensions that its
-/// tree names at the top are active, what stands below them is placed under them. There is one
+/// Loads plug-in files, holds the profiles and applies the active one: the extensions that its tree
+/// names at the top are active, what stands below them is placed under them. There is one
 /// object, made at first use and destroyed with the application object. An extension may change
 /// plug-ins and profiles while it is activated or deactivated, except that it can't unload.
 class CrvPluginsManager : public QObject {
@@ -23,24 +23,24 @@ public:
     static CrvPluginsManager* getInstance();
 
     /// Loads a plug-in file, calls `load` on the plug-in and then on each of its extensions, and
-    /// carries out the active profile. A file that is missing, is no library, lacks one of the two
-    /// functions, answers null or is loaded already is refused: the answer is null, and `error`
+    /// applies the active profile. A file that is missing, isn't a library, lacks one of the two
+    /// functions, makes no plug-in or is loaded already is refused: the result is null, and `error`
     /// says which it was.
     CrvPlugin* loadPlugin(const QString& fileName, QString* error = nullptr);
     /// The same for a plug-in that is part of the program; it has no file. It must stay alive until
     /// unloadAll.
     void adoptPlugin(CrvPlugin* plugin);
-    /// Deactivates and unloads all extensions and plug-ins, in the reverse order. Nothing is
-    /// selected then and the undo stack is empty. To be called while the shell exists; the instance
-    /// serves a further loadPlugin.
+    /// Deactivates and unloads all extensions and plug-ins, in the reverse order. Afterwards
+    /// nothing is selected and the undo stack is empty. To be called while the shell exists; the
+    /// instance serves a further loadPlugin.
     void unloadAll();
     /// All extensions of all plug-ins, in the order of their registration.
     std::vector<CrvExtension*> getExtensions() const;
 
     /// Replaces all profiles by those of a JSON file. A bad file is refused with a message and
-    /// leaves the profiles as they are. The profile of the active one's name is the active one
-    /// then, or else the first. All extensions are activated anew, since the profile selector reads
-    /// the list then.
+    /// leaves the profiles as they are. The new profile with the active one's name becomes active,
+    /// or else the first. All extensions are activated anew, which is when the profile selector
+    /// reads the list.
     bool loadProfiles(const QString& fileName, QString* error = nullptr);
     /// Replaces all profiles by the built-in ones: "Everything", "Fields", "Console".
     void useBuiltInProfiles();

@@ -18,13 +18,13 @@ public:
     CrvProfileActivation(const CrvProfileActivation&) = delete;
     CrvProfileActivation& operator=(const CrvProfileActivation&) = delete;
 
-    /// Deactivates what isn't wanted any more, activates what is wanted anew, and announces the
+    /// Deactivates what isn't wanted any more, activates what is wanted now, and announces the
     /// selection again. False if an update is under way already, which takes the change in.
     bool update();
     /// The next update deactivates all extensions first, also those that stay.
     void renewAll() { m_renewAll = true; }
     /// Deactivates everything, the last one first, and runs `unload` before anything can become
-    /// active again. Nothing is selected then.
+    /// active again. Afterwards nothing is selected.
     void shutDown(const std::function<void()>& unload);
 
     /// Whether extensions are being activated or deactivated.

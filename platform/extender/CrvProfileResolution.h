@@ -3,9 +3,9 @@
 
 #include "CrvProfile.h"
 
-/// What a profile means for the extensions at hand: its names turned into extensions. Names that
-/// no extension bears stand for nothing; a name that several bear stands for all of them. The name
-/// "*" stands, at the top, for every extension that isn't an editor, and below another extension
+/// What a profile means for the extensions at hand: its names turned into extensions. A name that
+/// no extension has stands for nothing, one that several have stands for all of them. The name "*"
+/// stands, at the top, for every extension that isn't an editor, and below another extension
 /// for every editor.
 class CrvProfileResolution {
 public:

@@ -25,7 +25,7 @@ CrvSensorPump::CrvSensorPump(QObject* parent)
 {
     KnSensorQueue& queue = KnSensorQueue::getInstance();
     queue.setWakeCallback(&CrvSensorPump::wake, this);
-    // The queue only wakes when it stops being empty, which may have happened unheard.
+    // The queue only wakes when it stops being empty, which may have happened before.
     if (!queue.isEmpty())
         post();
 }

@@ -23,7 +23,7 @@ class CrvServices : public QObject {
 public:
     static CrvServices* getInstance();
 
-    /// Selects a node, of which no field is selected then; null for none. The selection holds a
+    /// Selects a node and none of its fields; null for no node. The selection holds a
     /// reference on the node. The field is given up first, and then the node changes; what is
     /// selected already is not announced again.
     void selectNode(KnFieldContainer* node);
@@ -66,7 +66,7 @@ private:
     struct Selection {
         KnNodePtr node;
         KnField* field = nullptr; // lives in the node, or stands alone
-        bool again = false; // to be announced also where nothing changes
+        bool again = false; // to be announced even if nothing changes
     };
 
     /// What will be selected when all requests have been applied.

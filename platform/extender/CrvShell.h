@@ -5,9 +5,9 @@ class CrvExtension;
 class QDockWidget;
 class QToolBar;
 
-/// The main window, as far as extensions see it. Whoever constructs the one object of a subclass is
-/// the instance, until it is destroyed; a second one is complained of. The plug-ins are unloaded
-/// before it goes, since they take their docks and tool bars out of it. Areas are values of
+/// The main window, as far as extensions see it. The first object of a subclass is the instance
+/// until it is destroyed; a second one is reported as an error. The plug-ins are unloaded before it
+/// goes, since they take their docks and tool bars out of it. Areas are values of
 /// Qt::DockWidgetArea and Qt::ToolBarArea.
 class CrvShell {
 public:

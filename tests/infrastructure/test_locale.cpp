@@ -4,8 +4,8 @@
 
 #include <cstdlib>
 
-/// That the runs under a German locale are what they say, for the C library as well as for Qt;
-/// without it they could pass and prove nothing.
+/// Sees to it that the runs under a German locale really have that locale, in the C library as well
+/// as in Qt; otherwise they could pass and prove nothing.
 class TestLocale : public QObject {
     Q_OBJECT
 
