@@ -7,7 +7,7 @@ function leftOf(box) { return centerOf[box] - wide[box] / 2 }
 
 function rightOf(box) { return centerOf[box] + wide[box] / 2 }
 
-function atLeast(number, limit) { return number < limit ? limit : number }
+function atLeast(value, limit) { return value < limit ? limit : value }
 
 # Arrows meet a box side by side, in the order in which their other ends stand; of two between the
 # same boxes the one that goes down is the left one.
@@ -53,13 +53,12 @@ function describe(from, to, count) {
 }
 
 # On a piece of ground of its own, since it may stand on a line.
-function number(x, y, count, kind,    width) {
+function number(x, y, count, kind,    width, ground) {
     width = 7 * length(count) + 3
-    numbers = numbers sprintf("<rect class=\"%s\" x=\"%.1f\" y=\"%.1f\" width=\"%d\" height=\"12\"/>",
-        kind ~ /^target/ ? "page" : "ground", x - width / 2, y - 6, width)
+    ground = kind ~ /^target-/ ? "page" : "ground"
     sub(/^target-/, "", kind)
-    numbers = numbers sprintf("<text class=\"%s-number\" x=\"%.1f\" y=\"%.1f\">%d</text>\n",
-        kind, x, y + 4, count)
+    numbers = numbers rectangle(ground, x - width / 2, y - 6, width, 12, 0) \
+        label(kind "-number", x, y + 4, count)
 }
 
 function arrow(kind, path, from, to, count) {
@@ -123,7 +122,8 @@ function drawTargetArrow(from, to, count,    kind, x, y) {
     if (top[from] == top[to]) {
         y = top[from] + high[from] / 2
         x = left[to] + wide[to] + gap
-        arrow("near", sprintf("M%.1f %.1fH%.1f", left[from], y, x), titleOf[from], titleOf[to], count)
+        arrow("near", sprintf("M%.1f %.1fH%.1f", left[from], y, x), titleOf[from], titleOf[to],
+            count)
         number((left[from] + x) / 2 + 20, y, count, "target-near")
         return
     }

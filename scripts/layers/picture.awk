@@ -5,11 +5,21 @@ function folderOf(path) { sub(/\/[^\/]*$/, "", path); return path }
 
 function plural(count, word) { return count " " word (count == 1 ? "" : "s") }
 
+function rectangle(class, x, y, width, height, radius) {
+    return sprintf("<rect class=\"%s\" x=\"%.1f\" y=\"%.1f\" width=\"%.1f\" height=\"%.1f\"",
+        class, x, y, width, height) (radius ? " rx=\"" radius "\"/>\n" : "/>\n")
+}
+
+function label(class, x, y, text) {
+    return sprintf("<text class=\"%s\" x=\"%.1f\" y=\"%.1f\">%s</text>\n", class, x, y, text)
+}
+
+# A line of the legend, with an arrow of that kind if there is one.
 function explain(kind, y, text) {
-    legend = legend sprintf("<path class=\"%s\" marker-end=\"url(#%s-head)\" d=\"M%d %dh38\"/>\n",
-        kind, kind, legendX, y)
-    legend = legend sprintf("<text class=\"legend\" x=\"%d\" y=\"%d\">%s</text>\n",
-        legendX + 50, y + 4, text)
+    if (kind != "")
+        legend = legend sprintf("<path class=\"%s\" marker-end=\"url(#%s-head)\"", kind, kind) \
+            sprintf(" d=\"M%d %dh38\"/>\n", legendX, y)
+    legend = legend label("legend", legendX + (kind == "" ? 0 : 50), y + 4, text)
 }
 
 $1 == "file" {
@@ -68,34 +78,28 @@ END {
     split("near far up", kinds, " ")
     for (i = 1; i <= 3; i++) {
         printf "<marker id=\"%s-head\" viewBox=\"0 0 8 8\" refX=\"7\" refY=\"4\"", kinds[i]
-        printf " markerWidth=\"8\" markerHeight=\"8\" markerUnits=\"userSpaceOnUse\" orient=\"auto\">"
-        printf "<path class=\"%s-head\" d=\"M0 0L8 4L0 8z\"/></marker>\n", kinds[i]
+        printf " markerWidth=\"8\" markerHeight=\"8\" markerUnits=\"userSpaceOnUse\""
+        printf " orient=\"auto\"><path class=\"%s-head\" d=\"M0 0L8 4L0 8z\"/></marker>\n", kinds[i]
     }
     print "</defs>"
-    printf "<rect class=\"page\" width=\"%d\" height=\"%d\"/>\n", width, height
-    for (pass = 1; pass <= 2; pass++) {
-        for (i = 1; i <= targetCount; i++) {
-            id = targets[i]
-            if (pass == 1)
-                printf "<rect class=\"target\" x=\"%d\" y=\"%d\" width=\"%d\" height=\"%d\" rx=\"8\"/>\n",
-                    left[id], top[id], wide[id], high[id]
-            else
-                printf "<text class=\"title\" x=\"%d\" y=\"%d\">%s</text>\n", left[id] + 14,
-                    top[id] + 25, titleOf[id]
-        }
-        if (pass == 1)
-            printf "%s%s", farLines, nearLines
+    printf "%s", rectangle("page", 0, 0, width, height, 0)
+    # The lines pass behind the boxes and behind what is written.
+    for (i = 1; i <= targetCount; i++) {
+        id = targets[i]
+        printf "%s", rectangle("target", left[id], top[id], wide[id], high[id], 8)
+    }
+    printf "%s%s", farLines, nearLines
+    for (i = 1; i <= targetCount; i++) {
+        id = targets[i]
+        printf "%s", label("title", left[id] + 14, top[id] + 25, titleOf[id])
     }
     for (i = 1; i <= roomCount; i++) {
         folder = rooms[i]
-        printf "<rect class=\"room\" x=\"%.1f\" y=\"%d\" width=\"%.1f\" height=\"%d\" rx=\"5\"/>\n",
-            leftOf(folder), top[folder], wide[folder], high[folder]
-        printf "<text class=\"name\" x=\"%.1f\" y=\"%d\">%s</text>\n", centerOf[folder],
-            top[folder] + 18, labelOf[folder]
-        printf "<text class=\"count\" x=\"%.1f\" y=\"%d\">%s</text>\n", centerOf[folder],
-            top[folder] + 34, plural(unitCount[folder], "unit")
+        printf "%s", rectangle("room", leftOf(folder), top[folder], wide[folder], high[folder], 5)
+        printf "%s", label("name", centerOf[folder], top[folder] + 18, labelOf[folder])
+        printf "%s", label("count", centerOf[folder], top[folder] + 34,
+            plural(unitCount[folder], "unit"))
     }
-    printf "%s", numbers
-    printf "%s", legend
+    printf "%s%s", numbers, legend
     print "</svg>"
 }

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: BSD-3-Clause
-# Where things stand in the picture. That is chosen by hand: a target is a frame, and a room, which is
-# a folder, a box inside it. draw_layers.sh refuses a folder that has no place.
+# Where things stand in the picture. That is chosen by hand: a target is a frame, and a room, which
+# is a folder, a box inside it. draw_layers.sh refuses a folder that has no place.
 
 function target(id, x, y, width, height, title) {
     targets[++targetCount] = id
@@ -12,13 +12,13 @@ function target(id, x, y, width, height, title) {
 }
 
 # room FOLDER TARGET CENTER ROW LABEL: the centre counts from the target, rows count from 0.
-function room(folder, id, center, row, label) {
+function room(folder, id, center, row, text) {
     rooms[++roomCount] = folder
     targetOf[folder] = id
     rowOf[folder] = row
-    labelOf[folder] = label
+    labelOf[folder] = text
     centerOf[folder] = left[id] + center
-    wide[folder] = atLeast(length(label) * 7.6 + 26, 92)
+    wide[folder] = atLeast(length(text) * 7.6 + 26, 92)
     high[folder] = boxHeight
     top[folder] = top[id] + titleHeight + row * pitch
 }
@@ -93,12 +93,12 @@ BEGIN {
     lane("kernel", "base", 420)
 
     legendX = 930
-    y2 = bottomOf("gl") + 70
-    legend = sprintf("<text class=\"legend\" x=\"%d\" y=\"%d\">%s</text>\n", legendX, y2 - 28,
-        "Includes, and how many there are:")
-    explain("near", y2, "to the row below")
-    explain("far", y2 + 24, "sideways or further down")
-    explain("up", y2 + 48, "up again, within the plug-in")
+    y2 = bottomOf("gl") + 42
+    explain("", y2, "Includes, and how many there are;")
+    explain("", y2 + 18, "those between targets together:")
+    explain("near", y2 + 46, "to the row below")
+    explain("far", y2 + 70, "sideways or further down")
+    explain("up", y2 + 94, "up again, within the plug-in")
     width = 1180
     height = y + single + 20
 }
