@@ -60,6 +60,9 @@ private Q_SLOTS:
         QCOMPARE(m_a.getReferenceCount(), 1); // which the services have let go
     }
 
+    // A class of which nothing here makes an object is found by its name alone.
+    void servicesRegisterTheKernelsTypes() { QVERIFY(!KnType::fromName("MFVec4f").isBad()); }
+
     void selectionSignals()
     {
         m_services->selectNode(&m_a);

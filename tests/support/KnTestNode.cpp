@@ -3,10 +3,13 @@
 
 KnTestNode::KnTestNode()
 {
-#define KN_TEST_ADD(type) addField(classData(), #type, type);
-    KN_TEST_SFIELDS(KN_TEST_ADD)
-    KN_TEST_MFIELDS(KN_TEST_ADD)
-#undef KN_TEST_ADD
+#define KN_TEST_SFIELD(Name, ValueType) addField(classData(), "SF" #Name, SF##Name);
+#define KN_TEST_MFIELD(Name, ValueType) addField(classData(), "MF" #Name, MF##Name);
+    KN_SFIELD_TYPES(KN_TEST_SFIELD)
+    KN_SPECIAL_SFIELD_TYPES(KN_TEST_SFIELD)
+    KN_MFIELD_TYPES(KN_TEST_MFIELD)
+#undef KN_TEST_SFIELD
+#undef KN_TEST_MFIELD
 
     const int enumValues[] = { 1, 2, 3 };
     const KbName enumNames[] = { "FIRST", "SECOND",
