@@ -20,7 +20,9 @@ void pokeEverything(CrvFieldEditors& editor)
     editor.setFieldValue(0, 0, QStringLiteral("7"));
     editor.swapFieldValues(0, 1);
     editor.setFieldColor(0, &color);
-    for (const char* name : { "m_defaultButton", "m_ignoreButton", "m_checkBoxes" }) {
+    editor.updateFromField();
+    for (const char* name : { "m_defaultButton", "m_ignoreButton", "m_checkBoxes", "m_addButton",
+             "m_deleteButton", "m_downButton" }) {
         if (auto* button = editor.getFrame()->findChild<QAbstractButton*>(QLatin1String(name)))
             button->click();
     }

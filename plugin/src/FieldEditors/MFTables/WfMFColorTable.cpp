@@ -26,12 +26,12 @@ WfMFColorTable::WfMFColorTable(WfMFieldWidget* widget, QWidget* parent, const ch
 
 void WfMFColorTable::getColorFromEditor(int row, int col)
 {
-    if (col != 0 || !field())
+    const KnMField* const shown = field();
+    if (col != 0 || !shown)
         return;
     const RowColor before = rowColor(*m_widget, row);
-    const KnTypedObject* const object = m_widget->getEditedObject();
     SeenRows rows;
-    rows.look(*field());
+    rows.look(*shown);
     QColorDialog::ColorDialogOptions options;
     options.setFlag(QColorDialog::ShowAlphaChannel, before.hasAlpha);
     const QColor chosen
@@ -40,10 +40,10 @@ void WfMFColorTable::getColorFromEditor(int row, int col)
         return;
     // The program runs on behind the dialog. A colour that was chosen for one row must reach
     // neither another field nor another row that has moved to its place.
-    if (m_widget->getEditedObject() != object)
+    if (field() != shown)
         return;
-    const bool isSameRow = field()->getNum() == rows.count() && rowColor(*m_widget, row) == before;
-    if (!isSameRow && !rows.isSamePlace(*field(), row))
+    const bool isSameRow = shown->getNum() == rows.count() && rowColor(*m_widget, row) == before;
+    if (!isSameRow && !rows.isSamePlace(*shown, row))
         return;
     KbVec4f color;
     colorChannels(chosen, &color[0], KbVec4f::dimension);

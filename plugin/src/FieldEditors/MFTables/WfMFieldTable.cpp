@@ -45,7 +45,7 @@ void WfMFieldTable::setRealRange(double min, double max) { m_delegate->setRealRa
 
 void WfMFieldTable::setBounded(bool bounded) { m_delegate->setBounded(bounded); }
 
-KnMField* WfMFieldTable::field() const { return m_widget->m_field; }
+KnMField* WfMFieldTable::field() const { return m_widget->shownField(); }
 
 void WfMFieldTable::setAccessLimits(int minimum, int maximum)
 {
@@ -80,7 +80,7 @@ void WfMFieldTable::showTableRow(int value)
 
 /// Brings table and field in line before rows are changed: what is being typed goes to the row that
 /// it was typed for, and a count that the field has changed since the last refresh is taken over.
-/// False without a field.
+/// False without a field that is shown.
 bool WfMFieldTable::prepareRowOperation()
 {
     if (!field())

@@ -28,7 +28,7 @@ public:
 
     /// What looks after the cell editor that is open.
     CellEditorKeeper& editorKeeper() const { return *m_editorKeeper; }
-    /// The edited field; null before the first.
+    /// The field that is shown, as WfMFieldWidget::shownField.
     KnMField* field() const;
 
 public Q_SLOTS:

@@ -48,12 +48,15 @@ void WfMFieldWidget::setLabel(const QString& text)
         m_label->setText(centredText(text));
 }
 
+KnMField* WfMFieldWidget::shownField() const { return shows(m_field) ? m_field : nullptr; }
+
 void WfMFieldWidget::updateElementCount()
 {
-    if (!m_field)
+    const KnMField* const field = shownField();
+    if (!field)
         return;
     const QString text
-        = centredText(QString::number(m_field->getNum()) + QStringLiteral(" elements"));
+        = centredText(QString::number(field->getNum()) + QStringLiteral(" elements"));
     // A label lays out its text again even if it hasn't changed.
     if (m_labelNumElement->text() != text)
         m_labelNumElement->setText(text);
@@ -180,13 +183,14 @@ void WfMFieldWidget::attachField(KnField* field)
 
 void WfMFieldWidget::updateFromField()
 {
-    if (!m_table || !m_updateEnabled || !m_field)
+    const KnMField* const field = shownField();
+    if (!m_table || !m_updateEnabled || !field)
         return;
-    m_table->setNumRows(m_field->getNum());
+    m_table->setNumRows(field->getNum());
     // The cells are drawn on the viewport, which updating the table alone doesn't repaint.
     m_table->update();
     m_table->viewport()->update();
-    m_ignoreButton->setChecked(m_field->isIgnored() != 0);
+    m_ignoreButton->setChecked(field->isIgnored() != 0);
     updateElementCount();
 }
 

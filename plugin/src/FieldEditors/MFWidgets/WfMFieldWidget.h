@@ -49,6 +49,9 @@ public:
     /// the field.
     virtual bool acceptsField(KnField* field);
 
+    /// The edited field; null while none is shown, and once it has gone away.
+    KnMField* shownField() const;
+
     /// Sets the title, once: a label that has text keeps it. A subclass calls it before `load` of
     /// this class.
     void setLabel(const QString& text);
