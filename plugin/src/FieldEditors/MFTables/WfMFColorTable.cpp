@@ -17,7 +17,7 @@ WfMFColorTable::WfMFColorTable(WfMFieldWidget* widget, QWidget* parent, const ch
 {
     // The plain one would live, unused, as long as the table.
     delete m_delegate;
-    m_delegate = new WfMFColorTableItemDelegate(widget, this);
+    m_delegate = new WfMFColorTableItemDelegate(widget, cellEditing(), this);
     setItemDelegate(m_delegate);
     setEditorKind(FloatKind);
     setRealRange(0.0, 1.0);

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfMFColorTableItemDelegate.h"
 
-#include "CellEditorKeeper.h"
 #include "RowColor.h"
-#include "WfMFieldTable.h"
 #include "WfMFieldWidget.h"
 
 #include <QLineEdit>
@@ -42,14 +40,5 @@ void WfMFColorTableItemDelegate::setEditorData(QWidget* editor, const QModelInde
 void WfMFColorTableItemDelegate::setModelData(
     QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
 {
-    const auto* const line = qobject_cast<QLineEdit*>(editor);
-    if (!line) {
-        WfMFieldTableItemDelegate::setModelData(editor, model, index);
-        return;
-    }
-    table()->editorKeeper().takeOut(editor, index);
-    const QString text = line->text();
-    if (isAcceptable(line))
-        m_widget->setFieldValue(index.row(), index.column() - 1, text);
-    model->setData(index, text, Qt::EditRole);
+    commit(editor, model, index, { index.column() - 1, Qt::EditRole, true });
 }

@@ -3,9 +3,9 @@
 
 #include "WfMFieldTableItemDelegate.h"
 
-/// Paints the first column of a table of colours with the colour of each row. It is no cell to type
-/// in. In the other columns, which stand one ahead of the components, it is the plain delegate,
-/// except that it also writes what is committed without a change.
+/// Paints the first column of a table of colours with the colour of each row; nobody can type
+/// there. The other columns, which are numbered one ahead of the components, work as in the plain
+/// delegate, except that a cell which is committed unchanged is written as well.
 class WfMFColorTableItemDelegate : public WfMFieldTableItemDelegate {
 public:
     using WfMFieldTableItemDelegate::WfMFieldTableItemDelegate;

@@ -2,7 +2,7 @@
 #include "WfMFieldTable.h"
 
 #include "AccessButtonPrivate.h"
-#include "CellEditorKeeper.h"
+#include "CellEditing.h"
 #include "ColumnFit.h"
 #include "CrvMFAddRowsCommand.h"
 #include "CrvMFDeleteRowsCommand.h"
@@ -19,20 +19,31 @@
 #include <QSignalBlocker>
 
 #include <cstdio>
+#include <memory>
+
+namespace {
+
+/// Hands a command over to the host, which runs it.
+void execute(std::unique_ptr<CrvCommand> command)
+{
+    CrvServices::getInstance()->executeCommand(command.release());
+}
+
+} // namespace
 
 WfMFieldTable::WfMFieldTable(WfMFieldWidget* widget, QWidget* parent, const char* name)
     : QTableWidget(parent)
     , m_widget(widget)
-    , m_delegate(new WfMFieldTableItemDelegate(widget, this))
-    , m_editorKeeper(new CellEditorKeeper(widget, this))
+    , m_cellEditing(new CellEditing(widget, this))
 {
     const QLatin1String objectName(name);
     setObjectName(objectName.isEmpty() ? QStringLiteral("WfMFieldTable") : QString(objectName));
+    m_delegate = new WfMFieldTableItemDelegate(widget, *m_cellEditing, this);
     setItemDelegate(m_delegate);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setCurrentCell(0, 0);
-    new ColumnFit(this);
+    new ColumnFit(this); // child
 }
 
 WfMFieldTable::~WfMFieldTable() = default;
@@ -52,7 +63,7 @@ void WfMFieldTable::setAccessLimits(int minimum, int maximum)
     AccessButtonPrivate* const box = m_widget->m_accessBox;
     if (!box || (box->minimum() == minimum && box->maximum() == maximum))
         return;
-    // A number that is cut to the new limits is no jump of the person's.
+    // If the new limits cut the number, nobody has asked to jump to the new one.
     const QSignalBlocker blocker(box);
     box->setRange(minimum, maximum);
 }
@@ -62,9 +73,9 @@ void WfMFieldTable::setNumRows(int row)
     if (row < 0)
         return;
     setAccessLimits(row != 0 ? 1 : 0, row);
-    m_editorKeeper->follow();
+    m_cellEditing->follow();
     if (row != rowCount()) {
-        m_editorKeeper->limitRows(row);
+        m_cellEditing->limitRows(row);
         setRowCount(row);
     }
 }
@@ -78,14 +89,14 @@ void WfMFieldTable::showTableRow(int value)
     setCurrentCell(row, 0);
 }
 
-/// Brings table and field in line before rows are changed: what is being typed goes to the row that
-/// it was typed for, and a count that the field has changed since the last refresh is taken over.
+/// Brings table and field in line before rows are changed: what is being typed is written to the
+/// row that it was typed for, and the field's count may have changed since the last refresh.
 /// False without a field that is shown.
 bool WfMFieldTable::prepareRowOperation()
 {
     if (!field())
         return false;
-    m_editorKeeper->close();
+    m_cellEditing->close();
     if (field()->getNum() != rowCount())
         setNumRows(field()->getNum());
     return true;
@@ -117,7 +128,8 @@ void WfMFieldTable::swapDownRow()
 
 void WfMFieldTable::swapRows(int row1, int row2)
 {
-    CrvServices::getInstance()->executeCommand(new CrvMFSwapRowsCommand(field(), row1, row2));
+    if (KnMField* const shown = field())
+        execute(std::make_unique<CrvMFSwapRowsCommand>(shown, row1, row2));
 }
 
 void WfMFieldTable::addRow()
@@ -131,7 +143,7 @@ void WfMFieldTable::addRow()
     for (int column = 0; column < columnCount(); ++column)
         setItem(newRow, column, new QTableWidgetItem);
     setAccessLimits(1, m_widget->m_accessBox->maximum() + 1);
-    CrvServices::getInstance()->executeCommand(new CrvMFAddRowsCommand(field(), newRow, 1));
+    execute(std::make_unique<CrvMFAddRowsCommand>(field(), newRow, 1));
     if (newRow < 1) {
         setCurrentCell(newRow, 0);
         Q_EMIT currentCellChanged(newRow, 0, 0, 0);
@@ -158,17 +170,16 @@ void WfMFieldTable::deleteRow()
 
 void WfMFieldTable::deleteRows(int firstRow, int count)
 {
-    // With the last row the box has nothing left to point at.
+    // When the last row goes, the box has nothing left to point at.
     AccessButtonPrivate* const box = m_widget->m_accessBox;
     const int maximum = box->maximum() - count;
     setAccessLimits(qMin(box->minimum(), maximum), maximum);
-    CrvServices::getInstance()->executeCommand(
-        new CrvMFDeleteRowsCommand(field(), firstRow, count));
+    execute(std::make_unique<CrvMFDeleteRowsCommand>(field(), firstRow, count));
     model()->removeRows(firstRow, count, QModelIndex());
 }
 
-/// The parts of an open cell editor pass on the keys that they have no use for; those are not meant
-/// for the rows.
+/// False while a cell is being edited: the parts of its editor pass on the keys that they have no
+/// use for, and those are not meant for the rows.
 bool WfMFieldTable::isKeyForRows() const
 {
     const QWidget* const focus = QApplication::focusWidget();
@@ -211,7 +222,7 @@ void WfMFieldTable::keyReleaseEvent(QKeyEvent* event)
 
 void WfMFieldTable::focusOutEvent(QFocusEvent* event)
 {
-    // Whoever has the focus next is told when Shift is released.
+    // The release of Shift will go to whatever has the focus next.
     if (m_multiSelect)
         endMultiSelect();
     QTableWidget::focusOutEvent(event);
@@ -223,23 +234,34 @@ void WfMFieldTable::endMultiSelect()
     m_multiSelect = false;
 }
 
+void WfMFieldTable::dropCellEdit() { m_cellEditing->drop(); }
+
+void WfMFieldTable::cellWritten() { m_cellEditing->cellWritten(); }
+
+bool WfMFieldTable::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool isEdited = QTableWidget::edit(index, trigger, event);
+    QWidget* const editor = isEdited ? indexWidget(index) : nullptr;
+    if (editor && editor != m_cellEditing->openEditor())
+        m_cellEditing->begin(editor, index);
+    return isEdited;
+}
+
 void WfMFieldTable::commitData(QWidget* editor)
 {
-    if (!editor || editor->isHidden())
-        return;
-    // What the keeper itself ends it has looked at.
-    if (editor == m_editorKeeper->openEditor() && !m_editorKeeper->follow())
-        return;
-    QAbstractItemView::commitData(editor);
+    if (m_cellEditing->mayCommit(editor))
+        QTableWidget::commitData(editor);
 }
 
 void WfMFieldTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    m_editorKeeper->letGo(editor);
+    m_cellEditing->letGo(editor);
     const bool isTakenOut = editor && editor->isHidden();
-    if (isTakenOut && !m_editorKeeper->openEditor())
+    if (isTakenOut && !m_cellEditing->openEditor())
         setState(NoState);
-    QAbstractItemView::closeEditor(isTakenOut ? nullptr : editor, hint);
+    // The view doesn't know an editor any more that was taken out, but the hint is still to be
+    // followed: a move to the next cell, for example.
+    QTableWidget::closeEditor(isTakenOut ? nullptr : editor, hint);
 }
 
 void WfMFieldTable::editorDestroyed(QObject* editor)

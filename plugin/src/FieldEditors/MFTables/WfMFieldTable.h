@@ -3,7 +3,7 @@
 
 #include <QTableWidget>
 
-class CellEditorKeeper;
+class CellEditing;
 class KnMField;
 class WfMFieldTableItemDelegate;
 class WfMFieldWidget;
@@ -26,14 +26,17 @@ public:
     void setRealRange(double min, double max);
     void setBounded(bool bounded);
 
-    /// What looks after the cell editor that is open.
-    CellEditorKeeper& editorKeeper() const { return *m_editorKeeper; }
+    using QTableWidget::edit; // the slot, which the override below hides
+    /// Ends the edit of a cell, if any, without a write.
+    void dropCellEdit();
+    /// The editor in a cell has written it by itself.
+    void cellWritten();
     /// The field that is shown, as WfMFieldWidget::shownField.
     KnMField* field() const;
 
 public Q_SLOTS:
-    /// Takes the field's value count; a negative one is ignored. This is all of a refresh but the
-    /// repaint.
+    /// Takes the field's value count; a negative one is ignored. This and a repaint are a whole
+    /// refresh.
     void setNumRows(int row);
     void swapUpRow();
     void swapDownRow();
@@ -50,11 +53,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    /// An editor that a commit has taken out of the table already has nothing left to commit, and
-    /// one whose row may have moved must not.
+
+    // The table's part of the edit of a cell; CellEditing says how it goes.
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void commitData(QWidget* editor) override;
-    /// The same editor is closed by what follows its commit: a move to the next cell, for example.
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+    CellEditing& cellEditing() const { return *m_cellEditing; }
 
     WfMFieldWidget* m_widget; // the owner, not owned
     WfMFieldTableItemDelegate* m_delegate; // child
@@ -68,5 +73,5 @@ private:
     void setAccessLimits(int minimum, int maximum);
     void deleteRows(int firstRow, int count);
 
-    CellEditorKeeper* m_editorKeeper; // child
+    CellEditing* m_cellEditing; // child
 };

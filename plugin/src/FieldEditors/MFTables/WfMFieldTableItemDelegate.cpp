@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfMFieldTableItemDelegate.h"
 
-#include "CellEditorKeeper.h"
+#include "CellEditing.h"
 #include "CellText.h"
 #include "NumberLocale.h"
 #include "QUIntValidator.h"
 #include "QULongValidator.h"
 #include "WfIntSlider.h"
-#include "WfMFieldTable.h"
 #include "WfMFieldWidget.h"
 #include "WfRealSlider.h"
 #include "WfUIntSlider.h"
@@ -22,11 +21,11 @@
 
 namespace {
 
-// A cell's text keeps this distance from both of its ends together, in pixels.
-constexpr int CellPadding = 4;
-constexpr unsigned int UnsignedTop = std::numeric_limits<unsigned int>::max();
-constexpr double FloatTop = 3.4028234663852886e38;
-constexpr int FloatDecimals = 6;
+// How much narrower than its cell a text stays, in pixels, both sides together.
+constexpr int cellPadding = 4;
+constexpr unsigned int unsignedTop = std::numeric_limits<unsigned int>::max();
+constexpr double floatTop = 3.4028234663852886e38;
+constexpr int floatDecimals = 6;
 
 /// Null for a kind whose lines take any text.
 QValidator* makeValidator(int kind, QObject* parent)
@@ -39,18 +38,27 @@ QValidator* makeValidator(int kind, QObject* parent)
     case WholeNumberKind:
         return new QIntValidator(parent);
     case UnsignedNumberKind:
-        return new QUIntValidator(0, UnsignedTop, parent);
+        return new QUIntValidator(0, unsignedTop, parent);
     case Int32Kind:
         return new QIntValidator(-2147483647, 2147483647, parent);
     case UInt32Kind:
-        return new QULongValidator(0, UnsignedTop, parent);
+        return new QULongValidator(0, unsignedTop, parent);
     case FloatKind:
-        return new QDoubleValidator(-FloatTop, FloatTop, FloatDecimals, parent);
+        return new QDoubleValidator(-floatTop, floatTop, floatDecimals, parent);
     case DoubleKind:
         return new QDoubleValidator(parent);
     default:
         return nullptr;
     }
+}
+
+/// Whether a line's text may be written: it has no validator, or one that accepts it.
+bool isAcceptable(const QLineEdit& line)
+{
+    const QValidator* const validator = line.validator();
+    QString text = line.text();
+    int position = 0;
+    return !validator || validator->validate(text, position) == QValidator::Acceptable;
 }
 
 void showText(QWidget* editor, const QString& text)
@@ -65,10 +73,11 @@ void showText(QWidget* editor, const QString& text)
 
 } // namespace
 
-WfMFieldTableItemDelegate::WfMFieldTableItemDelegate(WfMFieldWidget* widget, WfMFieldTable* table)
+WfMFieldTableItemDelegate::WfMFieldTableItemDelegate(
+    WfMFieldWidget* widget, CellEditing& editing, QObject* table)
     : QItemDelegate(table)
     , m_widget(widget)
-    , m_table(table)
+    , m_editing(editing)
 {
 }
 
@@ -95,12 +104,12 @@ void WfMFieldTableItemDelegate::paint(
 
     const QString text = m_widget->getCellText(index.row(), index.column());
     painter->drawText(option.rect, Qt::AlignCenter,
-        shownText(text, option.rect.width() - CellPadding, painter->fontMetrics()));
+        shownText(text, option.rect.width() - cellPadding, painter->fontMetrics()));
     painter->restore();
 }
 
-/// What a cell of `available` pixels shows of a text. Cells that follow each other often show the
-/// same, those of a long text above all, which costs the most to cut.
+/// What a cell of `available` pixels shows of a text. The last result is kept, since neighbouring
+/// cells often show the same text, and a long one is slow to cut.
 QString WfMFieldTableItemDelegate::shownText(
     const QString& text, int available, const QFontMetrics& metrics) const
 {
@@ -124,7 +133,6 @@ QWidget* WfMFieldTableItemDelegate::createEditor(
         editor = makeLineEdit(parent);
     showText(editor, m_widget->getCellText(row, column));
     editor->setFocusPolicy(Qt::StrongFocus);
-    m_table->editorKeeper().editorOpened(editor, index);
     return editor;
 }
 
@@ -132,7 +140,7 @@ QWidget* WfMFieldTableItemDelegate::makeSlider(QWidget* parent, int row, int col
 {
     const auto inRange = [](auto* slider, auto min, auto max, bool bounded) {
         slider->setRange(min, max, bounded);
-        // What is behind it in the cell stays hidden, and typing reaches the line at once.
+        // It hides the cell behind it, and typing goes straight to its line.
         slider->setAutoFillBackground(true);
         slider->setAttribute(Qt::WA_NoMousePropagation);
         slider->setFocusProxy(slider->m_lineEdit);
@@ -148,13 +156,13 @@ QWidget* WfMFieldTableItemDelegate::makeSlider(QWidget* parent, int row, int col
     };
     switch (m_kind) {
     case Int16Kind:
-        return makeInt(3);
+        return makeInt(WfIntSlider::Int16);
     case UInt16Kind:
-        return makeUInt(4);
+        return makeUInt(WfUIntSlider::UInt16);
     case Int32Kind:
-        return makeInt(1);
+        return makeInt(WfIntSlider::Int32);
     case UInt32Kind:
-        return makeUInt(2);
+        return makeUInt(WfUIntSlider::UInt32);
     case FloatKind:
         return inRange(new WfRealSlider(1, m_widget, parent, true, row, column), m_realMin,
             m_realMax, m_bounded);
@@ -168,7 +176,7 @@ QWidget* WfMFieldTableItemDelegate::makeLineEdit(QWidget* parent) const
     auto* const line = new QLineEdit(parent);
     line->setObjectName(QStringLiteral("qt_lineeditor"));
     line->setFrame(false);
-    // A text of any length fits, so that a commit never cuts one.
+    // Qt's own limit would cut a longer text, and a commit would write what is left.
     line->setMaxLength(std::numeric_limits<int>::max());
     setEditorValidator(line);
     return line;
@@ -188,31 +196,29 @@ void WfMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
     showText(editor, m_widget->getCellText(index.row(), index.column()));
 }
 
-bool WfMFieldTableItemDelegate::isAcceptable(const QLineEdit* editor)
-{
-    const QValidator* const validator = editor->validator();
-    QString text = editor->text();
-    int position = 0;
-    return !validator || validator->validate(text, position) == QValidator::Acceptable;
-}
-
 void WfMFieldTableItemDelegate::setModelData(
     QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
 {
+    commit(editor, model, index, { index.column(), Qt::DisplayRole, false });
+}
+
+void WfMFieldTableItemDelegate::commit(QWidget* editor, QAbstractItemModel* model,
+    const QModelIndex& index, const LineWrite& write) const
+{
     if (!editor)
         return;
-    m_table->editorKeeper().takeOut(editor, index);
+    m_editing.takeOut(editor, index);
     const auto* const line = qobject_cast<QLineEdit*>(editor);
     if (!line) {
         QItemDelegate::setModelData(editor, model, index);
         return;
     }
-    if (!line->isModified())
+    if (!line->isModified() && !write.alsoUnchanged)
         return;
     const QString text = line->text();
-    if (isAcceptable(line))
-        m_widget->setFieldValue(index.row(), index.column(), text);
-    model->setData(index, text, Qt::DisplayRole);
+    if (isAcceptable(*line))
+        m_widget->setFieldValue(index.row(), write.component, text);
+    model->setData(index, text, write.role);
 }
 
 bool WfMFieldTableItemDelegate::eventFilter(QObject* editor, QEvent* event)

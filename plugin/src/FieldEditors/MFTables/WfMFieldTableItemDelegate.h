@@ -6,16 +6,18 @@
 #include <QFontMetrics>
 #include <QItemDelegate>
 
+class CellEditing;
 class QLineEdit;
-class WfMFieldTable;
 class WfMFieldWidget;
 
-/// Paints and edits the cells of a table that holds no values: each visible cell is asked of the
-/// owning editor when it is painted or opened, and what is committed goes to the editor.
+/// Paints and edits the cells of a table that holds no values: it asks the owning editor for the
+/// text of a cell that is painted or opened, and hands it the text that is committed. It makes cell
+/// editors and fills them; CellEditing decides when they open and close.
 class WfMFieldTableItemDelegate : public QItemDelegate {
 public:
-    /// `widget` answers for the cells; it isn't owned. The table is the parent.
-    WfMFieldTableItemDelegate(WfMFieldWidget* widget, WfMFieldTable* table);
+    /// `widget` gives the cells' texts and takes the committed ones; it isn't owned. The table is
+    /// the parent, and `editing` its own.
+    WfMFieldTableItemDelegate(WfMFieldWidget* widget, CellEditing& editing, QObject* table);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override;
@@ -23,8 +25,8 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    /// Takes the editor out of the table, and hands the text of a line edit that a person has
-    /// changed and that its validator accepts to the owner.
+    /// Takes the editor out of the table. The text of a line edit goes to the owner if a person has
+    /// changed it and its validator accepts it.
     void setModelData(
         QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
@@ -40,16 +42,23 @@ public:
     void setBounded(bool bounded) { m_bounded = bounded; }
 
 protected:
-    /// The keeper of the editors judges when the focus has left one.
+    /// How the text of a committed line is written.
+    struct LineWrite {
+        int component; // of the value in the row
+        int role; // under which the model stores the text
+        bool alsoUnchanged; // also where the person left it as it was
+    };
+
+    /// Ignores that the focus leaves the editor: CellEditing judges what that means.
     bool eventFilter(QObject* editor, QEvent* event) override;
-    WfMFieldTable* table() const { return m_table; }
-    /// Whether a line edit's text may be written: it has no validator, or one that accepts it.
-    static bool isAcceptable(const QLineEdit* editor);
+    /// The whole of setModelData.
+    void commit(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index,
+        const LineWrite& write) const;
 
     WfMFieldWidget* m_widget; // not owned
 
 private:
-    /// A text and what was shown of it last.
+    /// The text that was cut last, and the result.
     struct CutText {
         QString text;
         int available = 0; // pixels
@@ -61,8 +70,8 @@ private:
     QWidget* makeSlider(QWidget* parent, int row, int column) const;
     QWidget* makeLineEdit(QWidget* parent) const;
 
-    WfMFieldTable* m_table; // the parent
-    int m_kind = PlainTextKind;
+    CellEditing& m_editing; // the table's
+    int m_kind = PlainTextKind; // of EditorKind
     int m_intMax = 10;
     int m_intMin = 0;
     double m_realMax = 10.0;

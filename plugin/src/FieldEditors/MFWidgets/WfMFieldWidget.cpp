@@ -2,7 +2,6 @@
 #include "WfMFieldWidget.h"
 
 #include "AccessButtonPrivate.h"
-#include "CellEditorKeeper.h"
 #include "FieldActions.h"
 #include "FieldButtons.h"
 #include "KnMField.h"
@@ -36,8 +35,8 @@ WfMFieldWidget::WfMFieldWidget(int tableKind, const char* name)
 
 WfMFieldWidget::~WfMFieldWidget()
 {
-    // The frame is deleted later; by then an open cell editor would have nobody left to write to.
-    m_table->editorKeeper().drop();
+    // The frame is deleted after this object, to which an open cell editor would still write.
+    m_table->dropCellEdit();
 }
 
 void WfMFieldWidget::setLabel(const QString& text)
@@ -175,7 +174,7 @@ void WfMFieldWidget::languageChange()
 void WfMFieldWidget::attachField(KnField* field)
 {
     // A cell editor that is still open belongs to the previous field.
-    m_table->editorKeeper().drop();
+    m_table->dropCellEdit();
     if (acceptsField(field))
         m_field = static_cast<KnMField*>(field);
     CrvFieldEditors::attachField(field);
@@ -197,9 +196,9 @@ void WfMFieldWidget::updateFromField()
 void WfMFieldWidget::setFieldUpdateEnabled(bool enabled)
 {
     m_updateEnabled = enabled;
-    // A slider in a cell turns updates off before its own write and on again after it.
+    // Only a slider in a cell uses the gate: closed before its own write, open after it.
     if (enabled)
-        m_table->editorKeeper().cellWritten();
+        m_table->cellWritten();
 }
 
 void WfMFieldWidget::swapFieldValues(int, int) { }

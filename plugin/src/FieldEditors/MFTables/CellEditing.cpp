@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "CellEditorKeeper.h"
+#include "CellEditing.h"
 
+#include "CellInput.h"
 #include "KnMField.h"
-#include "WfMFieldTable.h"
 #include "WfMFieldWidget.h"
 #include "WfSlider.h"
 
@@ -11,7 +11,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QSignalBlocker>
-#include <QSlider>
+#include <QTableWidget>
 
 namespace {
 
@@ -20,54 +20,9 @@ bool isInside(const QWidget* editor, const QWidget* widget)
     return widget && (widget == editor || editor->isAncestorOf(widget));
 }
 
-/// Nothing that happens to the slider from now on reaches its owner.
-void silence(const WfSlider* slider)
-{
-    for (QWidget* part : slider->findChildren<QWidget*>())
-        part->blockSignals(true);
-}
-
-/// Has the slider tell its owner what was typed, if its line accepts it.
-void takeTyped(WfSlider* slider)
-{
-    if (!slider->m_lineEdit->hasAcceptableInput())
-        return;
-    slider->changeValueFromEdit();
-    slider->m_lineEdit->setModified(false);
-}
-
-bool isDragged(const WfSlider* slider)
-{
-    const auto* const scale = slider->findChild<QSlider*>();
-    return scale && scale->isSliderDown();
-}
-
-/// What a person sees in the slider is written, and nothing after it.
-void finish(WfSlider* slider)
-{
-    takeTyped(slider);
-    // A drag that is cut short counts as released here.
-    if (isDragged(slider))
-        slider->findChild<QSlider*>()->setSliderDown(false);
-    silence(slider);
-}
-
-QLineEdit* lineOf(QWidget* editor)
-{
-    const auto* const slider = qobject_cast<WfSlider*>(editor);
-    return slider ? slider->m_lineEdit : qobject_cast<QLineEdit*>(editor);
-}
-
-bool isBusy(QWidget* editor)
-{
-    const auto* const slider = qobject_cast<WfSlider*>(editor);
-    const QLineEdit* const line = lineOf(editor);
-    return (slider && isDragged(slider)) || (line && line->isModified());
-}
-
 } // namespace
 
-CellEditorKeeper::CellEditorKeeper(WfMFieldWidget* widget, WfMFieldTable* table)
+CellEditing::CellEditing(WfMFieldWidget* widget, QTableWidget* table)
     : QObject(table)
     , m_widget(widget)
     , m_table(table)
@@ -75,53 +30,58 @@ CellEditorKeeper::CellEditorKeeper(WfMFieldWidget* widget, WfMFieldTable* table)
     table->installEventFilter(this);
 }
 
-void CellEditorKeeper::editorOpened(QWidget* editor, const QModelIndex& index)
+void CellEditing::begin(QWidget* editor, const QModelIndex& index)
 {
     m_editor = editor;
     m_index = index;
     look();
     disconnect(m_focusChanges);
-    m_focusChanges = connect(qApp, &QApplication::focusChanged, this,
-        [this](QWidget*, QWidget* now) { focusMoved(now); });
+    m_focusChanges = connect(qApp, &QApplication::focusChanged, this, &CellEditing::focusMoved);
     if (qobject_cast<WfSlider*>(editor)) {
         for (QWidget* part : editor->findChildren<QWidget*>())
             part->installEventFilter(this);
     }
 }
 
-void CellEditorKeeper::takeOut(QWidget* editor, const QModelIndex& index)
+bool CellEditing::mayCommit(const QWidget* editor)
+{
+    // What this class ends is not the open editor any more; `end` has looked at its row.
+    return editor && !editor->isHidden() && (editor != openEditor() || follow());
+}
+
+void CellEditing::takeOut(QWidget* editor, const QModelIndex& index)
 {
     letGo(editor);
     takeFocusFrom(editor);
     m_table->removeCellWidget(index.row(), index.column());
     editor->hide();
-    // It is deleted later, when another editor may be open, whose state isn't to be touched.
+    // It is deleted later, when the view may have another editor open, whose state must stay.
     disconnect(editor, &QObject::destroyed, m_table, nullptr);
 }
 
-/// Else Qt would pass the focus on to whatever comes next, with a move to another cell maybe.
-void CellEditorKeeper::takeFocusFrom(const QWidget* editor)
+/// Otherwise Qt would pass the focus on to the next widget, and perhaps make another cell current.
+void CellEditing::takeFocusFrom(const QWidget* editor)
 {
     if (isInside(editor, QApplication::focusWidget()))
         m_table->setFocus();
 }
 
-QWidget* CellEditorKeeper::openEditor() const
+QWidget* CellEditing::openEditor() const
 {
-    // One that the table has given up is hidden until it is deleted.
+    // An editor that the table has given up is hidden until it is deleted.
     return m_editor && !m_editor->isHidden() ? m_editor.data() : nullptr;
 }
 
-void CellEditorKeeper::letGo(const QWidget* editor)
+void CellEditing::letGo(const QWidget* editor)
 {
     if (editor != m_editor)
         return;
-    // Closing moves the focus, which would ask for the end again.
+    // Closing moves the focus, and focusMoved would end the edit a second time.
     m_editor = nullptr;
     disconnect(m_focusChanges);
 }
 
-void CellEditorKeeper::end(QAbstractItemDelegate::EndEditHint hint)
+void CellEditing::end(QAbstractItemDelegate::EndEditHint hint)
 {
     if (!follow())
         return;
@@ -134,7 +94,7 @@ void CellEditorKeeper::end(QAbstractItemDelegate::EndEditHint hint)
     Q_EMIT delegate->closeEditor(editor, hint);
 }
 
-void CellEditorKeeper::close()
+void CellEditing::close()
 {
     QWidget* const editor = openEditor();
     if (editor && isBusy(editor))
@@ -143,7 +103,7 @@ void CellEditorKeeper::close()
         drop();
 }
 
-void CellEditorKeeper::drop()
+void CellEditing::drop()
 {
     QWidget* const editor = openEditor();
     if (!editor)
@@ -155,35 +115,35 @@ void CellEditorKeeper::drop()
     Q_EMIT m_table->itemDelegate()->closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
 }
 
-void CellEditorKeeper::limitRows(int count)
+void CellEditing::limitRows(int count)
 {
     if (m_index.row() >= count)
         drop();
 }
 
-QString CellEditorKeeper::cellText() const
+QString CellEditing::cellText() const
 {
     return m_widget->getCellText(m_index.row(), m_index.column());
 }
 
-/// Takes note of the cell and of the rows that tell where it is.
-void CellEditorKeeper::look()
+/// Remembers the text of the cell, and the rows that tell later whether it has moved.
+void CellEditing::look()
 {
     m_text = cellText();
-    if (const KnMField* const field = m_table->field())
+    if (const KnMField* const field = m_widget->shownField())
         m_rows.look(*field);
 }
 
-void CellEditorKeeper::cellWritten()
+void CellEditing::cellWritten()
 {
     if (openEditor())
         look();
 }
 
-bool CellEditorKeeper::follow()
+bool CellEditing::follow()
 {
     QWidget* const editor = openEditor();
-    const KnMField* const field = m_table->field();
+    const KnMField* const field = m_widget->shownField();
     if (!editor || !field)
         return false;
     const bool isSameCount = field->getNum() == m_rows.count();
@@ -199,13 +159,13 @@ bool CellEditorKeeper::follow()
     QLineEdit* const line = lineOf(editor);
     const bool wasSelected = line && line->hasSelectedText();
     m_table->itemDelegate()->setEditorData(editor, m_index);
-    // As when it was opened, so that typing replaces it.
+    // Selected as it was when it opened, so that typing replaces it.
     if (wasSelected)
         line->selectAll();
     return true;
 }
 
-bool CellEditorKeeper::eventFilter(QObject* watched, QEvent* event)
+bool CellEditing::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_table) {
         // Another field is being selected, or the panel leaves the screen.
@@ -225,11 +185,11 @@ bool CellEditorKeeper::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
     case QEvent::Wheel:
-        // The slider writes by itself.
+        // A slider writes at once, so its row is checked first.
         return openEditor() && !follow();
     case QEvent::FocusOut: {
-        // A line says that editing is finished whenever another window comes to the front; whether
-        // it is, the new focus tells.
+        // A line says that editing is finished even when another window comes to the front.
+        // focusMoved decides whether it is.
         const QSignalBlocker blocker(watched);
         watched->event(event);
         return true;
@@ -239,7 +199,7 @@ bool CellEditorKeeper::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
-bool CellEditorKeeper::filterKey(const QWidget* part, const QKeyEvent& event)
+bool CellEditing::filterKey(const QWidget* part, const QKeyEvent& event)
 {
     switch (event.key()) {
     case Qt::Key_Tab:
@@ -262,7 +222,7 @@ bool CellEditorKeeper::filterKey(const QWidget* part, const QKeyEvent& event)
             end(QAbstractItemDelegate::SubmitModelCache);
             return true;
         }
-        // The line comes first: its signals write what was typed.
+        // The line handles the key first: its signals write what was typed.
         QMetaObject::invokeMethod(
             this, [this, editor = m_editor] { endAfterReturn(editor); }, Qt::QueuedConnection);
         return false;
@@ -272,7 +232,7 @@ bool CellEditorKeeper::filterKey(const QWidget* part, const QKeyEvent& event)
     }
 }
 
-void CellEditorKeeper::endAfterReturn(const QWidget* editor)
+void CellEditing::endAfterReturn(const QWidget* editor)
 {
     if (!editor || editor != openEditor())
         return;
@@ -281,7 +241,7 @@ void CellEditorKeeper::endAfterReturn(const QWidget* editor)
     end(QAbstractItemDelegate::SubmitModelCache);
 }
 
-void CellEditorKeeper::focusMoved(const QWidget* now)
+void CellEditing::focusMoved(QWidget*, QWidget* now)
 {
     const QWidget* const editor = openEditor();
     if (!editor || !now || now->window() != editor->window() || qobject_cast<const QMenuBar*>(now))
@@ -292,5 +252,5 @@ void CellEditorKeeper::focusMoved(const QWidget* now)
     }
     auto* const slider = qobject_cast<WfSlider*>(m_editor);
     if (slider && slider->isModified() && now != slider->m_lineEdit && follow())
-        takeTyped(slider);
+        writeTyped(slider);
 }
