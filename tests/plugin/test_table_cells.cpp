@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ArrayFixture.h"
 #include "CellText.h"
+#include "EditorKind.h"
 #include "QUIntValidator.h"
 #include "QULongValidator.h"
 #include "WfIntSlider.h"
@@ -91,33 +92,36 @@ private Q_SLOTS:
 
     void kindsFixTheEditor_data()
     {
+        QTest::addColumn<int>("kind");
         QTest::addColumn<QString>("onlyColumn");
         QTest::addColumn<QString>("oneOfTwo");
-        const auto row = [](const char* onlyColumn, const char* oneOfTwo) {
-            static int kind = 0;
-            QTest::addRow("%d", kind++) << onlyColumn << oneOfTwo;
+        const auto row = [](int kind, const char* onlyColumn, const char* oneOfTwo) {
+            QTest::addRow("%d", kind) << kind << onlyColumn << oneOfTwo;
         };
-        const auto line = [&row](const char* editor) { row(editor, editor); };
-        line(" qt_lineeditor");
-        row(" WfIntSlider 0..10 int -32768..32767", " qt_lineeditor int -32767..32767");
-        row(" WfUIntSlider 0..10 up to 65535", " qt_lineeditor int 0..65535");
-        line(" qt_lineeditor int -2147483648..2147483647");
-        line(" qt_lineeditor QUInt 0..4294967295");
-        row(" WfIntSlider 0..10 int -2147483648..2147483647",
+        const auto line = [&row](int kind, const char* editor) { row(kind, editor, editor); };
+        line(PlainTextKind, " qt_lineeditor");
+        row(Int16Kind, " WfIntSlider 0..10 int -32768..32767", " qt_lineeditor int -32767..32767");
+        row(UInt16Kind, " WfUIntSlider 0..10 up to 65535", " qt_lineeditor int 0..65535");
+        line(WholeNumberKind, " qt_lineeditor int -2147483648..2147483647");
+        line(UnsignedNumberKind, " qt_lineeditor QUInt 0..4294967295");
+        row(Int32Kind, " WfIntSlider 0..10 int -2147483648..2147483647",
             " qt_lineeditor int -2147483647..2147483647");
-        row(" WfUIntSlider 0..10 up to 4294967295", " qt_lineeditor QULong 0..4294967295");
-        row(" WfRealSlider 0..10 double -3.4028234663852886e+38..3.4028234663852886e+38 6 decimals",
+        row(UInt32Kind, " WfUIntSlider 0..10 up to 4294967295",
+            " qt_lineeditor QULong 0..4294967295");
+        row(FloatKind,
+            " WfRealSlider 0..10 double -3.4028234663852886e+38..3.4028234663852886e+38 6 decimals",
             " qt_lineeditor double -3.4028234663852886e+38..3.4028234663852886e+38 6 decimals");
-        line(" qt_lineeditor double -inf..inf -1 decimals");
+        line(DoubleKind, " qt_lineeditor double -inf..inf -1 decimals");
     }
 
     void kindsFixTheEditor()
     {
+        QFETCH(int, kind);
         QFETCH(QString, onlyColumn);
         QFETCH(QString, oneOfTwo);
         m_fixture->show("MFInt32", "[ 5 ]");
         const TableInput table = m_fixture->table();
-        table->setEditorKind(QByteArray(QTest::currentDataTag()).toInt());
+        table->setEditorKind(kind);
         const auto editor = [&table] {
             return described(
                 std::unique_ptr<QWidget>(table->itemDelegate()->createEditor(nullptr,

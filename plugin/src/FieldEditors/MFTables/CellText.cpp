@@ -4,7 +4,7 @@
 namespace {
 
 // Beyond this length, in code units, a text is first judged by its beginning.
-constexpr qsizetype LongText = 1024;
+constexpr qsizetype longText = 1024;
 
 /// How many code units the character at `at` has.
 qsizetype characterLength(const QString& text, qsizetype at)
@@ -16,8 +16,8 @@ qsizetype characterLength(const QString& text, qsizetype at)
 
 bool isTooLong(const QString& text, int available, const TextAdvance& advance)
 {
-    // The factor leaves room for what the cut does to the shapes next to it.
-    if (text.size() > LongText && advance(text.left(LongText)) > 2 * available)
+    // Glyphs next to a cut may change their width; the factor leaves ample room for that.
+    if (text.size() > longText && advance(text.left(longText)) > 2 * available)
         return true;
     return advance(text) > available;
 }
@@ -30,7 +30,7 @@ QString cellText(const QString& text, int available, const TextAdvance& advance)
         return text;
 
     const QString dots = QStringLiteral("...");
-    // The dots stand in front while the text is measured, as a place holder for those behind it.
+    // While the text is measured, the dots that will end it stand in front of it.
     QString shown = dots;
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype length = characterLength(text, at);

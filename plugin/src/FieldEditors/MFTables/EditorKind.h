@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-/// What the cells of a table hold. A kind fixes the editor that a cell of a one-column table gets,
-/// and the validator of any line edit.
+/// What the cells of a table hold, by the numbers that WfMFieldTable::setEditorKind takes. A kind
+/// fixes the editor that a cell of a one-column table gets, and the validator of any line edit.
 enum EditorKind : int {
     PlainTextKind = 0,
     Int16Kind = 1,

@@ -20,14 +20,14 @@ void SeenRows::look(const KnMField& field)
 {
     m_count = field.getNum();
     m_texts.clear();
-    for (int row = 0; row < std::min(m_count, Limit); ++row)
+    for (int row = 0; row < std::min(m_count, limit); ++row)
         m_texts.push_back(rowText(field, row));
 }
 
 bool SeenRows::isSamePlace(const KnMField& field, int row) const
 {
     const int count = field.getNum();
-    if (row < 0 || row >= std::min({ count, m_count, Limit }))
+    if (row < 0 || row >= std::min({ count, m_count, limit }))
         return false;
     const auto isUnchanged = [this, &field](int at) {
         return m_texts[static_cast<std::size_t>(at)] == rowText(field, at);
@@ -37,11 +37,11 @@ bool SeenRows::isSamePlace(const KnMField& field, int row) const
             ++first;
         return first >= end;
     };
-    // Rows that come or go above the row shift it, which changes a row up to it, unless all that
-    // moved were equal: then its place is as good as theirs.
+    // Rows that come or go above shift this one, so that a row up to it differs, unless all that
+    // moved are equal; then it doesn't matter which of them is edited.
     if (!areUnchanged(0, row))
         return false;
-    // A new value in the row itself has been written there, or else the rows behind it have moved
-    // up: it takes all of them to tell.
-    return isUnchanged(row) || (count == m_count && count <= Limit && areUnchanged(row + 1, count));
+    // If the row itself differs, it was either written in place, or removed and the rows behind it
+    // moved up. Only all of those can tell which.
+    return isUnchanged(row) || (count == m_count && count <= limit && areUnchanged(row + 1, count));
 }

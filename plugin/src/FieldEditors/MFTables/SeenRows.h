@@ -7,20 +7,19 @@
 
 class KnMField;
 
-/// What the first rows of an array held when somebody last looked. An array tells that it has
-/// changed, not which rows came or went, so that this is how a row that is being edited is known
-/// again after a change from outside.
+/// Remembers what the first rows of an array held. A field reports that it has changed, but not
+/// which rows came or went; this tells whether a row that is being edited is still where it was.
 class SeenRows {
 public:
     /// How many rows are looked at, however long the array is.
-    static constexpr int Limit = 64;
+    static constexpr int limit = 64;
 
+    /// Remembers the rows as they are now.
     void look(const KnMField& field);
-    /// The count of values that was seen.
+    /// How many values the field had at the last look.
     int count() const { return m_count; }
-    /// Whether the value in `row` certainly is the one that was seen there, or has been written in
-    /// place. False wherever rows may have moved, and for rows that can't be judged because of the
-    /// limit.
+    /// Whether `row` certainly is the row that was seen there; its value may have been written in
+    /// place. False wherever rows may have moved, also where the limit allows no judgement.
     bool isSamePlace(const KnMField& field, int row) const;
 
 private:

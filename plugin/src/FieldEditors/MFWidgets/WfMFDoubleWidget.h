@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "WfMFLineMember.h"
+#include "WfMFLineWidgetOf.h"
 
 struct MFDoubleTraits {
     using Field = KnMFDouble;
@@ -14,7 +14,7 @@ struct MFDoubleTraits {
 };
 
 /// Edits a KnMFDouble with a line in each cell.
-class WfMFDoubleWidget : public WfMFLineMember<MFDoubleTraits> {
+class WfMFDoubleWidget : public WfMFLineWidgetOf<MFDoubleTraits> {
 public:
-    using WfMFLineMember::WfMFLineMember;
+    using WfMFLineWidgetOf::WfMFLineWidgetOf;
 };

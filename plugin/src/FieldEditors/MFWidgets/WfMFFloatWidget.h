@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "WfMFLineMember.h"
+#include "WfMFLineWidgetOf.h"
 
 struct MFFloatTraits {
     using Field = KnMFFloat;
@@ -14,7 +14,7 @@ struct MFFloatTraits {
 };
 
 /// Edits a KnMFFloat with a slider in each cell.
-class WfMFFloatWidget : public WfMFLineMember<MFFloatTraits> {
+class WfMFFloatWidget : public WfMFLineWidgetOf<MFFloatTraits> {
 public:
-    using WfMFLineMember::WfMFLineMember;
+    using WfMFLineWidgetOf::WfMFLineWidgetOf;
 };

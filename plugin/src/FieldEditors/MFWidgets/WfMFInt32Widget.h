@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "WfMFLineMember.h"
+#include "WfMFLineWidgetOf.h"
 
 struct MFInt32Traits {
     using Field = KnMFInt32;
@@ -11,7 +11,7 @@ struct MFInt32Traits {
 };
 
 /// Edits a KnMFInt32 with a slider in each cell.
-class WfMFInt32Widget : public WfMFLineMember<MFInt32Traits> {
+class WfMFInt32Widget : public WfMFLineWidgetOf<MFInt32Traits> {
 public:
-    using WfMFLineMember::WfMFLineMember;
+    using WfMFLineWidgetOf::WfMFLineWidgetOf;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "WfMFLineMember.h"
+#include "WfMFLineWidgetOf.h"
 
 struct MFShortTraits {
     using Field = KnMFShort;
@@ -11,7 +11,7 @@ struct MFShortTraits {
 };
 
 /// Edits a KnMFShort with a slider in each cell.
-class WfMFShortWidget : public WfMFLineMember<MFShortTraits> {
+class WfMFShortWidget : public WfMFLineWidgetOf<MFShortTraits> {
 public:
-    using WfMFLineMember::WfMFLineMember;
+    using WfMFLineWidgetOf::WfMFLineWidgetOf;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "WfMFLineMember.h"
+#include "WfMFLineWidgetOf.h"
 
 struct MFUInt32Traits {
     using Field = KnMFUInt32;
@@ -11,7 +11,7 @@ struct MFUInt32Traits {
 };
 
 /// Edits a KnMFUInt32 with a slider in each cell.
-class WfMFUInt32Widget : public WfMFLineMember<MFUInt32Traits> {
+class WfMFUInt32Widget : public WfMFLineWidgetOf<MFUInt32Traits> {
 public:
-    using WfMFLineMember::WfMFLineMember;
+    using WfMFLineWidgetOf::WfMFLineWidgetOf;
 };

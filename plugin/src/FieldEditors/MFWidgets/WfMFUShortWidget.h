@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "WfMFLineMember.h"
+#include "WfMFLineWidgetOf.h"
 
 struct MFUShortTraits {
     using Field = KnMFUShort;
@@ -11,7 +11,7 @@ struct MFUShortTraits {
 };
 
 /// Edits a KnMFUShort with a slider in each cell.
-class WfMFUShortWidget : public WfMFLineMember<MFUShortTraits> {
+class WfMFUShortWidget : public WfMFLineWidgetOf<MFUShortTraits> {
 public:
-    using WfMFLineMember::WfMFLineMember;
+    using WfMFLineWidgetOf::WfMFLineWidgetOf;
 };

@@ -6,9 +6,9 @@
 
 #include <QSlider>
 
-/// What the sliders of all number types share: value, range, and how a range holds or grows. What
-/// depends on the type is called through `Self`, the concrete slider, so that the sliders have no
-/// virtual operations but those of WfSlider. It supplies
+/// What the sliders of all number types share: value, range, and how a range holds or grows. The
+/// virtual functions of WfSlider know no type of value, so a concrete slider gives itself as `Self`
+/// and supplies
 ///   `void limitType(Value min, Value max)`: a bounded range limits what may be typed,
 ///   `int bottomPosition() const`, `int topPosition() const`: the ends of the scale.
 template <class Self, class Value>

@@ -13,13 +13,13 @@
 ///   `Field`: the field class,
 ///   `typeName`, `className`: label and extension name, and the default object name,
 ///   `editorKind`: of the table's cells.
-/// Those of reals have a range that is chosen for each field besides:
-///   `defaultField`: the row for a field of any node,
-///   `rangeMin(range)`, `rangeMax(range)`: the limits of a range that are meant for the type.
+/// The editors of reals choose a range for each field, too, and their traits have
+///   `defaultField`: the row of the range table for a field of any other node,
+///   `rangeMin(range)`, `rangeMax(range)`: the limits that a range has for the type.
 template <class Traits>
-class WfMFLineMember : public WfMFLineWidget {
+class WfMFLineWidgetOf : public WfMFLineWidget {
 public:
-    explicit WfMFLineMember(const char* name = nullptr)
+    explicit WfMFLineWidgetOf(const char* name = nullptr)
         : WfMFLineWidget(name)
     {
         identify(Traits::Field::getClassTypeId(), Traits::typeName, name, Traits::className);
