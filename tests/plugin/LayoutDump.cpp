@@ -117,7 +117,8 @@ QString LayoutDump::widget(const QWidget* widget)
     if (widget->inherits("QSpinBox") && widget->locale() != numberLocale())
         parts << u"localised"_s;
     for (const char* name : properties) {
-        if (widget->property(name) == fresh->property(name))
+        const QVariant value = widget->property(name);
+        if (!value.isValid() || value == fresh->property(name))
             continue;
         const QMetaObject* const meta = widget->metaObject();
         parts << QLatin1String(name) + u'='
