@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Whether the text has a stretch of that length without a place to break a line.
+/// Whether the text has a stretch of at least `longWord` without a place to break a line.
 bool hasLongWord(const QString& text)
 {
     if (text.size() < longWord)
@@ -75,7 +75,7 @@ KeepPlace::~KeepPlace()
         && (cursor.anchor() != m_anchor || cursor.position() != m_position)) {
         cursor.setPosition(m_anchor);
         cursor.setPosition(m_position, QTextCursor::KeepAnchor);
-        // It scrolls to the selection.
+        // This scrolls to the selection; the bar is put back below.
         m_view.setTextCursor(cursor);
     }
     bar().setValue(m_atEnd ? bar().maximum() : value);

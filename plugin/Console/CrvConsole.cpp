@@ -19,6 +19,7 @@
 
 #include <iostream>
 #include <iterator>
+#include <memory>
 
 namespace {
 
@@ -60,7 +61,7 @@ CrvConsole::ConsoleEvent::ConsoleEvent(const QString& text)
 {
 }
 
-/// Text that another thread printed; it gives its place up when it is shown or dropped.
+/// Text that another thread printed. Its place is given up when the text is shown or dropped.
 class CrvConsole::PrintEvent : public ConsoleEvent {
 public:
     PrintEvent(const QString& text, PrintBrake::Place&& messagePlace)
@@ -93,14 +94,14 @@ CrvConsole::~CrvConsole()
     releaseStream(m_cerrRedirector);
     releaseStream(m_coutRedirector);
     CrvConsole::unload();
-    // A message holds a place of the brake.
+    // Posted messages hold places of the brake, which goes now.
     QCoreApplication::removePostedEvents(this, consoleEventType);
 }
 
 bool CrvConsole::event(QEvent* e)
 {
     if (e->type() == consoleEventType) {
-        // Any code may post an event of this number.
+        // Other code may post events of this number, too.
         if (auto* const printed = dynamic_cast<PrintEvent*>(e)) {
             m_brake.noteArrival();
             m_feed.take(
@@ -119,12 +120,12 @@ void CrvConsole::load()
     m_dock->setObjectName(QStringLiteral("Console"));
     m_frame = new QFrame(m_dock);
     setupUi(m_frame);
-    // The three colours of the text are dark, so the ground is light under a dark palette too.
+    // The three text colours are dark, so the background stays light under a dark palette.
     QPalette light = m_consoleOutput->palette();
     light.setColor(QPalette::Base, Qt::white);
     light.setColor(QPalette::Text, Qt::black);
     m_consoleOutput->setPalette(light);
-    // Nobody can undo a message, and keeping what that takes costs memory for each.
+    // Nobody can undo a message, so the memory for an undo history would be wasted.
     m_consoleOutput->setUndoRedoEnabled(false);
     m_feed.setView(m_consoleOutput);
 
@@ -135,7 +136,7 @@ void CrvConsole::load()
     connect(m_saveButton, &QPushButton::clicked, this, &CrvConsole::save);
     connect(m_warningsButton, &QPushButton::toggled, this, &CrvConsole::outputWarnings);
 
-    // A message that arrived while there was no view belongs to no view.
+    // What arrived while there was no view is dropped.
     QCoreApplication::removePostedEvents(this, consoleEventType);
     for (int i = 0; i < errorClassCount; ++i) {
         m_previousHandlers[i] = errorClasses[i].getCallback();
@@ -157,7 +158,7 @@ void CrvConsole::unload()
     m_dock = nullptr;
     for (int i = 0; i < errorClassCount; ++i)
         errorClasses[i].setCallback(m_previousHandlers[i], m_previousHandlerData[i]);
-    // No thread is inside the handler any more, so this removes the last message.
+    // No thread is inside the handler any more, so nothing is posted after this.
     QCoreApplication::removePostedEvents(this, consoleEventType);
 }
 
@@ -180,7 +181,7 @@ void CrvConsole::deactivate()
 {
     CrvExtension::deactivate();
     m_dock->setWidget(nullptr);
-    // Releasing a stream waits for the threads inside of it.
+    // First the brake: releasing a stream waits for the threads that print, which it may hold.
     m_brake.setEngaged(false);
     releaseStream(m_cerrRedirector);
     releaseStream(m_coutRedirector);
@@ -215,10 +216,11 @@ void CrvConsole::takeError(const KnError* error, void* data)
         else if (severity == KnDebugError::Info)
             outputType = InfoOutput;
     }
-    // Nothing more: the kernel's lock is held, for which other threads wait.
-    auto* const event = new ConsoleEvent(QString::fromStdString(error->getDebugString().toUtf8()));
+    // The kernel holds its lock during this call, and other threads wait for it: only post.
+    auto event
+        = std::make_unique<ConsoleEvent>(QString::fromStdString(error->getDebugString().toUtf8()));
     event->setOutputType(outputType);
-    QCoreApplication::postEvent(static_cast<CrvConsole*>(data), event, 0);
+    QCoreApplication::postEvent(static_cast<CrvConsole*>(data), event.release(), 0);
 }
 
 template <int outputType>
@@ -230,10 +232,10 @@ void CrvConsole::takeStreamText(const char* text, std::streamsize count, void* u
         console->m_feed.print({ message, outputType, {} });
         return;
     }
-    auto* const event = new PrintEvent(
+    auto event = std::make_unique<PrintEvent>(
         message, console->m_brake.enter(messageWeight + static_cast<std::size_t>(count)));
     event->setOutputType(outputType);
-    QCoreApplication::postEvent(console, event, 0);
+    QCoreApplication::postEvent(console, event.release(), 0);
 }
 
 void CrvConsole::addMessage(const MessageFeed::Message& message)
@@ -271,7 +273,7 @@ void CrvConsole::save()
     QFile file(name);
     if (!file.open(QIODevice::ReadWrite | QIODevice::Text))
         return;
-    // What a longer file held behind the text goes, but not before the text is in.
+    // The rest of a longer file is cut off only when the whole text has been written.
     const QByteArray text = m_consoleOutput->toPlainText().toLatin1();
     if (file.write(text) == text.size() && file.flush())
         file.resize(file.pos());

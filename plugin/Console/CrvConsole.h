@@ -22,9 +22,9 @@ class QDockWidget;
 /// A message from another thread crosses as a ConsoleEvent. When more arrive than a turn of the
 /// event loop has time for, the rest waits and is shown in slices, between which the window takes
 /// input; threads that print wait a little for a view that is far behind (see PrintBrake), those
-/// that report an error never do. The messages of one thread keep their order, and none is lost but
-/// what is still on its way at `unload`. `deactivate` drops nothing: the view lives on, and what
-/// was printed before is shown by later slices.
+/// that report an error never do. The messages of one thread keep their order, and none is lost
+/// except those still on their way at `unload`. `deactivate` drops nothing: the view lives on, and
+/// what was printed before appears in later slices.
 class CrvConsole : public CrvExtension, public Ui::m_consoleFrame {
     Q_OBJECT
 public:
@@ -59,10 +59,10 @@ public:
     void unload() override;
 
 public Q_SLOTS:
-    /// Empties the view. Messages that wait are still to come, since nobody has seen them yet.
+    /// Empties the view. Messages that wait are shown afterwards, since nobody has seen them yet.
     void clear();
-    // Each lets in messages of its class if it didn't, and the other way round. It holds for those
-    // that wait as well, so that this is how somebody stops a flood.
+    // Each turns its class of messages on or off. That goes for messages that wait as well, so a
+    // person can stop a flood this way.
     void outputErrors();
     void outputInfos();
     void outputWarnings();
@@ -92,6 +92,6 @@ private:
     void* m_previousHandlerData[errorClassCount] = {}; // not owned
     StdStreamRedirector<char>* m_cerrRedirector = nullptr; // given back to releaseStream
     StdStreamRedirector<char>* m_coutRedirector = nullptr; // given back to releaseStream
-    PrintBrake m_brake; // outlives what is in the feed
+    PrintBrake m_brake; // before the feed, whose messages hold places of it
     MessageFeed m_feed;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-// A person takes up to 100 ms for at once. A slice, its layout and the drawing stay below that.
+// What takes up to 100 ms feels instant. A slice, its layout and the drawing stay below that.
 constexpr int sliceMilliseconds = 20;
 // Inserting text takes next to no time, laying it out some 0.1 us a character.
 constexpr qsizetype sliceCharacters = 100000;
@@ -84,7 +84,7 @@ void MessageFeed::take(Message message)
 
 void MessageFeed::goOnLater()
 {
-    // A timer of no length: unlike a posted event it lets input in first.
+    // A timer of no length, unlike a posted event, lets input in first.
     if (m_nextSlice.isActive())
         return;
     m_slice.start();
@@ -93,7 +93,7 @@ void MessageFeed::goOnLater()
 
 void MessageFeed::showSlice()
 {
-    // An event loop inside of the view's own signals; changeView goes on.
+    // One of the view's signals runs an event loop; changeView goes on when it returns.
     if (m_changing)
         return;
     m_slice.start();
@@ -117,7 +117,7 @@ void MessageFeed::changeView(Work work)
 
 void MessageFeed::showEchoes()
 {
-    // Only those of now: showing one may bring the next.
+    // Only those that wait now: showing one may bring the next.
     for (auto count = m_echoes.size(); count > 0; --count)
         showFirst(m_echoes);
 }
@@ -126,7 +126,7 @@ void MessageFeed::showBacklog()
 {
     if (m_backlog.empty())
         return;
-    // It may change the way that lines are broken, which takes a layout that is up to date.
+    // It may change the wrap mode, which needs an up-to-date layout and so no edit block.
     const auto isLong = [this] { return m_backlog.front().text.size() >= longWord; };
     if (isLong()) {
         showFirst(m_backlog);

@@ -39,7 +39,7 @@ void PrintBrake::leave(std::size_t weight)
     const std::lock_guard lock(m_mutex);
     const std::size_t before = std::exchange(m_load, m_load - weight);
     m_lastStep = Clock::now();
-    // All at once and not one for each message, which would be a change of thread for each.
+    // All threads at once: one for each message would cost a change of thread for each.
     if (before > m_limit / 2 && m_load <= m_limit / 2)
         m_eased.notify_all();
 }

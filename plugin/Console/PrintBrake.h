@@ -11,18 +11,20 @@
 /// Slows down the threads that print while the view is far behind them, so that a flood neither
 /// piles up in memory nor keeps the view's thread from its other work.
 ///
-/// A thread waits while the messages on their way weigh more than the limit, and never longer than
-/// the patience for one message. Once the view's thread has done nothing about messages for that
-/// long nobody waits at all, until it does again: a view whose thread waits for a printing one, by
-/// joining it or for a lock that it holds, stands still no longer than that, however much the
-/// thread has to say.
-/// Without Qt, so that the thread sanitizer sees all of it.
+/// A thread waits while the messages on their way weigh as much as the limit or more, and for one
+/// message never longer than the patience. If the view's thread has handled no message for that
+/// long, nobody waits until it handles one again. So if the view's thread itself waits for a thread
+/// that prints, to join it or for a lock that it holds, it is delayed by no more than the patience
+/// in all, however much that thread prints.
+///
+/// Weights are in bytes. Any thread may call `enter` and destroy a Place; the rest is for the
+/// view's thread. Without Qt, so that the thread sanitizer sees all of it.
 class PrintBrake {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// What one message takes up of the limit, from its printing until it is shown or dropped. It
-    /// must not outlive the brake.
+    /// What one message takes up of the limit, from its printing until it is shown or dropped. The
+    /// message owns it. It must not outlive the brake.
     class Place {
     public:
         Place() = default; ///< for a message that doesn't count
@@ -50,17 +52,17 @@ public:
         std::size_t m_weight = 0;
     };
 
+    /// `limit` in bytes; `patience` is how long a thread waits for one message at most.
     PrintBrake(std::size_t limit, Clock::duration patience);
 
-    /// Called by a thread that prints, before it hands its message over.
+    /// Called by a thread that prints, before it hands its message over. It may wait here.
     Place enter(std::size_t weight);
 
-    /// Called by the view's thread when a message reaches it, long before it may be shown. Without
-    /// this, threads that were let go once would post faster than Qt delivers, and go on to do so.
+    /// Called when a message reaches the view's thread, which may be long before it is shown.
+    /// Without this, threads that were let go once would post faster than Qt delivers, for good.
     void noteArrival();
 
-    /// Before the first call, and when it is called with false, no thread waits: those that do go
-    /// on at once.
+    /// Whether threads wait at all; at first they don't. With false those that wait go on at once.
     void setEngaged(bool engaged);
 
 private:
@@ -72,7 +74,7 @@ private:
     std::condition_variable m_eased;
     std::size_t m_load = 0; // weight of all that is on its way
     bool m_engaged = false;
-    // Of the view's thread: took or showed a message, or owed none. Not guarded: it is noted for
-    // each message of a flood, when many threads want the lock.
+    // When the view's thread last took or showed a message, or had none to show. Not guarded, since
+    // it is set for each message of a flood, when many threads want the lock.
     std::atomic<Clock::time_point> m_lastStep = Clock::time_point();
 };

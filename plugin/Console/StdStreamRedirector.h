@@ -14,15 +14,16 @@
 
 /// A stream buffer that takes the place of an output stream's own, so that what is written through
 /// the stream goes to a callback, on the thread that writes. A block is one call as it stands;
-/// single characters are gathered until a newline, which is not handed over. The two don't wait
-/// for each other. Flushing delivers nothing, and an unfinished line is dropped at the end.
+/// single characters are gathered until a newline, which is not handed over. A block
+/// neither waits for them nor flushes them. Flushing delivers nothing, and an unfinished line is
+/// dropped at the end.
 ///
 /// Several threads may write while another one captures and releases. Guaranteed is:
 /// - the callback runs outside of the lock, so that it may write to a stream itself, and no longer
 ///   runs on any other thread when `release` returns, so that its user data may go;
 /// - each write is one call of the callback, or goes whole to the stream's own buffer;
 /// - a thread that still has this buffer in hand after `release` reaches the stream's own one, as
-///   long as this object lives. To let it live is the owner's part: see StreamCapture.h.
+///   long as this object lives. The owner sees to that: see StreamCapture.h.
 /// Not guaranteed is what a C++ stream doesn't offer: `rdbuf` itself is a plain pointer, which a
 /// writing thread reads without a lock. Here it is exchanged by one store of a word, and both of
 /// its values name objects that live.
@@ -52,7 +53,7 @@ public:
         m_callback = callback;
         m_userData = userData;
         m_captured = true;
-#ifndef __SANITIZE_THREAD__ // it knows no fences
+#ifndef __SANITIZE_THREAD__ // which doesn't know fences
         // A thread that finds this buffer in the stream finds it complete.
         std::atomic_thread_fence(std::memory_order_release);
 #endif
@@ -136,8 +137,8 @@ private:
     Callback m_callback = nullptr;
     void* m_userData = nullptr; // not owned
 
-    // Guards all of this. It stays as long as the object, also without a capture: a thread that
-    // comes late has to find out under it that the text goes to the stream's own buffer.
+    // Guards all of this, also without a capture: a thread that comes late needs it to find out
+    // that its text goes to the stream's own buffer.
     std::mutex m_mutex;
     std::condition_variable m_returned;
     std::vector<std::thread::id>

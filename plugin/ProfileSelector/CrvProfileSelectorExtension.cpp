@@ -31,7 +31,7 @@ void CrvProfileSelectorExtension::load()
     m_comboBox = new QComboBox(m_toolBar);
     m_comboBox->setObjectName(QStringLiteral("m_comboBox"));
     m_comboBox->setToolTip(QStringLiteral("Select the active profile."));
-    // A name that is longer than those of the last time isn't cut off.
+    // Otherwise names longer than those of the first activation would be cut off.
     m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_toolBar->addWidget(m_comboBox);
 }
@@ -92,7 +92,8 @@ void CrvProfileSelectorExtension::s_currentIndexChanged(int index)
     int position = 0;
     for (CrvProfile* profile : CrvPluginsManager::getInstance()->getProfilesList()) {
         if (position == index) {
-            // It may deactivate and activate this extension, and the host may change its list.
+            // This may deactivate and activate the extension and change the host's list, so the
+            // loop ends here.
             CrvPluginsManager::getInstance()->setActiveProfile(profile);
             return;
         }

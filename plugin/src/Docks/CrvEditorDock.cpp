@@ -66,7 +66,7 @@ void CrvEditorDock::deactivate()
 
 void CrvEditorDock::releaseEditor()
 {
-    // Hiding the editor hands the focus on, and who gets it may select something.
+    // Hiding the editor moves the focus, and whatever gets it may select something.
     const QScopedValueRollback releasing(m_releasing, true);
     m_currentEditor->deactivate();
     m_currentEditor->setEditedObject(nullptr);
@@ -79,8 +79,8 @@ void CrvEditorDock::releaseEditor()
 
 void CrvEditorDock::showEditorFor(KnTypedObject* object)
 {
-    // The host announces one selection at a time, so this one comes while the dock is being
-    // deactivated: it has no more use for it.
+    // The host announces one selection at a time, so this one comes while `deactivate` releases the
+    // editor, and the dock needs no other.
     if (m_releasing)
         return;
     if (m_currentEditor)

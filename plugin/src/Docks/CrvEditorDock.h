@@ -38,5 +38,5 @@ private:
 
     QDockWidget* m_dockWidget = nullptr; // owned, from load to unload; the shell only shows it
     CrvEditor* m_currentEditor = nullptr; // not owned
-    bool m_releasing = false; // the editor shown is being given back
+    bool m_releasing = false; // while releaseEditor runs
 };

@@ -14,7 +14,7 @@ ColumnFit::ColumnFit(QTableView* table)
 
 bool ColumnFit::eventFilter(QObject*, QEvent* event)
 {
-    // A size that comes while the table is being shown is told by Show alone.
+    // A viewport that gets its size while the table is being shown gets a Show and no Resize.
     if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         fit();
     return false;

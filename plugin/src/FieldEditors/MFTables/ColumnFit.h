@@ -5,8 +5,8 @@
 
 class QTableView;
 
-/// Lets the columns of a table share its width, until somebody sizes one by hand. Without it a
-/// column keeps the header's default width, whatever room the panel has, and those beyond the edge
+/// Lets the columns of a table share its width, until somebody sizes one by hand. Without it each
+/// column has the header's default width, however wide the panel is, and columns beyond the edge
 /// could not be reached.
 class ColumnFit : public QObject {
     Q_OBJECT
@@ -21,5 +21,5 @@ private:
     void fit();
 
     QTableView* m_table; // the parent
-    int m_fitted = 0; // width of a column that was given last, in pixels; 0 before the first
+    int m_fitted = 0; // the width last given to each column, in pixels; 0 before the first fit
 };

@@ -3,7 +3,7 @@
 
 #include "UnsignedValidator.h"
 
-/// The validator of unsigned whole numbers of `unsigned int`.
+/// Validates whole numbers of type `unsigned int`.
 class QUIntValidator : public UnsignedValidator {
 public:
     using UnsignedValidator::UnsignedValidator;

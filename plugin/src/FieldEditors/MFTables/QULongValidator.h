@@ -3,7 +3,7 @@
 
 #include "UnsignedValidator.h"
 
-/// The validator of unsigned whole numbers of fields of 32 bits.
+/// Validates the whole numbers of 32-bit unsigned fields.
 class QULongValidator : public UnsignedValidator {
 public:
     using UnsignedValidator::UnsignedValidator;

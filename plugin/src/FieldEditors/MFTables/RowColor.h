@@ -7,11 +7,11 @@ class WfMFieldWidget;
 
 /// The colour that one row of an array of colours shows.
 struct RowColor {
-    QColor color; ///< not valid when a component has no byte
+    QColor color; ///< invalid when a component is outside of what a colour can hold
     bool hasAlpha = false;
 
     friend bool operator==(const RowColor&, const RowColor&) = default;
 };
 
-/// Asks the editor for the components as it shows them, behind its first column.
+/// Reads the components from the texts of the cells behind the colour column.
 RowColor rowColor(WfMFieldWidget& widget, int row);
