@@ -16,7 +16,7 @@ constexpr std::array types { "SFBitMask", "SFBool", "SFBox3s", "SFDouble", "SFEn
     "SFImage", "SFInt32", "SFMatrix", "SFName", "SFString", "SFUInt32", "SFUShort", "SFVec3f",
     "MFDouble", "MFFloat", "MFName", "MFRotation", "MFShort", "MFString", "MFVec2i32", "MFVec3f" };
 
-int s_errors = 0;
+int errorCount = 0;
 
 std::unique_ptr<KnField> make(const char* type)
 {
@@ -47,22 +47,23 @@ void require(bool condition, const char* what, const KnField& field)
 /// The first byte picks the field type, the rest is the text. When a field takes it, the text that
 /// the field then gives must be taken by another field of the type, and given back the same. When
 /// the field refuses it, nothing may change, and one error is posted.
+// NOLINTNEXTLINE(readability-identifier-naming): the name that libFuzzer calls
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     if (size == 0)
         return 0;
-    KnReadError::setHandlerCallback([](const KnError*, void*) { ++s_errors; }, nullptr);
+    KnReadError::setHandlerCallback([](const KnError*, void*) { ++errorCount; }, nullptr);
     const char* const type = types[data[0] % types.size()];
     const KbString text(std::string_view(reinterpret_cast<const char*>(data) + 1, size - 1));
     const auto field = make(type);
     const std::string before = textOf(*field);
-    const int errors = s_errors;
+    const int errors = errorCount;
     if (!field->set(text)) {
         require(textOf(*field) == before, "a refused text changed the field", *field);
-        require(s_errors == errors + 1, "a refusal wasn't reported once", *field);
+        require(errorCount == errors + 1, "a refusal wasn't reported once", *field);
         return 0;
     }
-    require(s_errors == errors, "a text that was taken was reported", *field);
+    require(errorCount == errors, "a text that was taken was reported", *field);
     const std::string canonical = textOf(*field);
     const auto other = make(type);
     require(other->set(KbString(canonical)), "the text isn't taken back", *field);

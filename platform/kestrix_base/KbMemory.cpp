@@ -10,8 +10,8 @@
 
 namespace {
 
-std::atomic<std::uint64_t> s_calls { 0 };
-std::atomic<std::uint64_t> s_bytes { 0 };
+std::atomic<std::uint64_t> allocations { 0 };
+std::atomic<std::uint64_t> bytes { 0 };
 
 /// Gets a block from one of the operators and counts it; if there is none, it ends the process.
 ///
@@ -28,8 +28,8 @@ void* counted(std::size_t size, New take)
         std::fprintf(stderr, "Out of memory: %zu bytes were asked for\n", size);
         std::abort();
     }
-    s_calls.fetch_add(1, std::memory_order_relaxed);
-    s_bytes.fetch_add(size, std::memory_order_relaxed);
+    allocations.fetch_add(1, std::memory_order_relaxed);
+    bytes.fetch_add(size, std::memory_order_relaxed);
     return block;
 }
 
@@ -81,5 +81,5 @@ void safeFreeArrayAligned(void* block, std::size_t alignment) noexcept
 
 KbAllocationCount allocationCount() noexcept
 {
-    return { s_calls.load(std::memory_order_relaxed), s_bytes.load(std::memory_order_relaxed) };
+    return { allocations.load(std::memory_order_relaxed), bytes.load(std::memory_order_relaxed) };
 }

@@ -15,10 +15,10 @@ concept KnExtends = std::derived_from<Value, Plain> && std::constructible_from<V
 
 /// What all multi-value field classes share: the values in one contiguous array, and their text by
 /// the text form of the value type. A field class adds its type and nothing else; see KnMFields.h.
-template <class Value_>
+template <class FieldValue>
 class KnMFieldOf : public KnMField {
 public:
-    using Value = Value_;
+    using Value = FieldValue;
 
     int getNum() const override { return static_cast<int>(m_values.size()); }
     void setNum(int num) override;

@@ -16,8 +16,8 @@ constexpr std::size_t sampleSize = 256;
 
 } // namespace
 
-template <class Value_>
-bool KnMFieldOf<Value_>::resize(std::int64_t num)
+template <class FieldValue>
+bool KnMFieldOf<FieldValue>::resize(std::int64_t num)
 {
     if (num == static_cast<std::int64_t>(m_values.size()))
         return true;
@@ -34,15 +34,15 @@ bool KnMFieldOf<Value_>::resize(std::int64_t num)
     return false;
 }
 
-template <class Value_>
-void KnMFieldOf<Value_>::setNum(int num)
+template <class FieldValue>
+void KnMFieldOf<FieldValue>::setNum(int num)
 {
     if (resize(std::max(num, 0)))
         touch();
 }
 
-template <class Value_>
-void KnMFieldOf<Value_>::set1Value(int row, const Value& value)
+template <class FieldValue>
+void KnMFieldOf<FieldValue>::set1Value(int row, const Value& value)
 {
     if (row < 0)
         return;
@@ -57,8 +57,8 @@ void KnMFieldOf<Value_>::set1Value(int row, const Value& value)
     touch();
 }
 
-template <class Value_>
-void KnMFieldOf<Value_>::setValues(int start, int num, const Value* values)
+template <class FieldValue>
+void KnMFieldOf<FieldValue>::setValues(int start, int num, const Value* values)
 {
     if (start < 0 || num <= 0)
         return;
@@ -69,8 +69,8 @@ void KnMFieldOf<Value_>::setValues(int start, int num, const Value* values)
     touch();
 }
 
-template <class Value_>
-void KnMFieldOf<Value_>::insertValues(int start, int num)
+template <class FieldValue>
+void KnMFieldOf<FieldValue>::insertValues(int start, int num)
 {
     if (num <= 0)
         return;
@@ -82,8 +82,8 @@ void KnMFieldOf<Value_>::insertValues(int start, int num)
     touch();
 }
 
-template <class Value_>
-void KnMFieldOf<Value_>::removeValues(int start, int num)
+template <class FieldValue>
+void KnMFieldOf<FieldValue>::removeValues(int start, int num)
 {
     const auto end
         = static_cast<int>(std::clamp<std::int64_t>(std::int64_t { start } + num, 0, getNum()));
@@ -94,8 +94,8 @@ void KnMFieldOf<Value_>::removeValues(int start, int num)
     touch();
 }
 
-template <class Value_>
-void KnMFieldOf<Value_>::get(KbString& text) const
+template <class FieldValue>
+void KnMFieldOf<FieldValue>::get(KbString& text) const
 {
     std::string out;
     {
@@ -116,8 +116,8 @@ void KnMFieldOf<Value_>::get(KbString& text) const
     text = KbString(std::move(out));
 }
 
-template <class Value_>
-bool KnMFieldOf<Value_>::readArray(KnTextReader& reader, std::vector<Value>& values)
+template <class FieldValue>
+bool KnMFieldOf<FieldValue>::readArray(KnTextReader& reader, std::vector<Value>& values)
 {
     if (!reader.accept('['))
         return KnTextForm<Value>::read(reader, values.emplace_back());
@@ -136,8 +136,8 @@ bool KnMFieldOf<Value_>::readArray(KnTextReader& reader, std::vector<Value>& val
     return true;
 }
 
-template <class Value_>
-bool KnMFieldOf<Value_>::set(const KbString& text)
+template <class FieldValue>
+bool KnMFieldOf<FieldValue>::set(const KbString& text)
 {
     KnTextReader reader(text.toUtf8());
     std::vector<Value> values;
@@ -152,8 +152,8 @@ bool KnMFieldOf<Value_>::set(const KbString& text)
     return true;
 }
 
-template <class Value_>
-bool KnMFieldOf<Value_>::get1(int row, KbString& text) const
+template <class FieldValue>
+bool KnMFieldOf<FieldValue>::get1(int row, KbString& text) const
 {
     std::string out;
     const bool known = row >= 0 && row < getNum();
@@ -165,8 +165,8 @@ bool KnMFieldOf<Value_>::get1(int row, KbString& text) const
     return known;
 }
 
-template <class Value_>
-bool KnMFieldOf<Value_>::set1(int row, const KbString& text)
+template <class FieldValue>
+bool KnMFieldOf<FieldValue>::set1(int row, const KbString& text)
 {
     if (row < 0 || row >= getNum()) {
         knPostRefusal(*this, row, text.toUtf8(), 0,

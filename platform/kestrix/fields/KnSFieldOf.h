@@ -8,10 +8,10 @@
 
 /// What all single-value field classes share: the value, and its text by the text form of the value
 /// type. A field class adds its type and nothing else; see KnSFields.h.
-template <class Value_>
+template <class FieldValue>
 class KnSFieldOf : public KnSField {
 public:
-    using Value = Value_;
+    using Value = FieldValue;
 
     const Value& getValue() const { return m_value; }
     void setValue(const Value& value)

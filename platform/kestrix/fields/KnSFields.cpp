@@ -4,8 +4,8 @@
 #include "KnFieldText.h"
 #include "KnTextForm.h"
 
-template <class Value_>
-void KnSFieldOf<Value_>::get(KbString& text) const
+template <class FieldValue>
+void KnSFieldOf<FieldValue>::get(KbString& text) const
 {
     std::string out;
     {
@@ -15,8 +15,8 @@ void KnSFieldOf<Value_>::get(KbString& text) const
     text = KbString(std::move(out));
 }
 
-template <class Value_>
-bool KnSFieldOf<Value_>::set(const KbString& text)
+template <class FieldValue>
+bool KnSFieldOf<FieldValue>::set(const KbString& text)
 {
     if (!knReadWhole(*this, -1, text, m_value, &KnTextForm<Value>::read))
         return false;
