@@ -26,9 +26,15 @@ function(corvane_strict_qt target)
         QT_NO_URL_CAST_FROM_STRING QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 endfunction()
 
+# Gives GCC what ccache needs to share objects that were built with a precompiled header.
+function(corvane_share_pch_objects target)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
+        target_compile_options(${target} PRIVATE -fpch-preprocess)
+    endif()
+endfunction()
+
 # Compiles the Qt headers that nearly every source includes once for the target.
 function(corvane_qt_pch target)
     target_precompile_headers(${target} PRIVATE <QtWidgets> ${ARGN})
-    # What ccache needs to share objects that were built with a precompiled header.
-    target_compile_options(${target} PRIVATE -fpch-preprocess)
+    corvane_share_pch_objects(${target})
 endfunction()

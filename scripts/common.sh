@@ -7,7 +7,7 @@ jobs=$(nproc)
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libbenchmark-dev)
 test_packages=(xvfb xauth openbox locales clang-format binutils)
-tidy_packages=(clang-tidy)
+lint_packages=(clang-tidy)
 
 fail() {
     echo "$(basename "$0"): $*" >&2
@@ -62,13 +62,19 @@ choose_build_root() {
     fi
 }
 
-# build PRESET [TARGETS...]: configures and builds. A tree that was moved is configured anew.
-build() {
-    local preset=$1 dir=$build_root/$1 target_options=() fresh=() known
-    shift
-    [ $# -gt 0 ] && target_options=(--target "$@")
+# configure PRESET: a tree that was moved is configured anew.
+configure() {
+    local preset=$1 dir=$build_root/$1 fresh=() known
     known=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$dir/CMakeCache.txt" 2>/dev/null)
     [ -z "$known" ] || [ "$known" = "$source_dir" ] || fresh=(--fresh)
-    (cd "$source_dir" && cmake --preset "$preset" "${fresh[@]}" -B "$dir") &&
-        cmake --build "$dir" --parallel "$jobs" "${target_options[@]}"
+    (cd "$source_dir" && cmake --preset "$preset" "${fresh[@]}" -B "$dir")
+}
+
+# build PRESET [TARGETS...]: configures and builds.
+build() {
+    local preset=$1 target_options=()
+    shift
+    [ $# -gt 0 ] && target_options=(--target "$@")
+    configure "$preset" &&
+        cmake --build "$build_root/$preset" --parallel "$jobs" "${target_options[@]}"
 }
