@@ -3,6 +3,7 @@
 
 #include "CellEditing.h"
 #include "CellText.h"
+#include "NumberLimits.h"
 #include "NumberLocale.h"
 #include "QUIntValidator.h"
 #include "QULongValidator.h"
@@ -24,8 +25,6 @@ namespace {
 // How much narrower than its cell a text stays, in pixels, both sides together.
 constexpr int cellPadding = 4;
 constexpr unsigned int unsignedTop = std::numeric_limits<unsigned int>::max();
-constexpr double floatTop = 3.4028234663852886e38;
-constexpr int floatDecimals = 6;
 
 /// Null for a kind whose lines take any text.
 QValidator* makeValidator(int kind, QObject* parent)
@@ -44,7 +43,7 @@ QValidator* makeValidator(int kind, QObject* parent)
     case UInt32Kind:
         return new QULongValidator(0, unsignedTop, parent);
     case FloatKind:
-        return new QDoubleValidator(-floatTop, floatTop, floatDecimals, parent);
+        return new QDoubleValidator(-floatLimit, floatLimit, floatDecimals, parent);
     case DoubleKind:
         return new QDoubleValidator(parent);
     default:
