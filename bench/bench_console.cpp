@@ -101,6 +101,7 @@ template <class Print>
 int flood(const QTextEdit& view, int lines, const char* what, Print print)
 {
     std::vector<std::thread> threads;
+    threads.reserve(floodThreads);
     for (int thread = 0; thread < floodThreads; ++thread) {
         threads.emplace_back([=] {
             for (int i = 0; i < lines / floodThreads; ++i)

@@ -24,6 +24,7 @@ const KnMFVec3f& points()
         std::mt19937 random(1); // NOLINT: the same points each time
         std::uniform_real_distribution<float> coordinate(-500.0F, 500.0F);
         std::vector<KbVec3f> values;
+        values.reserve(valueCount);
         for (int i = 0; i < valueCount; ++i)
             values.emplace_back(coordinate(random), coordinate(random), coordinate(random));
         made.setValues(0, valueCount, values.data());
