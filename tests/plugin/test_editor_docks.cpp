@@ -6,56 +6,17 @@
 #include "EditorSelection.h"
 #include "KnDatabase.h"
 
-#include <QDockWidget>
 #include <QLineEdit>
-#include <QUndoStack>
 
 #include <algorithm>
 #include <array>
 
 namespace {
 
-/// An editor that writes down what the dock asks of it.
+/// An editor that handles whatever a case wants.
 class ProbeEditor : public CrvEditor {
 public:
-    explicit ProbeEditor(const KnType& type = {})
-    {
-        m_handledType = type;
-        m_widget = &m_label;
-    }
     void handle(const KnType& type) { m_handledType = type; }
-    void activate() override
-    {
-        CrvEditor::activate();
-        log << QStringLiteral("activate");
-    }
-    void deactivate() override
-    {
-        CrvEditor::deactivate();
-        log << (getEditedObject() ? QStringLiteral("deactivate with object")
-                                  : QStringLiteral("deactivate without object"));
-    }
-    QStringList log;
-
-private:
-    QFrame m_label;
-};
-
-/// A plug-in that offers one editor under a name of its own.
-class ProbePlugin : public CrvPlugin {
-public:
-    explicit ProbePlugin(CrvExtension* extension)
-        : m_extension(extension)
-    {
-    }
-    void load() override
-    {
-        addExtension(m_extension);
-        CrvPlugin::load();
-    }
-
-private:
-    CrvExtension* m_extension;
 };
 
 } // namespace
@@ -116,72 +77,6 @@ private Q_SLOTS:
             winner < 0 ? nullptr : &editors[static_cast<std::size_t>(winner)]);
     }
 
-    void docksComeAndGo()
-    {
-        EditorFixture fixture;
-        const QStringList calls = fixture.shell().calls();
-        const auto dock = calls.indexOf(QStringLiteral("addDockWidget Field Editor 2"));
-        QVERIFY(dock >= 0);
-        QCOMPARE(calls.value(dock + 1), QStringLiteral("registerExtension Field Editor 1"));
-        QVERIFY(calls.contains(QStringLiteral("addDockWidget Node Editor 2")));
-
-        fixture.shell().calls().clear();
-        CrvPluginsManager::getInstance()->unloadAll();
-        QVERIFY(fixture.shell().extensions().isEmpty());
-        QVERIFY(fixture.shell().calls().contains(QStringLiteral("removeDockWidget Field Editor")));
-    }
-
-    void aSelectionShowsTheDockAndNoneHidesIt()
-    {
-        EditorFixture fixture;
-        auto* const dock
-            = fixture.shell().window().findChild<QDockWidget*>(QStringLiteral("Field Editor"));
-        QVERIFY(dock && dock->isHidden());
-        fixture.select(fixture.field("SFBool"));
-        QVERIFY(dock->isVisible());
-        QCOMPARE(dock->widget(), fixture.editor()->getFrame());
-        QVERIFY(fixture.editor()->getFrame()->isVisible());
-
-        QPointer<QFrame> frame = fixture.editor()->getFrame();
-        fixture.select(nullptr);
-        QVERIFY(dock->isHidden());
-        QCOMPARE(dock->widget(), nullptr);
-        QCOMPARE(fixture.editor(), nullptr);
-        QVERIFY(frame && !frame->parent() && frame->isHidden());
-    }
-
-    void anotherFieldOfTheTypeMovesTheSensor()
-    {
-        EditorFixture fixture;
-        fixture.select(fixture.field("SFBool"));
-        CrvFieldEditors* const editor = fixture.editor();
-        fixture.select(fixture.otherField("SFBool"));
-        QCOMPARE(fixture.editor(), editor);
-        auto* const box = fixture.child<QAbstractButton>("m_box");
-        EditorFixture::write(fixture.field("SFBool"), "TRUE");
-        QVERIFY(!box->isChecked());
-        EditorFixture::write(fixture.otherField("SFBool"), "TRUE");
-        QVERIFY(box->isChecked());
-        QCOMPARE(fixture.undoStack().count(), 0);
-    }
-
-    void anEditorWithoutAFieldStaysHidden()
-    {
-        EditorFixture fixture;
-        WfSFBoolWidget editor;
-        editor.load();
-        editor.activate();
-        QVERIFY(editor.getFrame()->isHidden());
-        editor.setEditedObject(&fixture.node());
-        editor.activate();
-        QVERIFY(editor.getFrame()->isHidden());
-        editor.deactivate();
-        editor.unload();
-        // An editor that was never loaded may go as well.
-        WfSFBoolWidget untouched;
-        untouched.deactivate();
-    }
-
     void deactivationGivesTheFrameBack()
     {
         EditorFixture fixture;
@@ -220,26 +115,6 @@ private Q_SLOTS:
             QVERIFY(!qobject_cast<CrvEditor*>(extension) || !extension->isActive());
         QCOMPARE(CrvServices::getInstance()->getSelectedField(), fixture.field("SFFloat"));
         (*dock)->activate();
-    }
-
-    void aNodeEditorOfAnotherPlugInShows()
-    {
-        EditorFixture fixture;
-        ProbeEditor editor(KnTestNode::getClassTypeId());
-        ProbePlugin plugin(&editor);
-        CrvPluginsManager::getInstance()->adoptPlugin(&plugin);
-        auto* const dock
-            = fixture.shell().window().findChild<QDockWidget*>(QStringLiteral("Node Editor"));
-        QVERIFY(dock->isHidden());
-        CrvServices::getInstance()->selectNode(&fixture.node());
-        QVERIFY(dock->isVisible());
-        QCOMPARE(editor.getEditedObject(), &fixture.node());
-        CrvServices::getInstance()->selectNode(nullptr);
-        QVERIFY(dock->isHidden());
-        QCOMPARE(editor.log,
-            QStringList({ QStringLiteral("activate"), QStringLiteral("deactivate with object") }));
-        QCOMPARE(editor.getEditedObject(), nullptr);
-        CrvPluginsManager::getInstance()->unloadAll();
     }
 };
 
