@@ -114,6 +114,7 @@ private Q_SLOTS:
                 QCOMPARE(inner.getText().toUtf8(), "from a handler");
             }
             QCOMPARE(outer.getText().toUtf8(), "a");
+            KnReadError::post("still the outer one's");
             QVERIFY(errors.texts.isEmpty());
         }
         KnReadError::post("e");

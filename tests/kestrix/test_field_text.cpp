@@ -92,7 +92,7 @@ const QMap<QByteArray, QByteArrayList> rows = {
             "1.5 -> [ 1.5 ]", "[ 1, 2 -> ! row 1, 6: a comma or a closing bracket, the text ends",
             "[ 1 2 ] -> ! row 0, 4: a comma or a closing bracket",
             "1, 2 -> ! 1: the end of the text", "[ 3 ] x -> ! 6: the end of the text",
-            " -> ! row 0, 0: a number, the text ends" } },
+            R"(""5 -> ! row 0, 0: a number)", " -> ! row 0, 0: a number, the text ends" } },
     { "MFString",
         { R"([a,b , "c"] -> [ "a", "b", "c" ])", R"([ "a, b", "]", "" ])",
             R"(alone -> [ "alone" ])",

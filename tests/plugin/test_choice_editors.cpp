@@ -120,6 +120,12 @@ private Q_SLOTS:
         fixture.select(&mask);
         QCOMPARE(boxes(fixture), QStringLiteral("[A] B [C]"));
         QVERIFY(fixture.child<QCheckBox>("m_checkBoxes")->isVisible());
+
+        other.setEnums({ { "ONE", 2 }, { "BOTH", 3 } });
+        other = 1;
+        fixture.select(&other);
+        clickFirst(fixture);
+        QCOMPARE(other.getValue(), 3);
         QCOMPARE(fixture.undoStack().count(), 0);
     }
 };

@@ -133,6 +133,7 @@ private Q_SLOTS:
         QTest::newRow("at Esc") << Act([](Popup& popup) { popup.press(Qt::Key_Escape); })
                                 << QStringLiteral("0 0 0 0");
         QTest::newRow("at Esc beside an unfinished line") << Act([](Popup& popup) {
+            popup.lines[0]->selectAll();
             QTest::keyClicks(popup.lines[0], QStringLiteral("-"));
             popup.press(Qt::Key_Escape);
         }) << QStringLiteral("0 0 0 0");

@@ -235,8 +235,13 @@ private Q_SLOTS:
         type(bench, row.typed, Qt::Key_Return);
         QVERIFY(bench.slider->isModified());
         QCOMPARE(bench.line->text(), QLatin1String(row.left));
-        SliderInput(bench.scale).press();
-        QCOMPARE(toQString(bench.slider->m_oldValue), QLatin1String(row.value));
+        // The scale reaches the value: letting go of the handle there keeps a whole number.
+        for (int i = 0; i < (row.kind < Float ? 2 : 1); ++i) {
+            SliderInput mouse(bench.scale);
+            mouse.press();
+            QCOMPARE(toQString(bench.slider->m_oldValue), QLatin1String(row.value));
+            mouse.release();
+        }
     }
 
     void aRangeWithoutAValueTellsNobody()

@@ -62,6 +62,11 @@ private Q_SLOTS:
         redirector->sputn("late ", 5);
         redirector->sputc('c');
         QCOMPARE(stream.str(), std::string("late c"));
+        // Nor does the next capture begin with what was left of this one.
+        captureStream(stream, &takeText, &received);
+        stream.put('\n');
+        QCOMPARE(received, std::string("|"));
+        releaseStream(redirector);
     }
 
     void theCallbackMayPrintAndRelease()
