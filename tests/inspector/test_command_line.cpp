@@ -32,7 +32,7 @@ private Q_SLOTS:
         row("--profiles|/dev/zero", u"/dev/zero: this is a device, not a file"_s, 2);
         row("--plugin|missing.so", u"missing.so: there is no such file"_s, 2);
         row("--plugin|station.json", u"station.json: this is not a library"_s, 2);
-        row("all_fields.json|--select|Nobody.on", u"\"Nobody\""_s, 2);
+        row("all_fields.json|--select|No.body.on", u"\"No.body\""_s, 2);
         row("all_fields.json|--select|Oak.on", u"\"on\""_s, 2);
         row("--picture|missing/a.png", u"missing/a.png: "_s, 2);
         row("", u"Wrote "_s, 0);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "CrvExtension.h"
 #include "CrvServices.h"
 #include "FileMenu.h"
 #include "InspectorFixture.h"
@@ -141,6 +142,7 @@ private Q_SLOTS:
         dynamic_cast<KnMFVec3f*>(points)->set1Value(0, KbVec3f(1.0F, 2.0F, 3.0F));
         QTRY_VERIFY(inspector.window.isWindowModified());
         QVERIFY2(document.save(m_folder->filePath(u"copy.json"_s), &error), qPrintable(error));
+        QVERIFY(inspector.window.windowTitle().startsWith(u"copy.json"_s));
         QVERIFY(!inspector.window.isWindowModified());
     }
 
@@ -155,6 +157,8 @@ private Q_SLOTS:
         QTest::mouseClick(console->findChild<QAbstractButton*>(closeButton), Qt::LeftButton);
         inspector.choose(u"viewMenu"_s, u"Profile Selector"_s);
         QVERIFY(inspector.window.findChild<QToolBar*>()->isHidden());
+        for (const CrvExtension* each : CrvPluginsManager::getInstance()->getExtensions())
+            QVERIFY(!each->isShown() || each->getName() != KbString("Console"));
         QCOMPARE(entries(), u"Profile Selector, Console, Field Editor*, Node Editor"_s);
         inspector.choose(u"viewMenu"_s, u"Console"_s);
         QVERIFY(console->isVisible());

@@ -6,6 +6,7 @@
 #include "KnMaterial.h"
 #include "KnSFields.h"
 #include "KnSensorQueue.h"
+#include "KnViewpoint.h"
 #include "SceneFilterModel.h"
 #include "SceneModel.h"
 #include "ScenePanel.h"
@@ -119,10 +120,16 @@ private Q_SLOTS:
         QCOMPARE(cells.join(u' '), u"transparency SFFloat 0.25 yes"_s);
 
         // A node that isn't shown any more isn't watched.
-        model.setNode(nullptr);
+        auto* const view = new KnViewpoint;
+        const KnNodePtr next(view);
+        view->description.setValue("<b>");
+        model.setNode(view);
         material->transparency.setValue(0.5F);
         KnSensorQueue::getInstance().process();
         QCOMPARE(changes.size(), 1);
+        // A tag in a value is text.
+        QCOMPARE(model.index(0, FieldListModel::ValueColumn).data(Qt::ToolTipRole).toString(),
+            u"&quot;&lt;b&gt;&quot;"_s);
     }
 
     void summariesStayShort()
@@ -132,6 +139,7 @@ private Q_SLOTS:
         };
         const QString numbers = QStringList(9999, u"12345678"_s).join(u", "_s);
         QCOMPARE(summary(KnMFInt32(), u"[]"_s), u"no values"_s);
+        QCOMPARE(summary(KnMFInt32(), u"[7]"_s), u"1 value:  7"_s);
         QCOMPARE(summary(KnMFInt32(), u"[1, 2]"_s), u"2 values:  1, 2"_s);
         QCOMPARE(summary(KnMFInt32(), u'[' + numbers + u']'),
             u"9999 values:  "_s + numbers.left(30) + u'\u2026');

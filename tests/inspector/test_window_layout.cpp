@@ -40,6 +40,7 @@ private Q_SLOTS:
         QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
         m_settings = std::make_unique<QSettings>(m_fileName, QSettings::IniFormat);
         m_settings->clear();
+        m_settings->setValue(u"window/restoring"_s, true); // until it is saved
         Window window(m_settings.get());
         window.addDockWidget(Qt::RightDockWidgetArea, window.dock);
         window.resize(changedSize);
