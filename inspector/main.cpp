@@ -26,6 +26,7 @@ QStringList argumentList(int argc, char** argv)
 // The arguments for the application object, which would take "--plugin" for an option of its own.
 class ApplicationArguments {
 public:
+    // NOLINTNEXTLINE(readability-non-const-parameter): the application object gets it as it came
     ApplicationArguments(char* program, const QStringList& arguments)
         : m_pointers { program }
     {

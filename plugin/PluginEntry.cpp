@@ -4,17 +4,17 @@
 #include "CrvDefaults.h"
 
 namespace {
-CrvDefaults* s_plugin = nullptr; // owned, from loadPlugin to unloadPlugin
+CrvDefaults* plugin = nullptr; // owned, from loadPlugin to unloadPlugin
 }
 
 CrvPlugin* loadPlugin()
 {
-    s_plugin = new CrvDefaults;
-    return s_plugin;
+    plugin = new CrvDefaults;
+    return plugin;
 }
 
 void unloadPlugin()
 {
-    delete s_plugin;
-    s_plugin = nullptr;
+    delete plugin;
+    plugin = nullptr;
 }

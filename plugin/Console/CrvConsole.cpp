@@ -223,18 +223,18 @@ void CrvConsole::takeError(const KnError* error, void* data)
     QCoreApplication::postEvent(static_cast<CrvConsole*>(data), event.release(), 0);
 }
 
-template <int outputType>
+template <int Type>
 void CrvConsole::takeStreamText(const char* text, std::streamsize count, void* userData)
 {
     auto* const console = static_cast<CrvConsole*>(userData);
     const QString message = QString::fromUtf8(text, static_cast<qsizetype>(count));
     if (QThread::currentThread() == console->thread()) {
-        console->m_feed.print({ message, outputType, {} });
+        console->m_feed.print({ message, Type, {} });
         return;
     }
     auto event = std::make_unique<PrintEvent>(
         message, console->m_brake.enter(messageWeight + static_cast<std::size_t>(count)));
-    event->setOutputType(outputType);
+    event->setOutputType(Type);
     QCoreApplication::postEvent(console, event.release(), 0);
 }
 

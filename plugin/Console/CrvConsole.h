@@ -73,7 +73,7 @@ private:
     static constexpr int errorClassCount = 6;
 
     static void takeError(const KnError* error, void* data);
-    template <int outputType>
+    template <int Type>
     static void takeStreamText(const char* text, std::streamsize count, void* userData);
 
     class PrintEvent;

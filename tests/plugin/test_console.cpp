@@ -200,6 +200,10 @@ private Q_SLOTS:
 
     void whatStillWaitsAtUnloadShowsInNoView()
     {
+        // More than a slice, so that some of it waits for the next one.
+        for (int i = 0; i < 2000; ++i)
+            KnReadError::post("late");
+        QCoreApplication::sendPostedEvents(m_console.get(), QEvent::User);
         std::thread([] {
             KnReadError::post("late");
             std::cout << "late";
@@ -216,6 +220,7 @@ private Q_SLOTS:
         QCoreApplication::postEvent(m_console.get(), new QEvent(QEvent::User));
         QCoreApplication::processEvents();
         std::cout << "new";
+        QCoreApplication::processEvents();
         m_console->deactivate();
         m_console->activate();
         QCOMPARE(text(), u"new"_s);

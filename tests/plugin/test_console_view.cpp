@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -122,6 +123,17 @@ m_saveButton icon=16x16 toolTip=Saves the content of the console]])"_s;
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), plain.join(u'\n').toLatin1());
         QCOMPARE(QDir().entryList(QDir::Files), QStringList(file.fileName()));
+    }
+
+    void newTextLeavesAReaderWhereTheyAre()
+    {
+        std::cout << QByteArray("line\n").repeated(500).constData();
+        QScrollBar& bar = *view()->verticalScrollBar();
+        QVERIFY(bar.maximum() > 10);
+        QCOMPARE(bar.value(), bar.maximum());
+        bar.setValue(10);
+        std::cout << "more";
+        QCOMPARE(bar.value(), 10);
     }
 
     void aWordThatFillsManyLinesIsShownAtOnceAndWhole_data()

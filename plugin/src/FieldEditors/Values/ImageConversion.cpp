@@ -39,17 +39,17 @@ void convertRow(const unsigned char* source, QRgb* row, int width, std::integral
         row[x] = qRgba(source[0], source[1], source[2], source[3]);
 }
 
-template <int components>
+template <int Components>
 QImage flippedColors(const unsigned char* bytes, int width, int height)
 {
     QImage image(width, height, QImage::Format_ARGB32);
     if (image.isNull())
         return image;
-    const std::size_t rowBytes = std::size_t(width) * std::size_t(components);
+    const std::size_t rowBytes = std::size_t(width) * std::size_t(Components);
     for (int y = 0; y < height; ++y) {
         convertRow(bytes + std::size_t(y) * rowBytes,
             reinterpret_cast<QRgb*>(image.scanLine(height - 1 - y)), width,
-            std::integral_constant<int, components> {});
+            std::integral_constant<int, Components> {});
     }
     return image;
 }
