@@ -52,6 +52,7 @@ void CrvProfileSelectorExtension::activate()
     int position = 0;
     int activePosition = -1;
     for (const CrvProfile* profile : manager->getProfilesList()) {
+        // Names are shown in Latin-1, whatever the list's source was written in.
         m_comboBox->addItem(QString::fromLatin1(profile->getName().toLatin1()));
         if (profile == activeProfile)
             activePosition = position;

@@ -16,7 +16,9 @@ struct ColumnBoxStyle {
 };
 
 /// Base of the editors that show a labelled input for each component: columns side by side, each a
-/// label above an input.
+/// label above an input. It stands between WfSFieldWidget and the boxes of lines and of spin boxes,
+/// so that columns are built in one place; inputs and labels are arrays, since every loop over them
+/// serves two, three and four components.
 class WfSFColumnBox : public WfSFieldWidget {
     Q_OBJECT
 public:

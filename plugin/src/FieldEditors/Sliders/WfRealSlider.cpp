@@ -29,7 +29,8 @@ WfRealSlider::WfRealSlider(
 void WfRealSlider::setRange(double min, double max, bool bounded)
 {
     if (!bounded) {
-        // The limits of an earlier bounded range no longer apply.
+        // A field may get a free range behind one with a bounded range, whose limits then no longer
+        // apply. The integer sliders have one range for all fields, which only ever narrows.
         const double limit = SliderMath::realLimit(m_isFloat);
         limitType(-limit, limit);
     }
