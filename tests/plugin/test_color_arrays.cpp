@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ArrayFixture.h"
 #include "DialogInput.h"
+#include "TextRows.h"
 
 #include <QColorDialog>
 
@@ -31,48 +32,41 @@ private Q_SLOTS:
 
     void theSwatchShowsTheColor_data()
     {
-        QTest::addColumn<QString>("values");
-        QTest::addColumn<QString>("color");
-        const auto row = [](const char* type, const char* values, const char* color) {
-            QTest::addRow("%s %s", type, values) << values << color;
-        };
-        row("MFColor", "[ 1 0.5 0 ]", "#ff7f00");
-        row("MFColor", "[ -0.003 1 0 ]", "#00ff00");
-        row("MFColor", "[ 1.01 0 0 ]", "blank");
-        row("MFColor", "[ 0 nan 0 ]", "blank");
-        row("MFColorRGBA", "[ 1 0.5 0 1 ]", "#ff7f00");
-        row("MFColorRGBA", "[ 1 0.5 0 0 ]", "blank");
-        row("MFColorRGBA", "[ 1 0.5 0 1.01 ]", "blank");
+        addTextRows({
+            { "MFColor", "[ 1 0.5 0 ]", "#ff7f00" },
+            { "MFColor", "[ -0.003 1 0 ]", "#00ff00" },
+            { "MFColor", "[ 1.01 0 0 ]", "blank" },
+            { "MFColor", "[ 0 nan 0 ]", "blank" },
+            { "MFColorRGBA", "[ 1 0.5 0 1 ]", "#ff7f00" },
+            { "MFColorRGBA", "[ 1 0.5 0 0 ]", "blank" },
+            { "MFColorRGBA", "[ 1 0.5 0 1.01 ]", "blank" },
+        });
     }
 
     void theSwatchShowsTheColor()
     {
-        QFETCH(QString, values);
-        QFETCH(QString, color);
+        const auto [type, values, color] = textRow<3>();
         ArrayFixture fixture;
-        fixture.show(QString::fromLatin1(QTest::currentDataTag()).section(u' ', 0, 0), values);
+        fixture.show(type, values);
         const QString blank = fixture.table()->palette().base().color().name();
         QCOMPARE(swatch(fixture.table(), 0).name().replace(blank, QStringLiteral("blank")), color);
     }
 
     void oneClickOpensTheDialog_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("edited");
-        QTest::newRow("MFColor") << "[ 0 0 0, 1 0.5 0, 1 1 1 ]"
-                                 << "[ 0 0 0, 0.2 0 1, 1 1 1 ]";
-        QTest::newRow("MFColorRGBA") << "[ 0 0 0 0, 1 0.5 0 1, 1 1 1 1 ]"
-                                     << "[ 0 0 0 0, 0.2 0 1 0.2, 1 1 1 1 ]";
+        addTextRows({
+            { "MFColor", "[ 0 0 0, 1 0.5 0 ]", "[ 0 0 0, 0.2 0 1 ]" },
+            { "MFColorRGBA", "[ 0 0 0 0, 1 0.5 0 1 ]", "[ 0 0 0 0, 0.2 0 1 0.2 ]" },
+        });
     }
 
     void oneClickOpensTheDialog()
     {
-        QFETCH(QString, start);
-        QFETCH(QString, edited);
-        const QLatin1String type(QTest::currentDataTag());
+        const auto texts = textRow<3>();
+        const auto& [type, start, edited] = texts;
         ArrayFixture fixture;
         const KnField& field = fixture.show(type, start);
-        fixture.table()->setCurrentCell(2, 2);
+        fixture.table()->setCurrentCell(0, 2);
         QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
             QCOMPARE(dialog->windowTitle(), QStringLiteral("color dialog"));
             QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), type.endsWith(u'A'));
@@ -89,28 +83,23 @@ private Q_SLOTS:
 
     void aColorReachesItsRowOrNone_data()
     {
-        // What another part of the program does behind the dialog.
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("outside");
-        QTest::addColumn<QString>("end"); // of a green one for the second row
-        const auto row = [](const char* name, const char* start, const char* outside,
-                             const char* end) { QTest::newRow(name) << start << outside << end; };
-        row("another field", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 0 0 ]");
-        row("gone", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0 ]", "[ 0 0 0 ]");
-        row("added above", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 0 0 1, 1 0 0 ]",
-            "[ 0 0 0, 0 0 1, 1 0 0 ]");
-        row("added above equal ones", "[ 1 0 0, 1 0 0 ]", "[ 0 0 1, 1 0 0, 1 0 0 ]",
-            "[ 0 0 1, 1 0 0, 1 0 0 ]");
-        row("one gone, one come", "[ 0 0 0, 1 0 0 ]", "[ 1 0 0, 0 0 1 ]", "[ 1 0 0, 0 0 1 ]");
-        row("written in place", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 1 0 ]", "[ 0 0 0, 0 1 0 ]");
-        row("others written", "[ 0 0 0, 1 0 0 ]", "[ 0 0 1, 1 0 0 ]", "[ 0 0 1, 0 1 0 ]");
+        // What another part of the program does behind the dialog, and what becomes of a green
+        // for the second row.
+        addTextRows({
+            { "another field", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 0 0 ]" },
+            { "gone", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0 ]", "[ 0 0 0 ]" },
+            { "added above equal ones", "[ 1 0 0, 1 0 0 ]", "[ 0 0 1, 1 0 0, 1 0 0 ]",
+                "[ 0 0 1, 1 0 0, 1 0 0 ]" },
+            { "one gone, one come", "[ 0 0 0, 1 0 0 ]", "[ 1 0 0, 0 0 1 ]", "[ 1 0 0, 0 0 1 ]" },
+            { "written in place", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 1 0 ]", "[ 0 0 0, 0 1 0 ]" },
+            { "others written", "[ 0 0 0, 1 0 0 ]", "[ 0 0 1, 1 0 0 ]", "[ 0 0 1, 0 1 0 ]" },
+        });
     }
 
     void aColorReachesItsRowOrNone()
     {
-        QFETCH(QString, start);
-        QFETCH(QString, outside);
-        QFETCH(QString, end);
+        const auto texts = textRow<4>();
+        const auto& [name, start, outside, end] = texts;
         ArrayFixture fixture;
         KnMFColor& other = fixture.otherNode().MFColor;
         other.setNum(2);

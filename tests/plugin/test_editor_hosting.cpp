@@ -2,53 +2,33 @@
 #include "CrvPluginsManager.h"
 #include "CrvServices.h"
 #include "EditorFixture.h"
-#include "KnSensorQueue.h"
+#include "EditorSelection.h"
+#include "KnDatabase.h"
+#include "TextRows.h"
 
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QScopeGuard>
 
 #include <algorithm>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A field editor that writes down what it is asked for.
-class ProbeFieldEditor : public CrvFieldEditors {
+/// An editor that handles whatever a case wants.
+class AnyEditor : public CrvEditor {
 public:
-    void attachField(KnField* field) override
-    {
-        log << (isActive() ? u"attach"_s : u"attach too early"_s);
-        CrvFieldEditors::attachField(field);
-    }
-    void updateFromField() override { log << u"update"_s; }
-    void show() override
-    {
-        CrvFieldEditors::show();
-        log << (isShown() && !getFrame()->isHidden() ? u"show"_s : u"show nothing"_s);
-    }
-    void hide() override
-    {
-        CrvFieldEditors::hide();
-        log << (!isShown() && getFrame()->isHidden() ? u"hide"_s : u"hide nothing"_s);
-    }
-    void setFieldUpdateEnabled(bool) override { log << u"gate"_s; }
-    void swapFieldValues(int, int) override { log << u"swap"_s; }
-    void setFieldValue(int, int, QString) override { log << u"set"_s; }
-    void setFieldColor(int, const void*) override { log << u"color"_s; }
-    void applyChanges() override { log << u"apply"_s; }
-
-    QStringList log;
+    void handle(const QString& type) { m_handledType = KnType::fromName(KbName(qPrintable(type))); }
 };
 
 /// An editor of another plug-in, which writes what a dock asks of it behind the shell's calls.
-class ProbeEditor : public CrvEditor {
+class ProbeEditor : public AnyEditor {
 public:
     ProbeEditor(const QString& type, QStringList& log)
         : m_log(log)
     {
-        m_handledType = KnType::fromName(KbName(qPrintable(type)));
+        handle(type);
         m_widget = &m_frame;
     }
     void setEditedObject(KnTypedObject* object) override
@@ -110,103 +90,47 @@ class TestEditorHosting : public QObject {
 private Q_SLOTS:
     void init() { failOnWarnings(); }
 
-    void anEditorFromLoadToUnload()
+    /// Which of the editors, given in the order of the map, serves an object of a type.
+    void selectionRule_data()
     {
-        KnSFBool first;
-        KnSFBool second;
-        auto editor = std::make_unique<ProbeFieldEditor>();
-        const QPointer<QFrame> frame = editor->getFrame();
-        QVERIFY(editor->getWidget() == frame && !frame->parent() && frame->children().isEmpty());
-
-        QStringList steps;
-        const auto step = [&steps, &editor](const char* name) {
-            steps << QLatin1String(name) + u": "_s + editor->log.join(u' ');
-            editor->log.clear();
-        };
-        const auto touch = [](KnField& field) {
-            field.touch();
-            KnSensorQueue::getInstance().process();
-        };
-        editor->deactivate();
-        step("deactivate, never loaded");
-        editor->load();
-        step("load");
-        editor->activate();
-        step("activate without an object");
-        auto* const node = new KnTestNode;
-        node->ref();
-        editor->setEditedObject(node);
-        editor->activate();
-        step("activate with a node");
-        node->unref();
-        editor->setEditedObject(&first);
-        editor->activate();
-        step("activate with a field");
-        touch(first);
-        step("the field changes");
-        editor->deactivate();
-        step("deactivate");
-        QVERIFY(!editor->isActive());
-        touch(first);
-        step("the field changes behind it");
-        editor->setEditedObject(&second);
-        editor->activate();
-        step("activate with another field");
-        touch(first);
-        step("the former field changes");
-        touch(second);
-        step("the field shown changes");
-        editor->unload();
-        touch(second);
-        step("the field changes behind unload");
-        editor->unload();
-        editor->load();
-        editor->activate();
-        touch(second);
-        step("once more");
-        QCOMPARE(steps,
-            QStringList({ u"deactivate, never loaded: hide"_s, u"load: hide"_s,
-                u"activate without an object: "_s, u"activate with a node: "_s,
-                u"activate with a field: attach update show"_s, u"the field changes: update"_s,
-                u"deactivate: hide"_s, u"the field changes behind it: "_s,
-                u"activate with another field: attach update show"_s,
-                u"the former field changes: "_s, u"the field shown changes: update"_s,
-                u"the field changes behind unload: "_s,
-                u"once more: hide attach update show update"_s }));
-        editor.reset();
-        QVERIFY(!frame);
-        touch(second);
+        addTextRows({
+            { "SFFloat MField", "SFBool", "-1" }, { "SFFloat SFBool", "SFBool", "1" },
+            { "SFFilePathString SFString SField", "SFFilePathString", "0" },
+            { "SField SFString SFFilePathString", "SFFilePathString", "2" },
+            { "SFString SFFilePathString SField", "SFFilePathString", "1" },
+            { "SField SFString SFFilePathString", "SFString", "1" },
+            { "SFBool SFBool", "SFBool", "1" }, // the later of equals
+            { "SField SField MField", "SFTime", "1" },
+            { "none SFBool", "SFBool", "1" }, // an editor without a type
+        });
+    }
+    void selectionRule()
+    {
+        const auto [handled, object, winner] = textRow<3>();
+        KnDatabase::init();
+        // The map is ordered by pointer, so one array gives the order of the editors.
+        std::array<AnyEditor, 3> editors;
+        std::map<CrvExtension*, CrvProfileSetting*> map;
+        AnyEditor* next = editors.data();
+        for (const QString& type : handled.split(u' ')) {
+            next->handle(type);
+            map[next++] = nullptr;
+        }
+        const KnType type = KnType::fromName(KbName(qPrintable(object)));
+        QVERIFY(!type.isBad());
+        QCOMPARE(
+            selectEditor(map, type), winner == u"-1"_s ? nullptr : editors.data() + winner.toInt());
     }
 
-    void aDockOfItsOwn_data() { docks(); }
-    void aDockOfItsOwn()
+    void aDockAndItsEditor_data()
     {
-        QFETCH(QString, dockName);
-        CrvFieldEditorDockWin fieldDock;
-        CrvNodeEditor nodeDock;
-        CrvExtension& extension = dockName == u"Field Editor"_s
-            ? static_cast<CrvExtension&>(fieldDock)
-            : static_cast<CrvExtension&>(nodeDock);
-        extension.unload(); // which is allowed before
-        extension.load();
-        QCOMPARE(QApplication::topLevelWidgets().size(), 1);
-        const QPointer<QWidget> dock = QApplication::topLevelWidgets().first();
-        QVERIFY(qobject_cast<QDockWidget*>(dock) && dock->isHidden() && !dock->acceptDrops());
-        QCOMPARE(dock->windowTitle(), dockName);
-        QCOMPARE(dock->objectName(), dockName);
-        extension.show();
-        QVERIFY(extension.isShown() && dock->isVisible());
-        extension.hide();
-        QVERIFY(!extension.isShown() && dock->isHidden());
-        extension.unload();
-        QVERIFY(!dock);
+        addTextRows({ { "Field Editor", "SFTime" }, { "Node Editor", "TestNode" } });
     }
-
-    void aDockAndItsEditor_data() { docks(); }
     void aDockAndItsEditor()
     {
-        QFETCH(QString, dockName);
-        QFETCH(QString, type);
+        const auto texts = textRow<2>();
+        const QString& dockName = texts[0];
+        const QString& type = texts[1];
         EditorFixture fixture;
         QStringList& log = fixture.shell().calls();
         ProbeEditor editor(type, log);
@@ -232,6 +156,7 @@ private Q_SLOTS:
         const QStringList released { u"deactivate with object in dock"_s, u"no object"_s,
             u"dock hidden"_s };
         QVERIFY(extension.isActive() && !extension.isShown() && dock->isHidden());
+        QVERIFY(dock->windowTitle() == dockName && !dock->acceptDrops());
         QCOMPARE(window.dockWidgetArea(dock), Qt::RightDockWidgetArea);
 
         select(&fixture.node());
@@ -263,14 +188,25 @@ private Q_SLOTS:
         QCOMPARE(log, shown);
     }
 
-private:
-    /// The twins, and what the probe handles under each.
-    static void docks()
+    void aDockThatGoesTakesNoFurtherSelection()
     {
-        QTest::addColumn<QString>("dockName");
-        QTest::addColumn<QString>("type");
-        QTest::newRow("fields") << u"Field Editor"_s << u"SFTime"_s;
-        QTest::newRow("nodes") << u"Node Editor"_s << u"TestNode"_s;
+        EditorFixture fixture;
+        const auto extensions = CrvPluginsManager::getInstance()->getExtensions();
+        const auto dock = std::find_if(extensions.begin(), extensions.end(),
+            [](CrvExtension* e) { return qobject_cast<CrvFieldEditorDockWin*>(e); });
+        fixture.select(fixture.field("SFString"));
+        fixture.child<QLineEdit>("lineEdit")->setFocus();
+        // Whoever gets the focus from the editor selects something.
+        connect(qApp, &QApplication::focusChanged, this, [&fixture](QWidget* old) {
+            if (old)
+                CrvServices::getInstance()->selectField(fixture.field("SFFloat"));
+        });
+        (*dock)->deactivate();
+        disconnect(qApp, nullptr, this, nullptr);
+        for (CrvExtension* extension : extensions)
+            QVERIFY(!qobject_cast<CrvEditor*>(extension) || !extension->isActive());
+        QCOMPARE(CrvServices::getInstance()->getSelectedField(), fixture.field("SFFloat"));
+        (*dock)->activate();
     }
 };
 
