@@ -26,7 +26,7 @@ private Q_SLOTS:
     void init()
     {
         failOnWarnings();
-        m_shell = makeShell();
+        m_shell = std::make_unique<TestShell>();
         m_shell->window().show();
         m_console = std::make_unique<CrvConsole>();
         m_console->load();
@@ -43,7 +43,6 @@ private Q_SLOTS:
     }
 
 protected:
-    virtual std::unique_ptr<TestShell> makeShell() { return std::make_unique<TestShell>(); }
     QTextEdit* view() const { return m_console->m_consoleOutput; }
     QString text() const { return view()->toPlainText(); }
     static void click(QPushButton* button)

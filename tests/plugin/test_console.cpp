@@ -6,8 +6,6 @@
 
 #include <QDockWidget>
 
-#include <functional>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -47,37 +45,6 @@ QStringList handlers()
     }
     return lines;
 }
-
-/// Writes down in what state the console is when it calls.
-class WatchingShell : public TestShell {
-public:
-    std::function<QString()> state = [] { return QString(); };
-
-    void addDockWidget(QDockWidget* dock, int area) override
-    {
-        noted([&] { TestShell::addDockWidget(dock, area); });
-    }
-    void removeDockWidget(QDockWidget* dock) override
-    {
-        noted([&] { TestShell::removeDockWidget(dock); });
-    }
-    void registerExtension(CrvExtension* extension, int kind) override
-    {
-        noted([&] { TestShell::registerExtension(extension, kind); });
-    }
-    void unregisterExtension(CrvExtension* extension) override
-    {
-        noted([&] { TestShell::unregisterExtension(extension); });
-    }
-
-private:
-    void noted(const auto& call)
-    {
-        const QString before = state();
-        call();
-        calls().last() += before;
-    }
-};
 
 } // namespace
 
@@ -123,60 +90,46 @@ private Q_SLOTS:
     {
         m_console->deactivate();
         m_console->unload();
-        static_cast<WatchingShell&>(*m_shell).state
-            = [this, console = m_console.get()] { return state(*console); };
         // l(oad), a(ctivate), h(ide), s(how), d(eactivate), u(nload)
-        const QHash<char, void (CrvConsole::*)()> steps = { { 'l', &CrvConsole::load },
-            { 'a', &CrvConsole::activate }, { 'h', &CrvConsole::hide }, { 's', &CrvConsole::show },
-            { 'd', &CrvConsole::deactivate }, { 'u', &CrvConsole::unload } };
-        // The digits set the preference.
-        const QByteArray order("luladulashsdahdasdu1lulahsdadu0lahsdadadu");
+        struct Step {
+            void (CrvConsole::*take)();
+            const char* expected; // the calls of the shell; the state, where + stands for a capture
+        };
+        const QHash<char, Step> steps = {
+            { 'l', { &CrvConsole::load, "; frame" } },
+            { 'a',
+                { &CrvConsole::activate,
+                    "registerExtension Console 1, addDockWidget Console 8;"
+                    " active+ shown dock frame view" } },
+            { 'h', { &CrvConsole::hide, "; active+" } },
+            { 's', { &CrvConsole::show, "; active+ shown dock frame view" } },
+            { 'd',
+                { &CrvConsole::deactivate,
+                    "removeDockWidget Console, unregisterExtension Console;" } },
+            { 'u', { &CrvConsole::unload, ";" } },
+        };
         QStringList states;
         QStringList expected;
-        const auto callsSoFar = [this] { return m_shell->calls().join(u", "); };
-        for (qsizetype i = 0; i < order.size(); ++i) {
-            const char step = order[i];
-            if (!steps.contains(step)) {
-                qputenv("CORVANE_STDOUT_CAPTURE", QByteArray(1, step));
+        QLatin1String capture(" out err");
+        // The digits set the preference.
+        for (const char name : QByteArray("luladulashsdahdasdu1lulahsdadu0lahsdadadu")) {
+            if (!steps.contains(name)) {
+                qputenv("CORVANE_STDOUT_CAPTURE", QByteArray(1, name));
+                capture = QLatin1String(name == '0' ? "" : " out err");
                 continue;
             }
-            const bool wasShown = m_console->isShown();
             m_shell->calls().clear();
-            (*m_console.*steps[step])();
-            const QString name = u"step %1, %2: "_s.arg(i).arg(QLatin1Char(step));
-            const QString capture
-                = qgetenv("CORVANE_STDOUT_CAPTURE") == "0" ? u""_s : u" out err"_s;
-            if (step == 'u') {
-                states << name + callsSoFar();
-                expected << name;
+            (*m_console.*steps[name].take)();
+            states << m_shell->calls().join(u", "_s) + u';';
+            expected << QString::fromLatin1(steps[name].expected).replace(u'+', capture);
+            if (name == 'u')
                 continue;
-            }
             // The kernel's messages arrive from load to unload, whatever the dock does.
             m_console->clear();
             KnReadError::post("read");
             KnGLError::post(1, "gl");
             QTRY_COMPARE(text(), u"read\ngl: unknown OpenGL error (0x0001)"_s);
-            states << name + callsSoFar() + u';' + state(*m_console);
-            const QString visible = u" shown dock frame view"_s;
-            switch (step) {
-            case 'a':
-                // A frame that was never shown is not hidden either, nor one that a dock got.
-                expected << name + u"registerExtension Console 1"_s
-                        + (order[i - 1] == 'l' ? u" frame"_s : QString())
-                        + u", addDockWidget Console 8 active"_s + capture + u" frame; active"_s
-                        + capture + visible;
-                break;
-            case 'd':
-                expected << name + u"removeDockWidget Console"_s
-                        + (wasShown ? u" shown dock"_s : QString())
-                        + u", unregisterExtension Console;"_s;
-                break;
-            case 'l':
-                expected << name + u"; frame"_s;
-                break;
-            default:
-                expected << name + u"; active"_s + capture + (step == 's' ? visible : QString());
-            }
+            states.last() += state(*m_console);
         }
         QCOMPARE(states, expected);
         QVERIFY(std::cout.rdbuf() == &m_ownOut && std::cerr.rdbuf() == &m_ownErr);
@@ -227,7 +180,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<TestShell> makeShell() override { return std::make_unique<WatchingShell>(); }
     /// What stands open or captured, in words; the console is loaded.
     QString state(CrvConsole& console) const
     {

@@ -2,63 +2,35 @@
 #include "ArrayFixture.h"
 #include "CellText.h"
 #include "EditorKind.h"
-#include "QUIntValidator.h"
-#include "QULongValidator.h"
-#include "WfIntSlider.h"
-#include "WfRealSlider.h"
+#include "TextRows.h"
 #include "WfUIntSlider.h"
 
-#include <QDoubleValidator>
-#include <QIntValidator>
 #include <QPainter>
 #include <QStandardItemModel>
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-template <class Number>
-QString span(const char* what, Number from, Number to)
-{
-    if constexpr (std::is_floating_point_v<Number>)
-        return QStringLiteral(" %1 %2..%3")
-            .arg(QLatin1String(what))
-            .arg(from, 0, 'g', 17)
-            .arg(to, 0, 'g', 17);
-    else
-        return QStringLiteral(" %1 %2..%3").arg(QLatin1String(what)).arg(from).arg(to);
-}
-
-QString validatorOf(const QLineEdit* line)
-{
-    const QValidator* const any = line->validator();
-    if (const auto* whole = qobject_cast<const QIntValidator*>(any))
-        return span("int", whole->bottom(), whole->top());
-    if (const auto* real = qobject_cast<const QDoubleValidator*>(any))
-        return span("double", real->bottom(), real->top())
-            + QStringLiteral(" %1 decimals").arg(real->decimals());
-    if (const auto* small = dynamic_cast<const QUIntValidator*>(any))
-        return span("QUInt", small->bottom(), small->top());
-    if (const auto* large = dynamic_cast<const QULongValidator*>(any))
-        return span("QULong", large->bottom(), large->top());
-    return QString();
-}
-
-/// Class, range and limits of a cell's editor.
+/// Which of some numbers, and of other texts, a cell's editor takes.
 QString described(QWidget* editor)
 {
-    if (const auto* slider = dynamic_cast<WfIntSlider*>(editor))
-        return span("WfIntSlider", slider->getMinimum(), slider->getMaximum())
-            + validatorOf(slider->m_lineEdit);
-    if (const auto* slider = dynamic_cast<WfRealSlider*>(editor))
-        return span("WfRealSlider", slider->getMinimum(), slider->getMaximum())
-            + validatorOf(slider->m_lineEdit);
     if (auto* slider = dynamic_cast<WfUIntSlider*>(editor)) {
-        const QString range = span("WfUIntSlider", slider->getMinimum(), slider->getMaximum());
-        slider->setValue(QStringLiteral("4294967295"));
-        return range + QStringLiteral(" up to %1").arg(slider->getValue());
+        slider->setValue(u"4294967295"_s);
+        return u"slider up to %1"_s.arg(slider->getValue());
     }
-    return u' ' + editor->objectName() + validatorOf(qobject_cast<QLineEdit*>(editor));
+    QLineEdit* const line = TableInput::line(editor);
+    QStringList taken;
+    for (const char* text : { "-4e38", "-3e38", "-2147483649", "-2147483648", "-2147483647",
+             "-32769", "-32768", "-32767", "0", "32767", "32768", "65535", "65536", "2147483647",
+             "2147483648", "4294967295", "4294967296", "4e38", "word" }) {
+        line->setText(QLatin1String(text));
+        if (line->hasAcceptableInput())
+            taken << line->text();
+    }
+    return (line == editor ? u"line "_s : u"slider "_s) + taken.first() + u".."_s + taken.last();
 }
 
 /// Notes what is stored, and under which role.
@@ -93,32 +65,24 @@ private Q_SLOTS:
     void kindsFixTheEditor_data()
     {
         QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("onlyColumn");
-        QTest::addColumn<QString>("oneOfTwo");
-        const auto row = [](int kind, const char* onlyColumn, const char* oneOfTwo) {
-            QTest::addRow("%d", kind) << kind << onlyColumn << oneOfTwo;
-        };
-        const auto line = [&row](int kind, const char* editor) { row(kind, editor, editor); };
-        line(PlainTextKind, " qt_lineeditor");
-        row(Int16Kind, " WfIntSlider 0..10 int -32768..32767", " qt_lineeditor int -32767..32767");
-        row(UInt16Kind, " WfUIntSlider 0..10 up to 65535", " qt_lineeditor int 0..65535");
-        line(WholeNumberKind, " qt_lineeditor int -2147483648..2147483647");
-        line(UnsignedNumberKind, " qt_lineeditor QUInt 0..4294967295");
-        row(Int32Kind, " WfIntSlider 0..10 int -2147483648..2147483647",
-            " qt_lineeditor int -2147483647..2147483647");
-        row(UInt32Kind, " WfUIntSlider 0..10 up to 4294967295",
-            " qt_lineeditor QULong 0..4294967295");
-        row(FloatKind,
-            " WfRealSlider 0..10 double -3.4028234663852886e+38..3.4028234663852886e+38 6 decimals",
-            " qt_lineeditor double -3.4028234663852886e+38..3.4028234663852886e+38 6 decimals");
-        line(DoubleKind, " qt_lineeditor double -inf..inf -1 decimals");
+        QTest::addColumn<QString>("expected");
+        const auto row
+            = [](int kind, const char* expected) { QTest::addRow("%d", kind) << kind << expected; };
+        row(PlainTextKind, "line -4e38..word | line -4e38..word");
+        row(Int16Kind, "slider -32768..32767 | line -32767..32767");
+        row(UInt16Kind, "slider up to 65535 | line 0..65535");
+        row(WholeNumberKind, "line -2147483648..2147483647 | line -2147483648..2147483647");
+        row(UnsignedNumberKind, "line 0..4294967295 | line 0..4294967295");
+        row(Int32Kind, "slider -2147483648..2147483647 | line -2147483647..2147483647");
+        row(UInt32Kind, "slider up to 4294967295 | line 0..4294967295");
+        row(FloatKind, "slider -3e38..4294967296 | line -3e38..4294967296");
+        row(DoubleKind, "line -4e38..4e38 | line -4e38..4e38");
     }
 
     void kindsFixTheEditor()
     {
         QFETCH(int, kind);
-        QFETCH(QString, onlyColumn);
-        QFETCH(QString, oneOfTwo);
+        QFETCH(QString, expected);
         m_fixture->show("MFInt32", "[ 5 ]");
         const TableInput table = m_fixture->table();
         table->setEditorKind(kind);
@@ -128,43 +92,28 @@ private Q_SLOTS:
                                              QStyleOptionViewItem(), table->model()->index(0, 0)))
                     .get());
         };
-        QCOMPARE(editor(), onlyColumn);
+        const QString alone = editor();
         table->setColumnCount(2);
-        QCOMPARE(editor(), oneOfTwo);
+        QCOMPARE(alone + u" | "_s + editor(), expected);
     }
 
     void aCellIsPainted_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("values");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("room"); // beside the text, in pixels
-        QTest::addColumn<bool>("isSelected");
-        QTest::newRow("in the middle") << "MFString"
-                                       << "[ \"word\" ]"
-                                       << "word" << 50 << false;
-        // Whatever the editor's alignment.
-        QTest::newRow("vector") << "MFVec2s"
-                                << "[ 7 8 ]"
-                                << "7" << 50 << false;
-        QTest::newRow("selected") << "MFString"
-                                  << "[ \"word\" ]"
-                                  << "word" << 50 << true;
-        QTest::newRow("just fits") << "MFString"
-                                   << "[ \"long text\" ]"
-                                   << "long text" << 4 << false;
-        QTest::newRow("cut") << "MFString"
-                             << "[ \"long text\" ]"
-                             << "long text" << 3 << false;
+        addTextRows({
+            { "in the middle", "MFString", "[ \"word\" ]", "word", "50" },
+            { "whatever the alignment", "MFVec2s", "[ 7 8 ]", "7", "50" },
+            { "selected", "MFString", "[ \"word\" ]", "word", "50" },
+            { "just fits", "MFString", "[ \"long text\" ]", "long text", "4" },
+            { "cut", "MFString", "[ \"long text\" ]", "long text", "3" },
+        });
     }
 
     void aCellIsPainted()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, values);
-        QFETCH(QString, text);
-        QFETCH(int, room);
-        QFETCH(bool, isSelected);
+        const auto texts = textRow<5>();
+        const auto& [name, type, values, text, pixels] = texts;
+        const int room = pixels.toInt(); // beside the text
+        const bool isSelected = name == u"selected";
         m_fixture->show(type, values);
         const QFontMetrics metrics = m_fixture->table()->fontMetrics();
         const auto advance
@@ -197,36 +146,19 @@ private Q_SLOTS:
 
     void theTypedTextIsStored_data()
     {
-        QTest::addColumn<QString>("values");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("stored"); // and the role
-        QTest::addColumn<QString>("after");
-        QTest::newRow("MFDouble") << "[ 5 ]"
-                                  << "007"
-                                  << "0070"
-                                  << "[ 7 ]";
-        // Refused, and stored all the same.
-        QTest::newRow("MFVec2f") << "[ 5 6 ]"
-                                 << "1e39"
-                                 << "1e390"
-                                 << "[ 5 6 ]";
-        QTest::newRow("MFColor") << "[ 0 1 0 ]"
-                                 << "0.50"
-                                 << "0.502"
-                                 << "[ 0.5 1 0 ]";
-        QTest::newRow("MFColorRGBA") << "[ 0 1 0 1 ]"
-                                     << "1.5"
-                                     << "1.52"
-                                     << "[ 0 1 0 1 ]";
+        // The last are what is stored, with its role, and the values behind it.
+        addTextRows({
+            { "MFDouble", "[ 5 ]", "007", "0070", "[ 7 ]" },
+            { "MFVec2f", "[ 5 6 ]", "1e39", "1e390", "[ 5 6 ]" }, // refused
+            { "MFColor", "[ 0 1 0 ]", "0.50", "0.502", "[ 0.5 1 0 ]" },
+            { "MFColorRGBA", "[ 0 1 0 1 ]", "1.5", "1.52", "[ 0 1 0 1 ]" },
+        });
     }
 
     void theTypedTextIsStored()
     {
-        QFETCH(QString, values);
-        QFETCH(QString, typed);
-        QFETCH(QString, stored);
-        QFETCH(QString, after);
-        const KnField& field = m_fixture->show(QLatin1String(QTest::currentDataTag()), values);
+        const auto [type, values, typed, stored, after] = textRow<5>();
+        const KnField& field = m_fixture->show(type, values);
         const TableInput table = m_fixture->table();
         const int column = table->columnCount() > 3 ? 1 : 0;
         RoleModel model;
@@ -234,33 +166,6 @@ private Q_SLOTS:
             table.type(0, column, typed), &model, model.index(0, column));
         QCOMPARE(model.m_stored, QStringList(stored));
         QCOMPARE(EditorFixture::text(&field), after);
-    }
-
-    void rowsThatAreGoneAreLeftAlone_data()
-    {
-        QTest::addColumn<QString>("values");
-        QTest::newRow("MFInt32") << "[ 1, 2 ]";
-        QTest::newRow("MFTime") << "[ 1, 2 ]";
-        QTest::newRow("MFString") << "[ \"a\", \"b\" ]";
-        QTest::newRow("MFVec3f") << "[ 1 2 3, 4 5 6 ]";
-        QTest::newRow("MFColor") << "[ 1 0 0, 0 1 0 ]";
-        QTest::newRow("MFMatrix") << "[ 1 0 0 0 0 1 0 0 0 0 1 0 2 3 4 1 ]";
-    }
-
-    void rowsThatAreGoneAreLeftAlone()
-    {
-        QFETCH(QString, values);
-        const KnField& field = m_fixture->show(QLatin1String(QTest::currentDataTag()), values);
-        auto* const editor = static_cast<WfMFieldWidget*>(m_fixture->editor());
-        const KbVec4f color;
-        for (const int row : { -1, 2, 1'000'000 }) {
-            editor->setFieldValue(row, 0, QStringLiteral("1"));
-            editor->setFieldColor(row, &color);
-            editor->swapFieldValues(row, 0);
-            editor->swapFieldValues(0, row);
-        }
-        QCOMPARE(EditorFixture::text(&field), values);
-        QCOMPARE(m_fixture->commands(), 0);
     }
 
 private:
