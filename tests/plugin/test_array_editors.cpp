@@ -8,10 +8,26 @@
 #include "WfRealSlider.h"
 
 #include <QCheckBox>
+#include <QRandomGenerator>
+#include <QSpinBox>
 
+#include <bit>
 #include <optional>
 
 namespace {
+
+/// The text of 50 rows of floats of any bits but those of infinity and of no number.
+QByteArray randomArray(int count)
+{
+    QRandomGenerator random(count);
+    QByteArray text;
+    for (int i = 0; i < 50 * count; ++i) {
+        const float number = std::bit_cast<float>(random.generate());
+        text += i % count == 0 ? ", " : " ";
+        text += QByteArray::number(std::isfinite(number) ? double(number) : 1.0, 'g', 9);
+    }
+    return '[' + text.mid(1) + " ]";
+}
 
 /// Notes the rows that it is asked for, and what it is to write.
 class ProbeEditor : public WfMFInt32Widget {
@@ -137,13 +153,14 @@ private Q_SLOTS:
 
     void everythingThatUnicodeHoldsSurvives()
     {
-        KnField& field = m_fixture->show("MFString", "[ \"a\", \"b\" ]");
+        const char start[] = "[ \"a\\n\\\"\", \"b\" ]";
+        KnField& field = m_fixture->show("MFString", start);
         const QString text = QString::fromUtf8("\xF0\x9F\x98\x80 e\xCC\x81 \xD7\xA9 \xE2\x82\xAC");
         m_fixture->table().type(1, 0, QString())->setText(text);
         m_fixture->press(Qt::Key_Period);
         m_fixture->press(Qt::Key_Return);
         m_fixture->undo();
-        QCOMPARE(EditorFixture::text(&field), QStringLiteral("[ \"a\", \"b\" ]"));
+        QCOMPARE(EditorFixture::text(&field), QLatin1String(start));
         m_fixture->redo();
         QCOMPARE(toQString(m_fixture->node().MFString[1]), text + u'.');
         // The empty text is a value as any other.
@@ -151,6 +168,81 @@ private Q_SLOTS:
         m_fixture->press(Qt::Key_Backspace);
         m_fixture->press(Qt::Key_Return);
         QCOMPARE(toQString(m_fixture->node().MFString[0]), QString());
+        m_fixture->undo();
+        m_fixture->clickButton("m_deleteButton");
+        m_fixture->undo();
+        QCOMPARE(toQString(m_fixture->node().MFString[0]), QStringLiteral("a\n\""));
+    }
+
+    void anEditGoesBackBitForBit_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::newRow("MFVec2f") << 2;
+        QTest::newRow("MFPlane") << 4;
+        QTest::newRow("MFRotation") << 4;
+        QTest::newRow("MFColor") << 3;
+    }
+
+    void anEditGoesBackBitForBit()
+    {
+        QFETCH(int, count);
+        ArrayFixture& fixture = *m_fixture;
+        KnField& field = fixture.show(QTest::currentDataTag(), randomArray(count));
+        auto* const editor = static_cast<WfMFieldWidget*>(fixture.editor());
+        const QString before = EditorFixture::text(&field);
+        const auto backAndForth = [&] {
+            const QString edited = EditorFixture::text(&field);
+            QVERIFY(edited != before);
+            fixture.undo();
+            QCOMPARE(EditorFixture::text(&field), before);
+            fixture.redo();
+            QCOMPARE(EditorFixture::text(&field), edited);
+            fixture.undo();
+        };
+        for (int row = 0; row < 50; ++row) {
+            editor->setFieldValue(row, row % count, QStringLiteral("0.25"));
+            backAndForth();
+        }
+        for (const char* button : { "m_addButton", "m_deleteButton", "m_upButton" }) {
+            fixture.table()->setCurrentCell(2, 1);
+            fixture.child<QSpinBox>("m_accessBox")->setValue(3);
+            fixture.clickButton(button);
+            backAndForth();
+        }
+    }
+
+    void typing_data()
+    {
+        // Into the second column. Return in a line that nobody changed writes the value that is
+        // there, of which the line shows six digits; so does typing these digits.
+        addTextRows({
+            { "MFVec2f", "[ 8 8 ]", "1234567.8", "[ 8 1234567.8 ]" },
+            { "MFVec2f", "[ 8 8 ]", "1,5", "[ 8 15 ]" },
+            { "MFVec2f", "[ 8 8 ]", "1e39", "[ 8 8 ]" },
+            { "MFVec2i32", "[ 8 8 ]", "1.5", "[ 8 15 ]" },
+            { "MFVec2i32", "[ 8 8 ]", "2147483648", "[ 8 8 ]" },
+            { "MFVec2s", "[ 8 8 ]", "-32768", "[ 8 -32768 ]" },
+            { "MFVec2s", "[ 8 8 ]", "32768", "[ 8 0 ]" },
+            { "MFVec2s", "[ 8 8 ]", "word", "[ 8 0 ]" },
+            { "MFColor", "[ 0.12345679 0 0 ]", "", "[ 0.12345679 0 0 ]" },
+            { "MFColor", "[ 0.12345679 0 0 ]", "0.123457", "[ 0.12345679 0 0 ]" },
+            { "MFColor", "[ 0.12345679 0 0 ]", "-0.000001", "[ 0.12345679 0 0 ]" },
+            { "MFColor", "[ 0.12345679 0 0 ]", "1", "[ 1 0 0 ]" },
+        });
+    }
+
+    void typing()
+    {
+        const auto [type, start, typed, end] = textRow<4>();
+        const KnField& field = m_fixture->show(type, start);
+        QLineEdit* const line = TableInput::line(m_fixture->table().open(0, 1));
+        if (!typed.isEmpty())
+            line->selectAll();
+        QTest::keyClicks(line, typed);
+        m_fixture->press(Qt::Key_Return);
+        QCOMPARE(EditorFixture::text(&field), end);
+        const bool isShown = typed.isEmpty() || typed == u"0.123457";
+        QCOMPARE(m_fixture->commands(), start != end || isShown ? 1 : 0);
     }
 
     void noMoreIsWrittenAndAskedThanNeeded()

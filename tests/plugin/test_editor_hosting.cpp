@@ -63,25 +63,6 @@ public:
     explicit ProbePlugin(CrvExtension* extension) { addExtension(extension); }
 };
 
-/// Writes down when a dock comes and goes.
-class DockWatch : public QObject {
-public:
-    DockWatch(QDockWidget* dock, QStringList& log)
-        : m_log(log)
-    {
-        dock->installEventFilter(this);
-    }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
-            m_log << (event->type() == QEvent::Show ? u"dock shown"_s : u"dock hidden"_s);
-        return false;
-    }
-
-private:
-    QStringList& m_log;
-};
-
 } // namespace
 
 /// Editors and the docks that show them, step by step.
@@ -143,7 +124,8 @@ private Q_SLOTS:
         const auto& all = fixture.plugin().getExtensions();
         CrvExtension& extension = **std::find_if(all.begin(), all.end(),
             [&](CrvExtension* each) { return each->getName() == KbString(qPrintable(dockName)); });
-        const DockWatch watch(dock, log);
+        connect(dock, &QDockWidget::visibilityChanged, this,
+            [&log](bool visible) { log << (visible ? u"dock shown"_s : u"dock hidden"_s); });
         const auto select = [&](KnTestNode* node) {
             log.clear();
             if (type == u"TestNode"_s)

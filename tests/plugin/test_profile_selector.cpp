@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvPluginsManager.h"
 #include "CrvProfile.h"
-#include "CrvProfileSelectorExtension.h"
 #include "CrvStrings.h"
 #include "TableInput.h"
+#include "TextRows.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QSignalSpy>
 #include <QTemporaryFile>
 #include <QToolBar>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -56,43 +54,23 @@ private Q_SLOTS:
         QVERIFY(toolBar && toolBar->windowTitle() == u"Profile Selector"_s);
         QCOMPARE(m_combo->toolTip(), u"Select the active profile."_s);
         manager()->setActiveProfile(manager()->getProfilesList().back());
-        const QSignalSpy changes(manager(), &CrvPluginsManager::activeProfileChanged);
         for (int round = 0; round < 2; ++round) {
             calls.clear();
             selector->deactivate();
-            QCOMPARE(calls,
-                QStringList({ u"removeToolBar Profile Selector"_s,
-                    u"unregisterExtension Profile Selector"_s }));
             QVERIFY(!selector->isActive() && !toolBar->parent());
-            selector->hide();
             m_combo->setCurrentIndex(0); // not connected: no effect
-
-            calls.clear();
             selector->activate();
-            QCOMPARE(calls,
-                QStringList({ u"addToolBar Profile Selector 4"_s,
-                    u"registerExtension Profile Selector 1"_s }));
+            QCOMPARE(calls.join(u'|'),
+                u"removeToolBar Profile Selector|unregisterExtension Profile Selector|"
+                "addToolBar Profile Selector 4|registerExtension Profile Selector 1"_s);
             QVERIFY(selector->isActive() && selector->isShown() && toolBar->isVisible());
             QCOMPARE(m_fixture->shell().window().toolBarArea(toolBar), Qt::TopToolBarArea);
             QCOMPARE(state(), u"Everything|Fields|Console, 2, Console"_s);
         }
-        QCOMPARE(changes.count(), 0);
         selector->hide();
         QVERIFY(!selector->isShown() && toolBar->isHidden());
         selector->show();
         QVERIFY(selector->isShown() && toolBar->isVisible());
-
-        CrvProfileSelectorExtension ofItsOwn;
-        ofItsOwn.load();
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        const auto made = std::find_if(windows.begin(), windows.end(),
-            [](QWidget* window) { return qobject_cast<QToolBar*>(window); });
-        QVERIFY(made != windows.end());
-        const QPointer<QComboBox> combo = (*made)->findChild<QComboBox*>();
-        const QPointer<QWidget> window = *made;
-        QVERIFY(combo && combo->count() == 0);
-        ofItsOwn.unload();
-        QVERIFY(!combo && !window);
     }
 
     void theHostMayChangeTheProfilesWhileTheChoiceIsHandled()
@@ -128,19 +106,16 @@ private Q_SLOTS:
     /// Text that was typed and not yet committed when the profile, and with it the editor, goes.
     void typedTextIsWrittenWhenTheProfileChanges_data()
     {
-        QTest::addColumn<bool>("byHand");
-        QTest::newRow("by a person") << true;
-        QTest::newRow("by the host") << false;
+        addTextRows({ { "by a person" }, { "by the host" } });
     }
     void typedTextIsWrittenWhenTheProfileChanges()
     {
-        QFETCH(bool, byHand);
         KnField* const field = m_fixture->field("MFInt32");
         field->set("[ 1, 2, 3 ]");
         m_fixture->select(field);
         TableInput(*m_fixture).type(1, 0, u"7"_s);
         for (const int profile : { 2, 0 }) {
-            if (byHand)
+            if (textRow<1>()[0] == u"by a person")
                 choose(profile);
             else
                 manager()->setActiveProfile(

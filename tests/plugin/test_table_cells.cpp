@@ -33,6 +33,15 @@ QString described(QWidget* editor)
     return (line == editor ? u"line "_s : u"slider "_s) + taken.first() + u".."_s + taken.last();
 }
 
+/// Ten pixels a code point; a combining mark takes no room of its own.
+int tenACharacter(const QString& text)
+{
+    int width = 0;
+    for (const uint character : text.toUcs4())
+        width += QChar::category(character) == QChar::Mark_NonSpacing ? 0 : 10;
+    return width;
+}
+
 /// Notes what is stored, and under which role.
 class RoleModel : public QStandardItemModel {
 public:
@@ -142,6 +151,45 @@ private Q_SLOTS:
                 room < 4 ? cellText(text, advance(text) - 1, advance) : text);
         });
         QCOMPARE(painted, expected);
+    }
+
+    void aTextIsCut_data()
+    {
+        addTextRows({
+            { "1234567890", "100", "1234567890" },
+            // Dots and characters together stay below the room, they don't fill it.
+            { "1234567890", "99", "123456..." },
+            { "1234567890", "90", "12345..." },
+            { "1234567890", "40", "1..." },
+            { "1234567890", "-4", "1..." },
+            { "", "0", "" },
+            { "", "-4", "..." },
+            // These take two code units each, and stay whole.
+            { "\U0001F600\U00010400x", "60", "\U0001F600\U00010400x" },
+            { "\U0001F600\U0001F600\U0001F600xxx", "55", "\U0001F600\U0001F600..." },
+            { "\U0001F600xxx", "5", "\U0001F600..." },
+            // The mark goes with its letter where the letter has room.
+            { "ae\u0301iouxyz", "55", "ae\u0301..." },
+            { "\u05E9\u05DC\u05D5\u05DD\u05E9\u05DC", "55", "\u05E9\u05DC..." },
+        });
+    }
+
+    void aTextIsCut()
+    {
+        const auto [text, available, shown] = textRow<3>();
+        QCOMPARE(cellText(text, available.toInt(), tenACharacter), shown);
+    }
+
+    void aVeryLongTextIsNotMeasured()
+    {
+        qsizetype longest = 0;
+        const QString text(10'000'000, u'x');
+        const QString shown = cellText(text, 100, [&longest](const QString& part) {
+            longest = qMax(longest, part.size());
+            return tenACharacter(part);
+        });
+        QCOMPARE(shown, u"xxxxxx..."_s);
+        QVERIFY(longest < 10'000);
     }
 
     void theTypedTextIsStored_data()
