@@ -35,7 +35,7 @@ private Q_SLOTS:
     void aFloodLeavesRoomForInput()
     {
         constexpr int messageCount = 5000;
-        std::vector<std::thread> threads;
+        std::vector<std::jthread> threads;
         for (const char thread : { 'A', 'B' }) {
             threads.emplace_back([thread] {
                 for (int i = 0; i < messageCount; ++i) {
@@ -47,8 +47,7 @@ private Q_SLOTS:
                 }
             });
         }
-        for (std::thread& thread : threads)
-            thread.join();
+        threads.clear();
         QList<int> shown;
         QTimer input;
         connect(&input, &QTimer::timeout, this, [this, &shown] {
@@ -97,7 +96,7 @@ private Q_SLOTS:
             KnReadError::post(("read " + message).c_str());
             KnDebugError::post(1, ("warning " + message).c_str());
         };
-        std::vector<std::thread> threads;
+        std::vector<std::jthread> threads;
         for (const char* thread : { "A", "B", "C" }) {
             threads.emplace_back([&rounds, print, thread] {
                 for (int i = 0; i < messageCount; ++i) {
@@ -129,8 +128,7 @@ private Q_SLOTS:
             if (rounds % 30 == 0)
                 m_console->isActive() ? m_console->deactivate() : m_console->activate();
         }
-        for (std::thread& thread : threads)
-            thread.join();
+        threads.clear();
         if (!m_console->isActive())
             m_console->activate();
         QCoreApplication::postEvent(m_console.get(), new CrvConsole::ConsoleEvent(u"end"_s));

@@ -55,7 +55,7 @@ int main()
     auto* const redirector = captureStream(std::cout, &takeText, nullptr);
     releaseStream(redirector);
     std::atomic<int> running = threadCount;
-    std::vector<std::thread> threads;
+    std::vector<std::jthread> threads;
     for (int thread = 0; thread < threadCount; ++thread) {
         threads.emplace_back([thread, &running] {
             print(thread);
@@ -72,8 +72,7 @@ int main()
         releaseStream(redirector);
         CHECK(std::cout.rdbuf() == &own);
     } while (running > 0);
-    for (std::thread& thread : threads)
-        thread.join();
+    threads.clear();
     CHECK(calls > 0);
 
     // Each block and each line once and whole, and the blocks of a thread in their order. A

@@ -36,9 +36,9 @@ struct Way {
     }
 };
 
-std::vector<std::thread> print(PrintBrake& brake, Way& way, int messageCount)
+std::vector<std::jthread> print(PrintBrake& brake, Way& way, int messageCount)
 {
-    std::vector<std::thread> threads;
+    std::vector<std::jthread> threads;
     for (int thread = 0; thread < threadCount; ++thread) {
         threads.emplace_back([&brake, &way, messageCount] {
             for (int i = 0; i < messageCount; ++i)
@@ -62,15 +62,13 @@ void aViewThatShowsIsNeverFurtherBehindThanTheLimit()
     PrintBrake brake(limit, 1h);
     brake.setEngaged(true);
     Way way;
-    std::vector<std::thread> threads = print(brake, way, messageCount);
+    const auto threads = print(brake, way, messageCount);
     for (std::size_t shown = 0; shown < std::size_t(threadCount) * messageCount;) {
         const std::size_t taken = way.takeAll();
         check(taken <= limit, "no more than the limit on the way");
         shown += taken;
         std::this_thread::yield();
     }
-    for (std::thread& thread : threads)
-        thread.join();
 }
 
 /// The thread of the view joins those that print.
@@ -79,8 +77,7 @@ void aViewThatStandsStillIsWaitedForOnce()
     PrintBrake brake(limit, 50ms);
     brake.setEngaged(true);
     Way way;
-    for (std::thread& thread : print(brake, way, 50000))
-        thread.join();
+    print(brake, way, 50000).clear();
     check(way.takeAll() == threadCount * 50000, "nothing lost");
 }
 
@@ -89,10 +86,9 @@ void whoWaitsGoesOnWhenTheBrakeIsOff()
     PrintBrake brake(limit, 1h);
     brake.setEngaged(true);
     Way way;
-    std::vector<std::thread> threads = print(brake, way, limit);
+    auto threads = print(brake, way, limit);
     brake.setEngaged(false);
-    for (std::thread& thread : threads)
-        thread.join();
+    threads.clear();
     check(way.takeAll() == threadCount * limit, "nothing lost");
 }
 

@@ -88,21 +88,6 @@ private Q_SLOTS:
         QCOMPARE(state(), u"é?, 0, é∀"_s);
     }
 
-    void aHostWithoutAnActiveProfileShowsNone()
-    {
-        // Deactivated by its own choice.
-        connect(manager(), &CrvPluginsManager::activeProfileChanged, m_combo,
-            [] { manager()->setActiveProfile(nullptr); });
-        choose(2);
-        QCOMPARE(state(), u"Everything|Fields|Console, 2, none"_s);
-        // Not connected: no effect.
-        m_combo->setCurrentIndex(1);
-        QCOMPARE(state(), u"Everything|Fields|Console, 1, none"_s);
-        m_fixture->plugin().getExtensions().front()->activate();
-        QCOMPARE(state(), u"Everything|Fields|Console, -1, none"_s);
-        m_fixture->plugin().getExtensions().front()->deactivate();
-    }
-
     /// Text that was typed and not yet committed when the profile, and with it the editor, goes.
     void typedTextIsWrittenWhenTheProfileChanges_data()
     {

@@ -45,10 +45,7 @@ int tenACharacter(const QString& text)
 /// Notes what is stored, and under which role.
 class RoleModel : public QStandardItemModel {
 public:
-    RoleModel()
-        : QStandardItemModel(1, 4)
-    {
-    }
+    using QStandardItemModel::QStandardItemModel;
     bool setData(const QModelIndex&, const QVariant& value, int role) override
     {
         m_stored << value.toString() + QString::number(role);
@@ -209,7 +206,7 @@ private Q_SLOTS:
         const KnField& field = m_fixture->show(type, values);
         const TableInput table = m_fixture->table();
         const int column = table->columnCount() > 3 ? 1 : 0;
-        RoleModel model;
+        RoleModel model(1, 4);
         table->itemDelegate()->setModelData(
             table.type(0, column, typed), &model, model.index(0, column));
         QCOMPARE(model.m_stored, QStringList(stored));
