@@ -62,14 +62,14 @@ private Q_SLOTS:
 
     void oneClickOpensTheDialog()
     {
-        const auto texts = textRow<3>();
-        const auto& [type, start, edited] = texts;
+        const auto [type, start, edited] = textRow<3>();
+        const bool hasAlpha = type.endsWith(u'A');
         ArrayFixture fixture;
         const KnField& field = fixture.show(type, start);
         fixture.table()->setCurrentCell(0, 2);
         QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
             QCOMPARE(dialog->windowTitle(), QStringLiteral("color dialog"));
-            QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), type.endsWith(u'A'));
+            QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), hasAlpha);
             QCOMPARE(dialog->currentColor(), QColor(255, 127, 0));
             dialog->setCurrentColor(QColor(51, 0, 255, 51));
             QTest::keyClick(dialog, Qt::Key_Return);
@@ -98,16 +98,17 @@ private Q_SLOTS:
 
     void aColorReachesItsRowOrNone()
     {
-        const auto texts = textRow<4>();
-        const auto& [name, start, outside, end] = texts;
+        const auto [name, start, outside, end] = textRow<4>();
+        const QByteArray written = outside.toLatin1();
+        const bool isOtherShown = start == outside;
         ArrayFixture fixture;
         KnMFColor& other = fixture.otherNode().MFColor;
         other.setNum(2);
         KnField& field = fixture.show(QStringLiteral("MFColor"), start);
         QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
             dialog->setCurrentColor(Qt::green);
-            EditorFixture::write(&field, outside.toLatin1().constData());
-            if (start == outside)
+            EditorFixture::write(&field, written.constData());
+            if (isOtherShown)
                 fixture.select(&other);
             QTest::keyClick(dialog, Qt::Key_Return);
         }));

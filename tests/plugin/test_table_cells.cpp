@@ -116,8 +116,8 @@ private Q_SLOTS:
 
     void aCellIsPainted()
     {
-        const auto texts = textRow<5>();
-        const auto& [name, type, values, text, pixels] = texts;
+        const auto [name, type, values, shown, pixels] = textRow<5>();
+        const QString text = shown;
         const int room = pixels.toInt(); // beside the text
         const bool isSelected = name == u"selected";
         m_fixture->show(type, values);
