@@ -43,7 +43,7 @@ bool dataMayGoWithTheHandler()
         KnDebugError::setHandlerCallback(
             [](const KnError*, void* given) {
                 std::this_thread::yield();
-                late += static_cast<Data*>(given)->alive ? 0 : 1;
+                late += !static_cast<Data*>(given)->alive;
             },
             data.get());
         std::this_thread::yield();

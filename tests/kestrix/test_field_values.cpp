@@ -35,17 +35,14 @@ const Row rows[] = {
     { [](auto& f) { f.set1Value(5, 9); }, "[ 1, 2, 3, 0, 0, 9 ]" },
     { [](auto& f) { f.set1Value(-1, 9); }, nullptr },
     { [](auto& f) { f.setValues(2, 2, two); }, "[ 1, 2, 8, 9 ]" },
-    { [](auto& f) { f.setValues(-1, 2, two); }, nullptr },
     { [](auto& f) { f.insertValues(1, 2); }, "[ 1, 0, 0, 2, 3 ]" },
     { [](auto& f) { f.insertValues(-5, 1); }, "[ 0, 1, 2, 3 ]" },
     { [](auto& f) { f.insertValues(7, 1); }, "[ 1, 2, 3, 0 ]" },
     { [](auto& f) { f.removeValues(1, intMax); }, "[ 1 ]" },
     { [](auto& f) { f.removeValues(-1, 2); }, "[ 2, 3 ]" },
-    { [](auto& f) { f.removeValues(3, 1); }, nullptr },
     { [](auto& f) { f.removeValues(1, -1); }, nullptr },
     { [](auto& f) { f.setNum(1); }, "[ 1 ]" },
     { [](auto& f) { f.setNum(-1); }, "[]" },
-    { [](auto& f) { f.set1(0, "0x10"); }, "[ 16, 2, 3 ]" },
     { [](auto& f) { f.valueChanged(0, 3, 1); }, "[ 1, 2, 3 ]" },
     // One row more than a row number can count.
     { [](auto& f) { f.set1Value(intMax, 1); }, nullptr, 1 },
@@ -91,13 +88,10 @@ private Q_SLOTS:
         for (int i = 0; i < 500000; ++i)
             numbers.push_back(std::pow(10.0, exponent(random)));
         using Limits = std::numeric_limits<double>;
-        for (const double corner : { 0.0, -0.0, Limits::min(), Limits::max(), Limits::denorm_min(),
-                 Limits::epsilon(), Limits::infinity(), 9007199254740993.0, 5e-324, 1e23, 0.1, 1e15,
-                 999999999999999.9, 1e-4 }) {
-            for (const double sign : { 1.0, -1.0 }) {
-                for (const double toward : { corner, 0.0, Limits::infinity() })
-                    numbers.push_back(sign * std::nextafter(corner, toward));
-            }
+        for (const double corner : { 0.0, Limits::min(), Limits::max(), Limits::denorm_min(), 1e15,
+                 Limits::infinity(), 9007199254740993.0, 1e23, 1e-4 }) {
+            for (const double toward : { corner, -corner, 0.0, Limits::infinity() })
+                numbers.push_back(std::nextafter(corner, toward));
         }
         sweep<KnMFDouble>(numbers);
     }
@@ -138,49 +132,31 @@ private Q_SLOTS:
     void namesAreTheFieldsOwn()
     {
         KnSFEnum field;
-        field.setValue(-1);
-        QCOMPARE(textOf(field), "-1");
         std::vector<KbName> given { "FRONT", "BACK" };
         const int numbers[] = { 5, -1 };
         field.setEnums(2, numbers, given.data());
         given.assign(2, KbName());
-        int num = 0;
-        int* values = nullptr;
-        KbName* names = nullptr;
-        field.getEnums(num, values, names);
-        QVERIFY(num == 2 && values[0] == 5 && names[0] == KbName("FRONT"));
-        QVERIFY(field.findEnumValue("FRONT", num) && !field.findEnumValue("C", num) && num == 5);
+        field.setValue("BACK");
         ReadErrors errors;
         field.setValue("C");
         QCOMPARE(textOf(field), "BACK");
         QVERIFY(errors.texts.join().endsWith("one of FRONT, BACK, found: C"));
     }
 
-    void maskByNamesAndNumbers_data()
+    void aNameForSeveralBitsServes()
     {
-        QTest::addColumn<int>("value");
-        QTest::newRow("()") << 0;
-        QTest::newRow("(LOW)") << 2;
-        QTest::newRow("(0x4)") << 4;
-        QTest::newRow("(BOTH | 0x1)") << 7;
-    }
-    void maskByNamesAndNumbers()
-    {
-        QFETCH(int, value);
         KnSFBitMask mask;
-        // A name for several bits serves when no other name has them.
         mask.setEnums({ { "NONE", 0 }, { "BOTH", 6 }, { "LOW", 2 } });
-        mask = value;
-        QCOMPARE(textOf(mask), QTest::currentDataTag());
-        QVERIFY(mask.set("NONE") && mask.getValue() == 0);
-        QVERIFY(mask.set(QTest::currentDataTag()));
-        QCOMPARE(mask.getValue(), value);
+        for (const char* text : { "()", "(LOW)", "(0x4)", "(BOTH | 0x1)" }) {
+            QVERIFY(mask.set("NONE") && mask.getValue() == 0 && mask.set(text));
+            QCOMPARE(textOf(mask), text);
+        }
     }
 
     void images_data()
     {
         QTest::addColumn<int>("components");
-        for (int components = 1; components <= KnSFImage::maxComponents; ++components)
+        for (const int components : { 1, 3, 4, 8 })
             QTest::addRow("%d", components) << components;
     }
     void images()
@@ -188,26 +164,18 @@ private Q_SLOTS:
         QFETCH(int, components);
         KbVec2s size;
         int count = 0;
-        KnSFImage image;
         QByteArray bytes(35 * components, '\0');
         std::iota(bytes.begin(), bytes.end(), '\x70');
-        const auto pixels = [&](int number) {
-            const auto* data = reinterpret_cast<const char*>(image.getValue(size, count));
-            return QByteArray(data, number * components);
-        };
         KnSFImage from;
         from.setValue(
             KbVec2s(7, 5), components, reinterpret_cast<const unsigned char*>(bytes.constData()));
+        KnSFImage image;
         QVERIFY(image.set(textOf(from).constData()));
-        QCOMPARE(pixels(35), bytes);
-        QVERIFY(size == KbVec2s(7, 5) && count == components);
         // The field's own pixels may be given back to it.
         image.setValue(KbVec2s(7, 4), components, image.getValue(size, count) + 7 * components);
-        QCOMPARE(pixels(28), bytes.mid(7 * components));
-        image.setValue(KbVec2s(0, 4), components, nullptr);
-        QVERIFY(!image.getValue(size, count) && size == KbVec2s() && count == 0);
-        image.setValue(KbVec2s(1, 1), components, nullptr);
-        QCOMPARE(pixels(1), QByteArray(components, '\0'));
+        QVERIFY(size == KbVec2s(7, 5) && count == components);
+        const auto* const data = reinterpret_cast<const char*>(image.getValue(size, count));
+        QCOMPARE(QByteArray(data, 28 * components), bytes.mid(7 * components));
     }
 
     void imagesOfNoSize()
@@ -216,11 +184,11 @@ private Q_SLOTS:
         image.setValue(KbVec2s(1, 1), 8, nullptr);
         Errors<KnDebugError> errors;
         image.setValue(KbVec2s(-1, 1), 1, nullptr);
-        image.setValue(KbVec2s(1, -1), 1, nullptr);
-        image.setValue(KbVec2s(1, 1), -1, nullptr);
         image.setValue(KbVec2s(1, 1), KnSFImage::maxComponents + 1, nullptr);
-        QCOMPARE(errors.texts.size(), 4);
+        QCOMPARE(errors.texts.size(), 2);
         QCOMPARE(textOf(image), "1 1 8 0x0");
+        image.setValue(KbVec2s(0, 4), 1, nullptr);
+        QCOMPARE(textOf(image), "0 0 0");
     }
 };
 

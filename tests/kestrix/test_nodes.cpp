@@ -54,32 +54,8 @@ private Q_SLOTS:
         QVERIFY(!typeOf("Node").isDerivedFrom(material) && !material.isDerivedFrom(KnType()));
         QVERIFY(typeOf("SFFilePathString").getParent() == typeOf("SFString"));
         QVERIFY(typeOf("SFBitMask").getParent() == typeOf("SFEnum"));
-        QVERIFY(typeOf("Nonsense").isBad() && !typeOf("Nonsense").createInstance());
-    }
-
-    void abstractTypesMakeNothing_data()
-    {
-        QTest::addColumn<QByteArray>("name");
-        for (const char* name : { "Node", "Field", "SField", "MField", "Light", "ReadError" })
-            QTest::newRow(name) << QByteArray(name);
-    }
-    void abstractTypesMakeNothing()
-    {
-        QFETCH(QByteArray, name);
-        QVERIFY(!typeOf(name).isBad() && !typeOf(name).createInstance());
-    }
-
-    void fieldTypesMakeFields_data()
-    {
-        QTest::addColumn<QByteArray>("name");
-        for (const QByteArray& name : fieldTypeNames)
-            QTest::newRow(name.constData()) << name;
-    }
-    void fieldTypesMakeFields()
-    {
-        QFETCH(QByteArray, name);
-        QVERIFY(makeField(name)->getObjectType() == typeOf(name));
-        QVERIFY(typeOf(name).isDerivedFrom(typeOf(name.left(1) + "Field")));
+        for (const char* abstract : { "Nonsense", "Node", "MField", "Light", "ReadError" })
+            QVERIFY2(!typeOf(abstract).createInstance(), abstract);
     }
 
     void fieldsByIndexAndName_data()
@@ -96,6 +72,8 @@ private Q_SLOTS:
         const KnFieldData* data = first->getContainerFieldData();
         QCOMPARE(second->getContainerFieldData(), data);
         QVERIFY(data->getNum() > 0);
+        // The fields of base classes come first.
+        QVERIFY(!typeOf(name).isDerivedFrom(typeOf("Light")) || data->getName(0) == KbName("on"));
         for (int i = 0; i < data->getNum(); ++i) {
             KnField* field = data->getField(first.get(), i);
             KnField* same = data->getField(second.get(), i);
@@ -108,29 +86,7 @@ private Q_SLOTS:
             QVERIFY(same->set(textOf(*field).constData()));
             QCOMPARE(textOf(*field), textOf(*same));
         }
-        const KnSFFloat stranger;
-        QCOMPARE(data->getIndex(first.get(), &stranger), -1);
-        QCOMPARE(data->getIndex(first.get(), nullptr), -1);
-        QVERIFY(!first->getField("nonsense") && !data->getField(first.get(), -1));
-        QVERIFY(!data->getField(first.get(), data->getNum()));
-        QVERIFY(!data->getField(static_cast<KnFieldContainer*>(nullptr), 0));
-    }
-
-    void theNodesShowEveryTypeOfField()
-    {
-        QByteArrayList missing = fieldTypeNames;
-        for (const QByteArray& name : nodeTypeNames) {
-            const auto node = hold(static_cast<KnNode*>(typeOf(name).createInstance()));
-            const KnFieldData* data = node->getContainerFieldData();
-            for (int i = 0; i < data->getNum(); ++i) {
-                const KnType type = data->getField(node.get(), i)->getObjectType();
-                missing.removeAll(type.getName().getString().toUtf8().c_str());
-            }
-        }
-        QCOMPARE(missing, QByteArrayList());
-        // The fields of base classes come first.
-        const auto light = hold(new KnDirectionalLight);
-        QCOMPARE(light->getContainerFieldData()->getIndex(KbName("direction")), 3);
+        QVERIFY(!first->getField("nonsense") && !data->getField(first.get(), data->getNum()));
     }
 
     void children()
@@ -149,7 +105,6 @@ private Q_SLOTS:
             QVERIFY(group->insertChild(b, 1)); // for the second time
             QCOMPARE(group->getNumChildren(), 4);
             QVERIFY(group->getChild(0) == a && group->getChild(1) == b && group->getChild(3) == c);
-            QVERIFY(!group->getChild(-1) && !group->getChild(4));
             QVERIFY(group->removeChild(b) && group->findChild(b) == 1 && group->removeChild(1));
             QCOMPARE(CountedNode::count, 2);
             QVERIFY(!group->removeChild(2));

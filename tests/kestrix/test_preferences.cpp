@@ -6,27 +6,16 @@
 class TestPreferences : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void boolOfAVariable_data()
-    {
-        QTest::addColumn<QByteArray>("value");
-        QTest::addColumn<bool>("byDefault1");
-        QTest::addColumn<bool>("byDefault0");
-        QTest::newRow("unset") << QByteArray() << true << false;
-        QTest::newRow("empty") << QByteArray("") << true << false;
-        for (const char* off : { "0", "off", "OFF", "no", "No", "false", "FaLsE" })
-            QTest::newRow(off) << QByteArray(off) << false << false;
-        for (const char* on : { "1", "on", "yes", "00", " 0", "offer" })
-            QTest::newRow(on) << QByteArray(on) << true << true;
-    }
     void boolOfAVariable()
     {
-        QFETCH(QByteArray, value);
         const char* const name = "CORVANE_TEST_SWITCH";
-        qunsetenv(name);
-        if (!value.isNull())
-            qputenv(name, value);
-        QTEST(bool(KnPreferences::getBool(name, 1)), "byDefault1");
-        QTEST(bool(KnPreferences::getBool(name, 0)), "byDefault0");
+        const auto get = [name](int byDefault) { return KnPreferences::getBool(name, byDefault); };
+        QVERIFY(get(1) && !get(0));
+        for (const char* off : { "0", "off", "NO", "FaLsE" })
+            QVERIFY2(qputenv(name, off) && !get(1) && !get(0), off);
+        for (const char* on : { "1", "on", "yes", "00", " 0", "offer" })
+            QVERIFY2(qputenv(name, on) && get(1) && get(0), on);
+        QVERIFY(qputenv(name, "") && get(1) && !get(0));
     }
 };
 

@@ -56,10 +56,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("index");
         QTest::addColumn<std::size_t>("size");
-        const char* const names[] = { "single", "array", "aligned", "aligned array" };
         for (int i = 0; i < std::ssize(kinds); ++i) {
             for (const std::size_t size : { 0, 1, 100000 })
-                QTest::addRow("%s of %zu", names[i], size) << i << size;
+                QTest::addRow("kind %d of %zu bytes", i, size) << i << size;
         }
     }
     void blocksCrossTheBorderAndAreCounted()
@@ -87,8 +86,6 @@ private Q_SLOTS:
         std::memcpy(block, "abc", 4);
         block = static_cast<char*>(safeRealloc(block, 4, 4000));
         QCOMPARE(static_cast<const char*>(block), "abc");
-        block = static_cast<char*>(safeRealloc(block, 4000, 2));
-        QCOMPARE(block[1], 'b');
         ::operator delete(block);
     }
 

@@ -27,16 +27,12 @@ private Q_SLOTS:
                        "\xf4\x8f\xbf\xbf\xed\xa0\x80x\xed\xbf\xbfy\xed\xb0\x80\xed\xa0\x80")
                 + '\0' + 'z');
         QCOMPARE(string.toUtf16(), text);
-        QCOMPARE(KbString::fromUtf16(text.data() + 6, 1).toUtf16(), text.substr(6, 1));
         QCOMPARE(KbString::fromUtf16(text.data()).toUtf16() + u'\0' + u'z', text);
 
         std::mt19937 random(1); // NOLINT: the same texts each time
         std::u16string any(200000, u'\0');
-        for (char16_t& unit : any) {
-            // Surrogates are rare among all units, so half of them are made surrogates.
-            const auto bits = random();
-            unit = static_cast<char16_t>(bits & 0x10000 ? 0xd800 + bits % 0x800 : bits);
-        }
+        for (char16_t& unit : any) // of which half are surrogates
+            unit = static_cast<char16_t>(random() % 2 ? 0xd800 + random() % 0x800 : random());
         QVERIFY(KbString::fromUtf16(any.data(), std::ssize(any)).toUtf16() == any);
     }
 
@@ -48,7 +44,6 @@ private Q_SLOTS:
         QCOMPARE(text.toUtf16(),
             u"a\xfffdz \xfffd\xfffd \xfffdz \xfffd\xfffd \xfffd\xfffd\xfffd"
             u" \xfffd\xfffd\xfffd\xfffd \xfffd");
-        QCOMPARE(KbString("a\xe2\x82").toUtf16(), u"a\xfffd\xfffd"); // where the text ends
     }
 
     void latin1()
@@ -73,49 +68,33 @@ private Q_SLOTS:
 
         const KbName name("wing");
         QVERIFY(&name.getString() == &KbName(std::string("wing").c_str()).getString());
-        QVERIFY(name == KbName(KbString("wing")) && !(name == KbName("wings")));
         QVERIFY(KbName() == KbName("") && KbName() == KbName(static_cast<const char*>(nullptr)));
     }
 
-    void rotations()
+    void quaternionOfARotation()
     {
         const auto q = KbRotation(KbVec3f(0.0F, 3.0F, 4.0F), 10.0F).getValue();
         QCOMPARE((QList<float>(q.begin(), q.end())),
             (QList<float> { 0, 0.6F * std::sin(5.0F), 0.8F * std::sin(5.0F), std::cos(5.0F) }));
-    }
-
-    void anAxisWithoutALengthTurnsNothing_data()
-    {
-        QTest::addColumn<float>("length");
-        QTest::newRow("0") << 0.0F;
-        QTest::newRow("infinite") << INFINITY;
-        QTest::newRow("no number") << NAN;
-    }
-    void anAxisWithoutALengthTurnsNothing()
-    {
-        QFETCH(float, length);
+        // An axis without a length turns nothing.
         const std::array<float, 4> none { 0, 0, 0, 1 };
-        QCOMPARE(KbRotation(KbVec3f(length, 0.0F, 0.0F), 2.0F).getValue(), none);
+        for (const float length : { 0.0F, INFINITY, NAN })
+            QCOMPARE(KbRotation(KbVec3f(length, 0.0F, 0.0F), 2.0F).getValue(), none);
     }
 
     void axisAndAngleOfAQuaternion_data()
     {
         QTest::addColumn<QList<float>>("quaternion");
         QTest::addColumn<QList<float>>("axisAndAngle");
-        const auto row
-            = [](const char* name, const QList<float>& quaternion, const QList<float>& result) {
-                  QTest::newRow(name) << quaternion << result;
-              };
+        using List = QList<float>;
         const float pi = std::numbers::pi_v<float>;
         const float max = std::numeric_limits<float>::max();
-        row("half a turn", { 1, 0, 0, 0 }, { 1, 0, 0, pi });
-        row("of any length", { 0, 5, 0, 5 }, { 0, 1, 0, pi / 2 });
-        row("of great length", { 0, 0, max, max }, { 0, 0, 1, pi / 2 });
-        const QList<float> none { 0, 0, 1, 0 };
-        row("a whole turn", { 0, 0, 0, -1 }, none);
-        row("of no length", { 0, 0, 0, 0 }, none);
-        row("no number", { NAN, 0, 0, 1 }, none);
-        row("infinite", { 1, 0, 0, INFINITY }, none);
+        const List none { 0, 0, 1, 0 };
+        QTest::newRow("half a turn") << List { 1, 0, 0, 0 } << List { 1, 0, 0, pi };
+        QTest::newRow("of great length") << List { 0, 0, max, max } << List { 0, 0, 1, pi / 2 };
+        QTest::newRow("a whole turn") << List { 0, 0, 0, -1 } << none;
+        QTest::newRow("of no length") << List { 0, 0, 0, 0 } << none;
+        QTest::newRow("infinite") << List { 1, 0, 0, INFINITY } << none;
     }
     void axisAndAngleOfAQuaternion()
     {
