@@ -16,6 +16,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 #include <QTreeView>
 
@@ -37,8 +38,8 @@ public:
         CommandLine commandLine;
         commandLine.scene = sceneFile;
         commandLine.profile = profile;
-        commandLine.plugins = QStringList { QStringLiteral(CORVANE_PLUGIN),
-            QStringLiteral(CORVANE_EXAMPLE_PLUGIN) };
+        commandLine.plugins
+            = { QStringLiteral(CORVANE_PLUGIN), QStringLiteral(CORVANE_EXAMPLE_PLUGIN) };
         if (!startup.applyCommandLine(commandLine))
             qFatal("%s", qPrintable(startup.errorText()));
         window.restoreLayout();
@@ -87,6 +88,11 @@ public:
     }
 
     QDockWidget* dock(const QString& name) const { return window.findChild<QDockWidget*>(name); }
+    QTreeView* view(const QString& name) const { return window.findChild<QTreeView*>(name); }
+    QString console() const
+    {
+        return window.findChild<QTextEdit*>(u"m_consoleOutput"_s)->toPlainText();
+    }
     /// A widget of the field editor shown.
     template <class Widget>
     Widget* inEditor() const
@@ -124,9 +130,9 @@ private:
         field->get(text);
         return toQString(text);
     }
-    void clickRow(const QString& view, const QString& name)
+    void clickRow(const QString& viewName, const QString& name)
     {
-        auto* const tree = window.findChild<QTreeView*>(view);
+        auto* const tree = view(viewName);
         const QModelIndex top = tree->model()->index(0, 0);
         const auto how = Qt::MatchExactly | Qt::MatchRecursive;
         const QModelIndex found = tree->model()->match(top, Qt::DisplayRole, name, 1, how).value(0);

@@ -9,36 +9,9 @@
 #include <QTest>
 #include <QUndoStack>
 
-#include <array>
-#include <new>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A node in a place of its own, which the next one gets again. Only the destructor is run, as the
-/// last `unref` would free the place.
-class Place {
-    Q_DISABLE_COPY(Place)
-public:
-    Place() = default;
-    ~Place() { clear(); }
-
-    KnMaterial* fill() { return m_node = new (m_bytes.data()) Material; }
-    void clear()
-    {
-        if (m_node)
-            std::destroy_at(static_cast<Material*>(std::exchange(m_node, nullptr)));
-    }
-
-private:
-    struct Material : KnMaterial {
-        ~Material() override = default;
-    };
-
-    alignas(Material) std::array<std::byte, sizeof(Material)> m_bytes {};
-    KnMaterial* m_node = nullptr;
-};
 
 void runSensors() { KnSensorQueue::getInstance().process(); }
 
@@ -52,8 +25,7 @@ private Q_SLOTS:
     void init()
     {
         QTest::failOnWarning(QRegularExpression(u".*"_s));
-        m_stack = std::make_unique<QUndoStack>();
-        m_changes = std::make_unique<SceneChanges>(m_stack.get());
+        m_changes = std::make_unique<SceneChanges>(&m_stack);
     }
 
     void deadNodesAreForgotten()
@@ -71,7 +43,6 @@ private Q_SLOTS:
         QVERIFY(m_changes->isModified());
         m_changes->markSaved();
         QVERIFY(!m_changes->isModified());
-        m_changes->forgetNodes();
     }
 
     void differencesDieWithTheirNode()
@@ -93,20 +64,20 @@ private Q_SLOTS:
 
     void newNodeInTheSamePlaceIsWatched()
     {
-        Place place;
-        m_changes->watch(place.fill());
-        place.clear();
-        KnMaterial* const node = place.fill();
-        node->transparency.setValue(0.5F);
-        m_changes->watch(node);
-        runSensors();
-        QVERIFY(!m_changes->isModified());
-        node->transparency.setValue(0.25F);
-        runSensors();
-        QVERIFY(m_changes->isModified());
-        node->transparency.setValue(0.5F);
-        runSensors();
-        QVERIFY(!m_changes->isModified());
+        for (const char* value : { "0.5", "0.25" }) { // the second one gets the place of the first
+            const KnNodePtr node(new KnMaterial);
+            KnField* const field = node->getField("transparency");
+            field->set(value);
+            m_changes->watch(node.get());
+            runSensors();
+            QVERIFY(!m_changes->isModified());
+            field->set("1");
+            runSensors();
+            QVERIFY(m_changes->isModified());
+            field->set(value);
+            runSensors();
+            QVERIFY(!m_changes->isModified());
+        }
     }
 
     // The batch goes on behind the node that dies in it.
@@ -121,24 +92,22 @@ private Q_SLOTS:
         KnFieldSensor killer(
             [](void* data, KnSensor*) { *static_cast<KnNodePtr*>(data) = KnNodePtr(); }, &middle);
         killer.attach(first->getField("transparency"));
-        first->getField("shininess")->set("0.75");
-        middle->getField("shininess")->set("0.75");
-        first->getField("transparency")->set("0.75");
-        middle->getField("transparency")->set("0.75");
-        last->getField("shininess")->set("0.75");
+        for (const char* field : { "shininess", "transparency" }) {
+            for (const KnNodePtr* node : { &first, &middle, &last })
+                (*node)->getField(field)->set("0.75");
+        }
         runSensors();
         QVERIFY(!middle);
-        QVERIFY(m_changes->isModified());
-        first = KnNodePtr();
-        runSensors();
-        QVERIFY(m_changes->isModified());
-        last = KnNodePtr();
-        runSensors();
+        for (KnNodePtr* node : { &first, &last }) {
+            QVERIFY(m_changes->isModified());
+            *node = KnNodePtr();
+            runSensors();
+        }
         QVERIFY(!m_changes->isModified());
     }
 
 private:
-    std::unique_ptr<QUndoStack> m_stack;
+    QUndoStack m_stack;
     std::unique_ptr<SceneChanges> m_changes;
 };
 

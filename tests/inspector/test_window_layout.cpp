@@ -53,24 +53,20 @@ private Q_SLOTS:
             QFile file(m_fileName);
             return file.open(QIODevice::ReadOnly) && file.readAll().contains("restoring=true");
         };
-        const auto marked = [&] {
-            m_settings->sync();
-            return markedOnDisk();
-        };
         Window window(m_settings.get());
         bool markedInTime = false;
         connect(window.dock, &QDockWidget::dockLocationChanged, this,
             [&] { markedInTime = markedOnDisk(); });
-        QVERIFY(!marked());
-        QVERIFY(window.layout->restore());
-        QVERIFY(markedInTime);
+        m_settings->sync();
+        QVERIFY(!markedOnDisk());
+        QVERIFY(window.layout->restore() && markedInTime);
         QCOMPARE(window.dockWidgetArea(window.dock), Qt::RightDockWidgetArea);
         QCOMPARE(window.size(), changedSize);
         QCoreApplication::processEvents();
-        QVERIFY(marked()); // there is no window to be seen yet
+        m_settings->sync();
+        QVERIFY(markedOnDisk()); // there is no window to be seen yet
         window.show();
-        QVERIFY(marked());
-        QTRY_VERIFY(!marked());
+        QTRY_VERIFY((m_settings->sync(), !markedOnDisk()));
     }
 
     void damageIsNoticed_data()
@@ -84,16 +80,13 @@ private Q_SLOTS:
             const auto row = [&](const QString& damage, const QVariant& value) {
                 QTest::newRow(qPrintable(name + u' ' + damage)) << key << value;
             };
-            for (qsizetype i = 0; i < saved.size(); i += 3) {
+            for (const qsizetype at : { qsizetype(0), saved.size() / 2, saved.size() - 1 }) {
                 QByteArray flipped = saved;
-                flipped[i] = static_cast<char>(flipped.at(i) ^ (1 << (i % 8)));
-                row(u"with another byte %1"_s.arg(i), flipped);
+                flipped[at] = static_cast<char>(flipped.at(at) ^ 4);
+                row(u"with another byte %1"_s.arg(at), flipped);
             }
             row(u"cut short"_s, saved.chopped(1));
-            row(u"cut to half"_s, saved.first(saved.size() / 2));
-            row(u"with more behind"_s, QByteArray(saved + '0'));
             row(u"empty"_s, QByteArray());
-            row(u"as a number"_s, 12);
             row(u"as a list"_s, QStringList { u"a"_s, u"b"_s });
         }
     }

@@ -44,8 +44,6 @@ void release(void* block)
     std::free(header->start);
 }
 
-std::size_t bytes(std::align_val_t alignment) { return static_cast<std::size_t>(alignment); }
-
 } // namespace
 
 std::uint64_t headerBlockCount() { return blockCount; }
@@ -54,7 +52,7 @@ std::uint64_t headerBlockCount() { return blockCount; }
 void* operator new(std::size_t size) { return allocate(size); }
 void* operator new(std::size_t size, std::align_val_t alignment)
 {
-    return allocate(size, bytes(alignment));
+    return allocate(size, static_cast<std::size_t>(alignment));
 }
 void operator delete(void* block) noexcept { release(block); }
 void operator delete(void* block, std::size_t) noexcept { release(block); }
