@@ -29,9 +29,11 @@ inline QString takeCalls()
     return calls.mid(2);
 }
 
+class KnField;
+inline void noteField(const KnField* field) { note(field ? "field" : "no field"); }
+
 /// Notes what the host does with it.
-class NotingCommand : public CrvCommand {
-public:
+struct NotingCommand : CrvCommand {
     ~NotingCommand() override { note("destroy"); }
     void execute() override { note("execute"); }
     void undo() override { note("undo"); }

@@ -38,8 +38,7 @@ class PluginsManagerTest : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        connect(CrvServices::getInstance(), &CrvServices::selectedFieldChanged, this,
-            [](const KnField* field) { note(field ? "field" : "no field"); });
+        connect(CrvServices::getInstance(), &CrvServices::selectedFieldChanged, this, &noteField);
         connect(m_manager, &CrvPluginsManager::activeProfileChanged, this, [] { note("changed"); });
         connect(m_manager, &CrvPluginsManager::profilesChanged, this, [] { note("replaced"); });
     }
@@ -66,16 +65,13 @@ private Q_SLOTS:
     void refusesFiles_data()
     {
         QTest::addColumn<QString>("reason");
-        const QString lacks = u"this library is no plug-in, it lacks "_s;
         QTest::newRow("nowhere/plugin.so") << u"there is no such file"_s;
         QTest::newRow("/") << u"this is not a file"_s;
-        QTest::newRow(CORVANE_SAMPLE_PROFILES)
-            << u"this is not a library that can be loaded: Cannot load"_s;
+        QTest::newRow(CORVANE_SAMPLE_PROFILES) << u"this is not a library that can be"_s;
         const auto module = [](const char* name, const QString& reason) {
             QTest::newRow(qPrintable(modulePath(name))) << reason;
         };
-        module("bare_module", lacks + u"loadPlugin, unloadPlugin"_s);
-        module("half_module", lacks + u"unloadPlugin"_s);
+        module("half_module", u"this library is no plug-in, it lacks unloadPlugin"_s);
         module("null_module", u"loadPlugin gave no plug-in"_s);
     }
     void refusesFiles()
@@ -85,7 +81,6 @@ private Q_SLOTS:
         QString error;
         QCOMPARE(m_manager->loadPlugin(file, &error), nullptr);
         QVERIFY2(error.startsWith(file + u": "_s + reason), qPrintable(error));
-        QCOMPARE(m_manager->loadPlugin(file), nullptr);
     }
 
     void moduleLivesAndDiesInOrder()
@@ -101,7 +96,6 @@ private Q_SLOTS:
                 u"Console load, Field Editor load, Console on, Field Editor on, no field, "
                 "Field Editor off, Console off, Field Editor unload, Console unload, unload, "
                 "destroyed"_s);
-            QVERIFY(m_manager->getExtensions().empty());
         }
     }
 
@@ -132,13 +126,10 @@ private Q_SLOTS:
         // The message behind the file's name, and what is refused with it.
         const auto row
             = [](const char* message, const QByteArray& json) { QTest::newRow(message) << json; };
-        row(": No such file", QByteArray());
         row(":2:4: illegal number", "{\"profiles\":\n  [oops]}");
-        row(": an object expected", "[]");
         row(": profile: unknown member", R"({"profile":[]})");
         row(": profiles: missing", "{}");
         row(": profiles: at least one", R"({"profiles":[]})");
-        row(": profiles[0].name: a name", R"({"profiles":[{"extensions":[]}]})");
         row(": profiles[1].name: there are two profiles of the name \"a\"",
             R"({"profiles":[{"name":"a","extensions":[]},{"name":"a","extensions":[]}]})");
         row(": profiles[0].extensions[1]: a name", profileOf(R"(["b",1])"));
@@ -173,9 +164,9 @@ private Q_SLOTS:
     void switchingTouchesOnlyDifference()
     {
         m_manager->adoptPlugin(m_plugin.get());
-        QCOMPARE(switchTo(profile(Fields)), u"Foreign off, Console off, no field, changed"_s);
-        QCOMPARE(switchTo(profile(Fields)), QString());
-        QCOMPARE(switchTo(profile(Console)),
+        QCOMPARE(switchTo(Fields), u"Foreign off, Console off, no field, changed"_s);
+        QCOMPARE(switchTo(Fields), QString());
+        QCOMPARE(switchTo(Console),
             u"Node Editor off, Field Editor off, Console on, no field, changed"_s);
         // The selector shows the list of the moment in which it was activated.
         QCOMPARE(load(R"({"profiles":[{"name":"Other","extensions":[]},
@@ -185,9 +176,6 @@ private Q_SLOTS:
             u"replaced, Console off, Profile Selector off, Profile Selector on, no field, "
             "changed"_s);
         QCOMPARE(activeName(), u"Console"_s);
-        CrvProfile foreign("foreign", {});
-        QCOMPARE(switchTo(&foreign), QString());
-        QCOMPARE(switchTo(nullptr), u"Profile Selector off, changed"_s);
     }
 
     void changesFromWithinActivate()
@@ -197,15 +185,15 @@ private Q_SLOTS:
         m_manager->adoptPlugin(m_plugin.get());
         QVERIFY(!takeCalls().contains(u"off"));
 
-        switchTo(profile(Fields));
+        switchTo(Fields);
         m_console->inActivate = [this] { m_manager->setActiveProfile(profile(Fields)); };
         // The console's wish ends the round: what came behind it is never activated.
-        QCOMPARE(switchTo(profile(Everything)), u"Console on, Console off, no field, changed"_s);
+        QCOMPARE(switchTo(Everything), u"Console on, Console off, no field, changed"_s);
         QCOMPARE(activeName(), u"Fields"_s);
 
         // The same with the whole list replaced under the manager's feet.
         m_console->inActivate = [this] { load(profileOf(R"(["Foreign"])")); };
-        QCOMPARE(switchTo(profile(Everything)),
+        QCOMPARE(switchTo(Everything),
             u"Console on, replaced, Console off, Node Editor off, Field Editor off, "
             "Profile Selector off, Foreign on, no field, changed"_s);
         QCOMPARE(activeName(), u"Caf\u00e9"_s);
@@ -218,8 +206,6 @@ private:
         QTemporaryFile file;
         if (!file.open() || file.write(json) != json.size() || !file.flush())
             return file.errorString();
-        if (json.isNull())
-            file.remove();
         QString error;
         m_manager->loadProfiles(file.fileName(), &error);
         return error.remove(0, file.fileName().size());
@@ -231,10 +217,10 @@ private:
     }
 
     /// Makes the profile active and returns the calls that come of it.
-    QString switchTo(CrvProfile* wanted)
+    QString switchTo(int index)
     {
         takeCalls();
-        m_manager->setActiveProfile(wanted);
+        m_manager->setActiveProfile(profile(index));
         return takeCalls();
     }
 

@@ -51,8 +51,7 @@ private Q_SLOTS:
         connect(m_services, &CrvServices::selectedNodeChanged, this, [](KnFieldContainer* node) {
             note(node ? "node " + node->getName().getString().toUtf8() : "no node");
         });
-        connect(m_services, &CrvServices::selectedFieldChanged, this,
-            [](const KnField* field) { note(field ? "field" : "no field"); });
+        connect(m_services, &CrvServices::selectedFieldChanged, this, &noteField);
     }
     void cleanup()
     {
@@ -69,12 +68,11 @@ private Q_SLOTS:
         m_services->selectNode(&m_a);
         m_services->selectNode(&m_b);
         m_services->selectNode(nullptr);
-        QCOMPARE(takeCalls(), u"node A, node B, no node"_s);
         m_services->selectField(&m_number);
         m_services->selectField(&m_number);
         m_services->selectField(m_color);
         m_services->selectNode(&m_a);
-        QCOMPARE(takeCalls(), u"node A, field, field, no field"_s);
+        QCOMPARE(takeCalls(), u"node A, node B, no node, node A, field, field, no field"_s);
         m_services->selectField(m_color);
         m_services->selectField(&m_b.transparency);
         m_services->announceSelection();
@@ -111,7 +109,6 @@ private Q_SLOTS:
         QCOMPARE(
             takeCalls(), u"no field, as announced, as announced, no node, 2, node B, 1, field"_s);
         QCOMPARE(m_services->getSelectedField(), &m_b.shininess);
-        QCOMPARE(m_b.getReferenceCount(), 2);
     }
 
     void heldSelectionsWait()
@@ -123,24 +120,20 @@ private Q_SLOTS:
             m_services->selectNode(&m_b);
             const CrvServices::SelectionHold inner(*m_services);
             QCOMPARE(m_services->getSelectedNode(), nullptr);
-            QCOMPARE(m_b.getReferenceCount(), 2);
         }
         QCOMPARE(takeCalls(), u"node B, no field"_s);
     }
 
     void listenersThatNeverAgreeAreStopped()
     {
-        connect(
-            m_services, &CrvServices::selectedNodeChanged, this, [&](const KnFieldContainer* node) {
-                m_services->selectNode(node == &m_a ? &m_b : &m_a);
-            });
+        const auto selectOther = [&](const KnFieldContainer* node) {
+            m_services->selectNode(node == &m_a ? &m_b : &m_a);
+        };
+        connect(m_services, &CrvServices::selectedNodeChanged, this, selectOther);
         QTest::ignoreMessage(
             QtWarningMsg, "CrvServices: listeners go on selecting in answer to each other");
         m_services->selectNode(&m_a);
         QVERIFY(m_services->getSelectedNode());
-        disconnect(m_services, nullptr, this, nullptr);
-        m_services->selectNode(nullptr);
-        QCOMPARE(m_services->getSelectedNode(), nullptr);
     }
 
     void commandRunsOnce()
@@ -164,17 +157,15 @@ private Q_SLOTS:
     {
         Node unnamed("");
         Node twoLines("two\nlines %2");
-        const std::pair<KnField*, QString> rows[] = {
-            { &unnamed.transparency, u"Edit Material.transparency"_s },
-            { &twoLines.ambientColor, u"Edit two lines %2.ambientColor"_s },
-            { &m_loose, u"Edit"_s },
-            { &m_number, u"Edit A.transparency"_s },
-        };
-        for (const auto& [field, text] : rows) {
+        QStringList texts;
+        KnField* const fields[] = { &unnamed.shininess, &twoLines.shininess, &m_loose, &m_number };
+        for (KnField* field : fields) {
             m_services->selectField(field);
             m_services->executeCommand(new NotingCommand);
-            QCOMPARE(m_services->getUndoStack()->undoText(), text);
+            texts += m_services->getUndoStack()->undoText();
         }
+        QCOMPARE(texts.join(u", "_s),
+            u"Edit Material.shininess, Edit two lines %2.shininess, Edit, Edit A.transparency"_s);
         // An editor that is still being left commits for the field that it shows.
         const auto commit = [this] { m_services->executeCommand(new NotingCommand); };
         connect(m_services, &CrvServices::selectedFieldChanged, this, commit);

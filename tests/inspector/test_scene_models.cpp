@@ -68,8 +68,6 @@ private Q_SLOTS:
         root->addChild(root->getChild(0));
         model.setRoot(KnNodePtr(root));
         QCOMPARE(shown(QString()), u"Material, Material"_s);
-        model.setRoot(KnNodePtr());
-        QCOMPARE(filter.rowCount(), 0);
     }
 
     void filteringKeepsTheSelection()
@@ -88,15 +86,14 @@ private Q_SLOTS:
         QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(leaf).center());
         KnFieldContainer* const oak = services->getSelectedNode();
         QVERIFY(oak);
-        int selections = 0;
-        connect(services, &CrvServices::selectedNodeChanged, &panel, [&] { ++selections; });
+        const QSignalSpy selections(services, &CrvServices::selectedNodeChanged);
         line->clear();
         QTest::keyClicks(line, u"light"_s);
         QVERIFY(!tree->currentIndex().isValid());
         line->clear();
         QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
         QCOMPARE(services->getSelectedNode(), oak);
-        QCOMPARE(selections, 0);
+        QVERIFY(selections.isEmpty());
         services->selectNode(nullptr);
     }
 
@@ -140,7 +137,6 @@ private Q_SLOTS:
         const QString numbers = QStringList(9999, u"12345678"_s).join(u", "_s);
         QCOMPARE(summary(KnMFInt32(), u"[]"_s), u"no values"_s);
         QCOMPARE(summary(KnMFInt32(), u"[7]"_s), u"1 value:  7"_s);
-        QCOMPARE(summary(KnMFInt32(), u"[1, 2]"_s), u"2 values:  1, 2"_s);
         QCOMPARE(summary(KnMFInt32(), u'[' + numbers + u']'),
             u"9999 values:  "_s + numbers.left(30) + u'\u2026');
         QCOMPARE(summary(KnSFString(), u'"' + numbers + u'"'), u'"' + numbers.left(29) + u'\u2026');

@@ -44,23 +44,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("inScene"); // whether the tree shows the node
         QTest::addColumn<bool>("popup"); // whether the popup of its editor is open
-        QTest::addColumn<char>("then"); // f(ield), n(ode), p(rofile), s(cene)
-        QTest::addColumn<QString>("selected");
-        for (const bool popup : { false, true }) {
+        for (const char* then : { "field", "nothing", "node", "profile", "scene" }) {
             for (const bool inScene : { false, true }) {
-                const auto row = [=](const char* what, char then, const QString& selected) {
-                    QTest::addRow("%s, %s, %s", what, inScene ? "filtered away" : "of no scene",
-                        popup ? "popup" : "line")
-                        << inScene << popup << then << selected;
-                };
-                const QString before
-                    = (inScene ? popup ? u"Frame place"_s : u"Front view"_s : u"Other"_s)
-                    + (popup ? u".matrix"_s : u".description"_s);
-                row("another field", 'f', u"Oak.transparency"_s);
-                row("no field", '0', before.section(u'.', 0, 0));
-                row("another node", 'n', u"Oak"_s);
-                row("another profile", 'p', before);
-                row("another scene", 's', QString());
+                for (const bool popup : { false, true })
+                    QTest::addRow("%s, %d, %d", then, inScene, popup) << inScene << popup;
             }
         }
     }
@@ -68,8 +55,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, inScene);
         QFETCH(bool, popup);
-        QFETCH(char, then);
-        QFETCH(QString, selected);
+        const QByteArray then = QByteArray(QTest::currentDataTag()).split(',').constFirst();
         CrvServices* const services = CrvServices::getInstance();
         KnField* const oak = m_inspector->field(u"Oak.transparency"_s);
         if (inScene) {
@@ -80,9 +66,9 @@ private Q_SLOTS:
             services->selectField(
                 popup ? static_cast<KnField*>(&m_transform.matrix) : &m_viewpoint.description);
         }
-        QVERIFY(services->getSelectedField());
-        const auto* const tree = m_inspector->window.findChild<QTreeView*>(u"sceneTree"_s);
-        QVERIFY(!tree->currentIndex().isValid());
+        const QString before = selection();
+        QVERIFY(before.contains(u'.'));
+        QVERIFY(!m_inspector->view(u"sceneTree"_s)->currentIndex().isValid());
 
         QWidget* const frame = m_inspector->dock(u"Field Editor"_s)->widget();
         if (popup)
@@ -91,35 +77,34 @@ private Q_SLOTS:
         QTest::mouseClick(line, Qt::LeftButton);
         QCOMPARE(QApplication::focusWidget(), line);
 
-        CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
-        switch (then) {
-        case 'f':
+        QString expected = before;
+        if (then == "field") {
             services->selectField(oak);
-            break;
-        case '0':
+            expected = u"Oak.transparency"_s;
+        } else if (then == "nothing") {
             services->selectField(nullptr);
-            break;
-        case 'n':
+            expected = before.section(u'.', 0, 0);
+        } else if (then == "node") {
             services->selectNode(oak->getContainer());
-            break;
-        case 'p':
+            expected = u"Oak"_s;
+        } else if (then == "profile") {
+            CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
             manager->setActiveProfile(manager->getProfilesList().back());
             QVERIFY(!m_inspector->dock(u"Field Editor"_s));
-            break;
-        default:
+        } else {
             // The line that is left has made a command.
             m_inspector->answerNextQuestion(QMessageBox::Discard);
             m_inspector->window.findChild<FileMenu*>()->openFile(m_inspector->sceneFile);
+            expected.clear();
         }
         QCoreApplication::processEvents();
-        QCOMPARE(selection(), selected);
+        QCOMPARE(selection(), expected);
     }
 
     void theFocusSelectsNothing()
     {
-        CrvServices* const services = CrvServices::getInstance();
         for (const QString& name : { u"sceneTree"_s, u"fieldList"_s }) {
-            auto* const view = m_inspector->window.findChild<QTreeView*>(name);
+            auto* const view = m_inspector->view(name);
             const QString before = selection();
             view->setFocus(Qt::TabFocusReason);
             QVERIFY(view->hasFocus() && !view->currentIndex().isValid());
@@ -129,7 +114,6 @@ private Q_SLOTS:
             QCOMPARE(view->currentIndex().row(), 0);
             QVERIFY(selection() != before);
         }
-        QVERIFY(services->getSelectedField());
     }
 
 private:
