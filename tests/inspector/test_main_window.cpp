@@ -18,6 +18,7 @@ private Q_SLOTS:
         // What the offscreen platform has to say of itself.
         QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
         m_folder = std::make_unique<QTemporaryDir>();
+        m_settingsFile = m_folder->filePath(u"settings.ini"_s);
     }
     void cleanup() { QVERIFY(QApplication::topLevelWidgets().isEmpty()); }
 
@@ -37,6 +38,13 @@ private Q_SLOTS:
         services->selectField(inspector.field(u"Oak.transparency"_s));
         QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
         QCOMPARE(list->currentIndex().data().toString(), u"transparency"_s);
+        // Filtered away, the node stays selected, and what is left is opened.
+        auto* const filter = inspector.window.findChild<QLineEdit*>(u"sceneFilter"_s);
+        QTest::keyClicks(filter, u"light"_s);
+        QVERIFY(!tree->currentIndex().isValid() && services->getSelectedField());
+        QVERIFY(tree->isExpanded(tree->model()->index(0, 0)));
+        filter->clear();
+        QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
         services->selectNode(nullptr);
         QVERIFY(!tree->currentIndex().isValid() && !list->currentIndex().isValid());
     }
@@ -222,20 +230,19 @@ private Q_SLOTS:
 
     void doubtfulLayoutIsNotUsed_data()
     {
-        QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("word");
-        QTest::newRow("damaged") << u"window/layout"_s << u"is damaged and is not used."_s;
-        QTest::newRow("died of it") << u"window/restoring"_s << u"is not used again: the program"_s;
+        for (const char* key : { "window/layout", "window/geometry", "window/check" })
+            QTest::newRow(key) << u"is damaged and is not used."_s;
+        QTest::newRow("window/restoring") << u"is not used again: the program"_s;
     }
     void doubtfulLayoutIsNotUsed()
     {
-        QFETCH(QString, key);
         QFETCH(QString, word);
         for (int start = 1; start <= 3; ++start) {
             const bool doubtful = start == 2;
             if (doubtful)
-                QSettings(m_folder->filePath(u"settings.ini"_s), QSettings::IniFormat)
-                    .setValue(key, true);
+                QSettings(m_settingsFile, QSettings::IniFormat)
+                    .setValue(QTest::currentDataTag(), QByteArray(1, '\0'));
             InspectorFixture inspector(*m_folder);
             QCOMPARE(inspector.console().contains(u"The saved window layout "_s + word), doubtful);
             QCOMPARE(inspector.dock(u"historyDock"_s)->isVisible(), start < 3);
@@ -244,8 +251,40 @@ private Q_SLOTS:
         }
     }
 
+    void layoutIsMarkedUntilItIsSeen()
+    {
+        constexpr QSize size(900, 700);
+        {
+            InspectorFixture inspector(*m_folder);
+            inspector.window.QMainWindow::addDockWidget(
+                Qt::TopDockWidgetArea, inspector.dock(u"historyDock"_s));
+            inspector.window.resize(size);
+            inspector.window.close();
+        }
+        const auto marked = [this] {
+            QFile file(m_settingsFile);
+            return file.open(QIODevice::ReadOnly) && file.readAll().contains("restoring=true");
+        };
+        QSettings settings(m_settingsFile, QSettings::IniFormat);
+        MainWindow window(&settings);
+        auto* const dock = window.findChild<QDockWidget*>(u"historyDock"_s);
+        bool markedInTime = false;
+        connect(dock, &QDockWidget::dockLocationChanged, this, [&] { markedInTime = marked(); });
+        QVERIFY(!marked());
+        window.restoreLayout();
+        QVERIFY(markedInTime);
+        QCOMPARE(window.dockWidgetArea(dock), Qt::TopDockWidgetArea);
+        QCOMPARE(window.size(), size);
+        QCoreApplication::processEvents();
+        settings.sync();
+        QVERIFY(marked()); // there is no window to be seen yet
+        window.show();
+        QTRY_VERIFY((settings.sync(), !marked()));
+    }
+
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_settingsFile;
 };
 
 QTEST_MAIN(TestMainWindow)

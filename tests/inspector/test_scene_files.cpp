@@ -72,19 +72,16 @@ private Q_SLOTS:
         const auto text = [&node](const char* message, const QByteArray& field) {
             node(message, R"("type": "Text", "fields": { )" + field + " }");
         };
-        row(": No such file or directory", QByteArray());
         row(":2:17: unterminated string", sceneWith(R"({ "type": "Group")").chopped(4));
         row(": not a scene: the outermost value", "[]");
         row(": format: not a scene: \"corvane-scene\"", R"({ "format": "x", "version": 1 })");
         row(": version: version 1", R"({ "format": "corvane-scene", "version": 2 })");
-        row(": root: an object expected", sceneWith("[]"));
         node(": root.type: missing", "");
         node(": root.type: unknown node type \"Blob\"", R"("type": "Blob")");
         node(": root.type: unknown node type \"Light\"", R"("type": "Light")"); // abstract
         node(": root.name: a text in quotes", R"("type": "Group", "name": [])");
         node(": root.childs: unknown member", R"("type": "Group", "childs": [])");
         node(": root.children: a node of", R"("type": "Text", "children": [])");
-        node(": root.children: an array", R"("type": "Group", "children": {})");
         text(": root.fields.size: a text in", R"("size": 12)");
         text(": root.fields.colour: a node of", R"("colour": "1")");
         text(": root.fields.size.ignored: true or", R"("size": { "ignored": 1 })");
@@ -97,7 +94,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, json);
         const QTemporaryDir folder;
         QFile file(folder.filePath(u"bad.json"_s));
-        QVERIFY(json.isNull() || (file.open(QIODevice::WriteOnly) && file.write(json) > 0));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(json) > 0);
         file.close();
         SceneDocument document;
         QString error;

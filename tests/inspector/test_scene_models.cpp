@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "CrvServices.h"
 #include "FieldListModel.h"
 #include "KnGroup.h"
 #include "KnMFields.h"
@@ -9,15 +8,12 @@
 #include "KnViewpoint.h"
 #include "SceneFilterModel.h"
 #include "SceneModel.h"
-#include "ScenePanel.h"
 #include "SceneReader.h"
 #include "SceneText.h"
 
 #include <QAbstractItemModelTester>
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 using FailureMode = QAbstractItemModelTester::FailureReportingMode;
@@ -42,8 +38,7 @@ class TestSceneModels : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // What the offscreen platform has to say of itself is no fault.
-    void init() { QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not)"_s)); }
+    void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
 
     void modelsAreSound()
     {
@@ -68,33 +63,6 @@ private Q_SLOTS:
         root->addChild(root->getChild(0));
         model.setRoot(KnNodePtr(root));
         QCOMPARE(shown(QString()), u"Material, Material"_s);
-    }
-
-    void filteringKeepsTheSelection()
-    {
-        CrvServices* const services = CrvServices::getInstance();
-        ScenePanel panel;
-        panel.setRoot(m_sample);
-        panel.show();
-        auto* const tree = panel.findChild<QTreeView*>(u"sceneTree"_s);
-        auto* const line = panel.findChild<QLineEdit*>(u"sceneFilter"_s);
-        // What is left is opened, so that it can be chosen at once.
-        QTest::keyClicks(line, u"oak"_s);
-        QModelIndex leaf;
-        while (tree->model()->hasChildren(leaf))
-            leaf = tree->model()->index(0, 0, leaf);
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(leaf).center());
-        KnFieldContainer* const oak = services->getSelectedNode();
-        QVERIFY(oak);
-        const QSignalSpy selections(services, &CrvServices::selectedNodeChanged);
-        line->clear();
-        QTest::keyClicks(line, u"light"_s);
-        QVERIFY(!tree->currentIndex().isValid());
-        line->clear();
-        QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
-        QCOMPARE(services->getSelectedNode(), oak);
-        QVERIFY(selections.isEmpty());
-        services->selectNode(nullptr);
     }
 
     void fieldListFollowsTheFields()
@@ -147,5 +115,5 @@ private:
         = SceneReader().readFile(QStringLiteral(CORVANE_SCENES "/all_fields.json"));
 };
 
-QTEST_MAIN(TestSceneModels)
+QTEST_GUILESS_MAIN(TestSceneModels)
 #include "test_scene_models.moc"

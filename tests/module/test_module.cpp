@@ -118,10 +118,8 @@ private Q_SLOTS:
     void thePluginObjectIsMadeAnewEachTime()
     {
         QLibrary library(QStringLiteral(CORVANE_MODULE_FILE));
-        const auto loadPlugin
-            = reinterpret_cast<CrvLoadPluginFunction>(library.resolve("loadPlugin"));
-        const auto unloadPlugin
-            = reinterpret_cast<CrvUnloadPluginFunction>(library.resolve("unloadPlugin"));
+        const auto loadPlugin = CrvLoadPluginFunction(library.resolve("loadPlugin"));
+        const auto unloadPlugin = CrvUnloadPluginFunction(library.resolve("unloadPlugin"));
         QVERIFY(loadPlugin && unloadPlugin);
         unloadPlugin(); // there is none
         for (int round = 0; round < 2; ++round) {
@@ -137,8 +135,7 @@ private Q_SLOTS:
 
     void unloadingLeavesNothingBehind()
     {
-        std::streambuf* const output = std::cout.rdbuf();
-        std::streambuf* const errors = std::cerr.rdbuf();
+        const std::pair streams(std::cout.rdbuf(), std::cerr.rdbuf());
         const KnErrorCallback handler = KnError::getHandlerCallback();
         const int rounds = CORVANE_MODULE_STAYS ? 50 : 200;
         for (int i = 0; i < rounds; ++i) {
@@ -151,7 +148,7 @@ private Q_SLOTS:
             CrvPluginsManager::getInstance()->unloadAll();
             settle();
             QCOMPARE(isMapped(), CORVANE_MODULE_STAYS);
-            QVERIFY(std::cout.rdbuf() == output && std::cerr.rdbuf() == errors);
+            QVERIFY(std::pair(std::cout.rdbuf(), std::cerr.rdbuf()) == streams);
             QVERIFY(KnError::getHandlerCallback() == handler);
             QVERIFY(m_shell.extensions().isEmpty());
             QCOMPARE(QApplication::topLevelWidgets(), QWidgetList { &m_shell.window() });

@@ -11,15 +11,12 @@ KnTestNode::KnTestNode()
 #undef KN_TEST_SFIELD
 #undef KN_TEST_MFIELD
 
-    const int enumValues[] = { 1, 2, 3 };
-    const KbName enumNames[] = { "FIRST", "SECOND",
-        "\xC3\x9C"
-        "BER" };
-    SFEnum.setEnums(3, enumValues, enumNames);
+    SFEnum.setEnums({ { "FIRST", 1 }, { "SECOND", 2 },
+        { "\u00dc"
+          "BER",
+            3 } });
     SFEnum.setValue(1);
-    const int maskValues[] = { 0, 1, 2, 12 };
-    const KbName maskNames[] = { "NONE", "A", "B", "C" };
-    SFBitMask.setEnums(4, maskValues, maskNames);
+    SFBitMask.setEnums({ { "NONE", 0 }, { "A", 1 }, { "B", 2 }, { "C", 12 } });
 }
 
 KnType KnTestNode::getClassTypeId()
