@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ColorChannels.h"
 #include "DialogInput.h"
-#include "EditorRow.h"
+#include "EditorCase.h"
 
 #include <QColorDialog>
 #include <QLabel>

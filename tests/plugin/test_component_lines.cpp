@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "EditorRow.h"
+#include "EditorCase.h"
 
 #include <QLineEdit>
 #include <QPushButton>

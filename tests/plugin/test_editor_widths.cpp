@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "EditorRow.h"
+#include "EditorCase.h"
 
 #include <QLineEdit>
 #include <QSpinBox>
 
 using namespace Qt::StringLiterals;
-
-Q_DECLARE_METATYPE(EditorRow)
 
 /// No editor of a single value forces a dock wider than docks are.
 class TestEditorWidths : public QObject {
@@ -14,17 +12,10 @@ class TestEditorWidths : public QObject {
 private Q_SLOTS:
     void init() { failOnWarnings(); }
 
-    void anEditorFitsANarrowDock_data()
-    {
-        QTest::addColumn<EditorRow>("row");
-        for (const auto& rows : { singleValueRows(), compoundRows() }) {
-            for (const EditorRow& row : rows)
-                QTest::newRow(row.type) << row;
-        }
-    }
+    void anEditorFitsANarrowDock_data() { addRows({ singleValueCases(), compoundCases() }); }
     void anEditorFitsANarrowDock()
     {
-        QFETCH(EditorRow, row);
+        QFETCH(EditorCase, row);
         EditorFixture fixture;
         EditorFixture::write(fixture.field(row.type), row.start);
         fixture.select(fixture.field(row.type));

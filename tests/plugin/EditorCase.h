@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "EditorFixture.h"
+
+#include <vector>
+
+/// What the common road needs to know of one editor. The field is that of the test node which is
+/// named after its type.
+struct EditorCase {
+    const char* type; ///< of the field, such as "SFBool"
+    const char* editor = nullptr; ///< object name; null for the one named after the type
+    const char* start; ///< text that the field gets first
+    const char* line = nullptr; ///< object name of the lines, of which the last is edited
+    const char* typed = nullptr; ///< into the line; Return follows
+    void (*act)(EditorFixture& fixture) = nullptr; ///< edits where there is no such line
+    const char* edited; ///< text of the field after the edit
+    int commands = 1; ///< that the edit puts on the stack; 0 for an edit that can't be undone
+    const char* outside; ///< text written from outside, while the editor is shown
+    QString (*read)(EditorFixture& fixture) = nullptr; ///< null reads the lines
+    // What a person reads in the inputs; null if it is the text of the field.
+    const char* shownAtStart = nullptr;
+    const char* shownEdited = nullptr;
+    const char* shownOutside = nullptr;
+
+    QString editorName() const;
+    /// Edits as a person would, with mouse and keys.
+    void edit(EditorFixture& fixture) const;
+    /// What a person reads in the inputs.
+    QString shown(EditorFixture& fixture) const;
+};
+
+Q_DECLARE_METATYPE(EditorCase)
+
+std::vector<EditorCase> singleValueCases();
+std::vector<EditorCase> compoundCases();
+std::vector<EditorCase> arrayCases();
+/// Makes them the rows of a test, in a column "row".
+void addRows(std::initializer_list<std::vector<EditorCase>> cases);
+
+// Input and reading that the cases share.
+
+/// Puts `text` into a line edit as a person would, in place of what it holds; Return follows.
+void typeInto(QWidget* lineEdit, const QString& text);
+/// The same with the last of the lines of that name.
+void typeIntoLast(EditorFixture& fixture, const char* objectName, const char* text);
+/// The texts of line edits of the editor shown, by object name, in the order of their creation.
+QString linesShown(EditorFixture& fixture, const char* objectName);
