@@ -3,6 +3,7 @@
 #include "EditorFixture.h"
 #include "KnMField.h"
 #include "LayoutDump.h"
+#include "Pixmaps.h"
 
 #include <QApplication>
 
@@ -301,7 +302,18 @@ private Q_SLOTS:
         QCOMPARE(actual.split(u", "_s), expected.split(u", "_s));
     }
 
+    void upAndDownAreNoOtherWayRound() { QVERIFY(upperHalf(upPixmap()) < upperHalf(downPixmap())); }
+
 private:
+    /// Of the upper half the number of pixels that aren't transparent.
+    static int upperHalf(const QPixmap& pixmap)
+    {
+        const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+        int count = 0;
+        for (int i = 0; i < 128; ++i)
+            count += qAlpha(image.pixel(i % 16, i / 16)) != 0;
+        return count;
+    }
     /// What edits the last cell of the table's first row.
     QString cell(QTableWidget* table)
     {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorCase.h"
+#include "FittedFont.h"
 
 #include <QLineEdit>
 #include <QSpinBox>
@@ -49,6 +50,20 @@ private Q_SLOTS:
         QTRY_VERIFY(line->fontInfo().pixelSize() < QFontInfo(font).pixelSize());
         dock->setFixedWidth(700);
         QTRY_COMPARE(line->font(), font);
+    }
+
+    /// A large font of the user doesn't clip a number in the fixed heights, and a small one stays.
+    void aFontGetsOnlyAsSmallAsItMust()
+    {
+        QFont font;
+        const QString sample = u"-0.123457"_s;
+        for (const QSize& room : { QSize(1000, 12), QSize(48, 14), QSize(1000, 10) }) {
+            font.setPixelSize(40);
+            const QFont fitted = fittedFont(font, sample, room);
+            QVERIFY(QFontMetrics(fitted).tightBoundingRect(sample).height() <= room.height());
+            QVERIFY(QFontMetrics(fitted).horizontalAdvance(sample) <= room.width());
+            QCOMPARE(fittedFont(fitted, sample, room).pixelSize(), fitted.pixelSize());
+        }
     }
 };
 
