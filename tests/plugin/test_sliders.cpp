@@ -7,7 +7,6 @@
 #include "WfUIntSlider.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -41,20 +40,15 @@ std::unique_ptr<WfSlider> make(
         slider->setValue(value);
         return slider;
     };
-    if (kind == Float || kind == Double) {
+    if (kind == Float || kind == Double)
         return filled(std::make_unique<WfRealSlider>(inTable, owner, nullptr, kind == Float, 2, 3),
             text.toDouble());
-    }
     if (kind == Int32 || kind == Int16) {
-        return filled(
-            std::make_unique<WfIntSlider>(kind == Int32 ? WfIntSlider::Int32 : WfIntSlider::Int16,
-                inTable, owner, nullptr, 2, 3),
-            text);
+        const auto type = kind == Int32 ? WfIntSlider::Int32 : WfIntSlider::Int16;
+        return filled(std::make_unique<WfIntSlider>(type, inTable, owner, nullptr, 2, 3), text);
     }
-    return filled(
-        std::make_unique<WfUIntSlider>(kind == UInt32 ? WfUIntSlider::UInt32 : WfUIntSlider::UInt16,
-            inTable, owner, nullptr, 2, 3),
-        text);
+    const auto type = kind == UInt32 ? WfUIntSlider::UInt32 : WfUIntSlider::UInt16;
+    return filled(std::make_unique<WfUIntSlider>(type, inTable, owner, nullptr, 2, 3), text);
 }
 
 /// A slider in a window of its own, with the focus in its line.
@@ -111,7 +105,6 @@ struct Text {
 };
 
 const Text typedTexts[] = {
-    { Int32, 0, "7", "7", "-2147483648", "-2147483648", "-2147483648" },
     { Int16, 0, "42", "42", "70000", "70000", "42" },
     { Int16, 0, "0x1f", "1f", "ffff", "ffff", "7fff" },
     { Int16, 0, "07", "7", "-777777", "-777777", "-100000" },
@@ -119,14 +112,11 @@ const Text typedTexts[] = {
     { Int32, 60, "0x20", "20", "ff", "ff", "3c" },
     { Int32, 0, "017", "017", "17", "17", "17" },
     { UInt32, 0, "0xff", "ff", "100000000", "100000000", "0xff" },
-    { UInt16, 0, "42", "42", "many", "many", "42" },
     { UInt16, 0, "42", "42", "70000", "70000", "65535" },
-    { UInt16, 0, "0x1f", "1f", "fffff", "fffff", "0xffff" },
     { UInt16, 60, "50", "50", "70", "70", "60" },
     { Float, 0, "0.1234567", "0.123457", "-1.2345678", "-1.234567", "-1.234567" },
     { Float, 0, "2.5", "2.500000", "1,5", "15", "15.000000" },
     { Float, 1, "0.5", "0.500000", "2", "2", "0.500000" },
-    { Float, 1, "0.5", "0.500000", "1", "1", "1.000000" },
     { Double, 0, "1e-05", "1e-05", "0.1234567890123456", "0.123456789012345", "0.123456789012345" },
 };
 
@@ -140,72 +130,32 @@ class TestSliders : public QObject {
 private Q_SLOTS:
     void init() { failOnWarnings(); }
 
-    void parts()
-    {
-        for (const int inTable : { 0, 1 }) {
-            const Bench bench(Double, u"50"_s, inTable);
-            QLayout* const layout = bench.slider->layout();
-            const int margin = inTable == 0 ? 2 : 0;
-            QCOMPARE(layout->contentsMargins(), QMargins(margin, margin, margin, margin));
-            QCOMPARE(layout->spacing(), inTable == 0 ? 4 : 3);
-            QStringList names { bench.slider->objectName(), layout->objectName() };
-            for (int i = 0; i < layout->count(); ++i)
-                names << layout->itemAt(i)->widget()->objectName();
-            QCOMPARE(names.join(u' '),
-                u"WfSliderFrame corvaneslider m_notifyCheckBox m_slider m_lineEdit"_s);
-            QVERIFY(bench.box->isChecked() && bench.box->text().isEmpty());
-            QVERIFY(bench.scale->hasTracking() && bench.scale->orientation() == Qt::Horizontal);
-        }
-    }
-
     void callsOfTheOwner_data()
     {
         QTest::addColumn<Act>("act");
         QTest::addColumn<int>("inTable");
         QTest::addColumn<QString>("calls");
-        const auto row = [](const char* name, Act act, const QString& calls, int inTable = 0) {
+        const auto row = [](const char* name, const QString& calls, Act act, int inTable = 0) {
             QTest::newRow(name) << act << inTable << calls;
         };
-        row(
-            "a refresh", [](Bench& b) { b.slider->setValue(u"7"_s); }, u""_s);
-        row(
-            "leaving", [](Bench& b) { QTest::keyClick(b.line, Qt::Key_Tab); }, u""_s);
-        row(
-            "Return", [](Bench& b) { QTest::keyClick(b.line, Qt::Key_Return); }, u""_s);
-        row(
-            "typing", [](Bench& b) { type(b, "25"); }, u""_s);
-        row(
-            "typing, leaving", [](Bench& b) { type(b, "25", Qt::Key_Tab); }, u"apply"_s);
-        row(
-            "typing, Return", [](Bench& b) { type(b, "25", Qt::Key_Return); }, u"apply apply"_s);
-        row(
-            "typing, Return in a cell", [](Bench& b) { type(b, "25", Qt::Key_Return); },
-            u"off 2:3=25 on off 2:3=25 on"_s, 1);
-        row(
-            "a press", [](Bench& b) { SliderInput(b.scale).press(); }, u""_s);
-        row("a drag", drag, u"apply apply apply"_s);
-        row(
-            "a step", [](Bench& b) { QTest::keyClick(b.scale, Qt::Key_Right); }, u"apply"_s);
-        row(
-            "a drag, unchecked", [](Bench& b) { clickBox(b), drag(b); }, u"apply"_s);
-        row(
-            "steps, unchecked",
-            [](Bench& b) {
-                clickBox(b);
-                QTest::keyClick(b.scale, Qt::Key_Right);
-                SliderInput(b.scale).turnWheel();
-                QVERIFY(
-                    b.scale->value() > 51 && b.line->text() == QString::number(b.scale->value()));
-            },
-            u""_s);
-        row(
-            "a step, checked again",
-            [](Bench& b) {
-                clickBox(b);
-                clickBox(b);
-                QTest::keyClick(b.scale, Qt::Key_Right);
-            },
-            u"apply"_s);
+        row("a refresh", u""_s, [](Bench& b) { b.slider->setValue(u"7"_s); });
+        row("leaving", u""_s, [](Bench& b) { QTest::keyClick(b.line, Qt::Key_Tab); });
+        row("Return", u""_s, [](Bench& b) { QTest::keyClick(b.line, Qt::Key_Return); });
+        row("typing", u""_s, [](Bench& b) { type(b, "25"); });
+        row("typing, leaving", u"apply"_s, [](Bench& b) { type(b, "25", Qt::Key_Tab); });
+        const Act typeAndReturn = [](Bench& b) { type(b, "25", Qt::Key_Return); };
+        row("typing, Return", u"apply apply"_s, typeAndReturn);
+        row("... in a cell", u"off 2:3=25 on off 2:3=25 on"_s, typeAndReturn, 1);
+        row("a press", u""_s, [](Bench& b) { SliderInput(b.scale).press(); });
+        row("a drag", u"apply apply apply"_s, drag);
+        row("a step", u"apply"_s, [](Bench& b) { QTest::keyClick(b.scale, Qt::Key_Right); });
+        row("a drag, unchecked", u"apply"_s, [](Bench& b) { clickBox(b), drag(b); });
+        row("steps, unchecked", u""_s, [](Bench& b) {
+            clickBox(b);
+            QTest::keyClick(b.scale, Qt::Key_Right);
+            SliderInput(b.scale).turnWheel();
+            QVERIFY(b.scale->value() > 51 && b.line->text() == QString::number(b.scale->value()));
+        });
     }
     void callsOfTheOwner()
     {
