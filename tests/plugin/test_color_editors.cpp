@@ -4,7 +4,6 @@
 #include "EditorCase.h"
 
 #include <QColorDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QUndoStack>
@@ -48,8 +47,7 @@ private Q_SLOTS:
     {
         using Float = std::numeric_limits<float>;
         const std::pair<float, int> bytes[] = { { 1, 255 }, { 0.5F, 127 }, { -0.003F, 0 },
-            { -0.004F, -1 }, { 1.003F, 255 }, { 1.01F, -1 }, { Float::max(), -1 },
-            { -Float::infinity(), -1 }, { Float::quiet_NaN(), -1 } };
+            { -0.004F, -1 }, { 1.003F, 255 }, { 1.01F, -1 }, { Float::quiet_NaN(), -1 } };
         for (const auto& [channel, byte] : bytes)
             QCOMPARE(channelByte(channel), byte);
     }
@@ -61,11 +59,6 @@ private Q_SLOTS:
         EditorFixture::write(field, "1 0 0 1");
         fixture.select(field);
         const auto* const frame = fixture.editor()->getFrame();
-        QString labels;
-        for (const auto* label : frame->findChildren<QLabel*>(QStringLiteral("SFColorRGBALabel")))
-            labels += label->text();
-        QCOMPARE(labels.remove(QStringLiteral("<p align=\"right\">")),
-            QStringLiteral("R</p>G</p>B</p>A</p>"));
         const auto lines = frame->findChildren<QLineEdit*>(QStringLiteral("SFColorRGBALine"));
         QStringList colors { displayed(fixture) };
         const auto type = [&](int line, const char* text) {

@@ -56,12 +56,9 @@ private Q_SLOTS:
     {
         Paths paths;
         QVERIFY(paths.inFileDialog([this](QFileDialog* dialog) { enterPath(dialog, m_path); }));
-        const QString chosen = QStringLiteral("\"%1\"|\"\"|%1|1").arg(m_path);
-        QCOMPARE(paths.state(), chosen);
+        QCOMPARE(paths.state(), QStringLiteral("\"%1\"|\"\"|%1|1").arg(m_path));
         paths.undo();
         QCOMPARE(paths.state(), QStringLiteral("\"\"|\"\"||1"));
-        paths.redo();
-        QCOMPARE(paths.state(), chosen);
     }
 
     void anUnwantedChoiceChangesNothing()
