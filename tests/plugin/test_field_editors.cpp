@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorCase.h"
-#include "KnSFields.h"
 
 #include <QAbstractButton>
 #include <QUndoStack>
@@ -71,6 +70,9 @@ private Q_SLOTS:
         QCOMPARE(EditorFixture::text(field), defaultText);
         QCOMPARE(stack.count(), row.commands + 1);
         fixture.undo();
+        fixture.redo();
+        QCOMPARE(EditorFixture::text(field), defaultText);
+        fixture.undo();
         QCOMPARE(EditorFixture::text(field), outside);
 
         auto* const ignore = fixture.child<QAbstractButton>("m_ignoreButton");
@@ -97,18 +99,6 @@ private Q_SLOTS:
         EditorFixture::settle();
         QVERIFY(!other->isIgnored() && !ignore->isChecked());
         QCOMPARE(stack.index(), commands + 1);
-    }
-
-    void aFieldWithoutANodeHasNoDefault()
-    {
-        KnSFBool alone;
-        alone.setValue(true);
-        EditorFixture fixture;
-        fixture.select(&alone);
-        QTest::mouseClick(fixture.child<QAbstractButton>("m_defaultButton"), Qt::LeftButton);
-        QVERIFY(alone.getValue());
-        QCOMPARE(fixture.undoStack().count(), 0);
-        fixture.select(nullptr);
     }
 };
 

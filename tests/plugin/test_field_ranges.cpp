@@ -3,8 +3,6 @@
 #include "KnComplexity.h"
 #include "KnMaterial.h"
 #include "KnPointLight.h"
-#include "QUIntValidator.h"
-#include "QULongValidator.h"
 
 #include <QTest>
 
@@ -38,7 +36,7 @@ constexpr char ratio[] = "f 0 1 d 0 0 i 0 0 bounded";
 
 } // namespace
 
-/// What is known of the numbers of a field before one is typed: ranges and unsigned limits.
+/// What is known of the numbers of a field before one is typed.
 class TestFieldRanges : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -79,36 +77,6 @@ private Q_SLOTS:
         const QString otherwise = u"f 0 0 d 0 10 i 0 0 free"_s;
         QCOMPARE(ofReal<KnPointLight>([](auto& n) -> KnField& { return n.intensity; }), otherwise);
         QCOMPARE(toText(FieldRangeTable().getForRealField(KnSFFloat(), "doubleField")), otherwise);
-    }
-
-    void unsignedTexts_data()
-    {
-        QTest::addColumn<unsigned int>("bottom");
-        QTest::addColumn<unsigned int>("top");
-        QTest::addColumn<int>("state");
-        const auto row
-            = [](const char* text, QValidator::State state, unsigned int bottom = 10,
-                  unsigned int top = 20) { QTest::newRow(text) << bottom << top << int(state); };
-        for (const char* text : { "", "10", "15", "20" })
-            row(text, QValidator::Acceptable);
-        for (const char* text : { "9", "21" })
-            row(text, QValidator::Intermediate);
-        for (const char* text : { "x", "-1", "0xf" })
-            row(text, QValidator::Invalid);
-        row("4294967295", QValidator::Acceptable, 0, 4294967295);
-        row("4294967296", QValidator::Invalid, 0, 4294967295);
-    }
-    void unsignedTexts()
-    {
-        QFETCH(unsigned int, bottom);
-        QFETCH(unsigned int, top);
-        const QUIntValidator made(bottom, top, nullptr);
-        QULongValidator moved(1, 2, nullptr);
-        moved.setRange(bottom, top);
-        int position = 0;
-        QString text = QLatin1String(QTest::currentDataTag());
-        QTEST(int(made.validate(text, position)), "state");
-        QTEST(int(moved.validate(text, position)), "state");
     }
 };
 

@@ -2,7 +2,6 @@
 #include "DialogInput.h"
 #include "EditorCase.h"
 
-#include <QClipboard>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -74,22 +73,6 @@ private Q_SLOTS:
             enterPath(dialog, m_path);
         }));
         QCOMPARE(paths.state(), QStringLiteral("\"old\"|\"\"||0"));
-    }
-
-    void leavingTheLineAlwaysWrites()
-    {
-        Paths paths;
-        auto* const line = paths.child<QLineEdit>("lineEdit");
-        QGuiApplication::clipboard()->setText(m_path);
-        line->setFocus();
-        QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(paths.undoStack().count(), 0);
-        for (int commands = 1; commands < 3; ++commands) {
-            line->setFocus();
-            QTest::keyClick(line, Qt::Key_Tab);
-            EditorFixture::settle();
-            QCOMPARE(paths.state(), QStringLiteral("\"%1\"|\"\"|%1|%2").arg(m_path).arg(commands));
-        }
     }
 
 private:

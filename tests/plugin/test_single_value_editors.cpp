@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvStrings.h"
 #include "EditorCase.h"
-#include "KnComplexity.h"
 #include "KnDirectionalLight.h"
-#include "KnReadError.h"
 #include "SliderInput.h"
 #include "WfRealSlider.h"
 
@@ -14,16 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A ratio node with a field of doubles, which has no limits of its own in the table of ranges.
-class KnDoubleRatio : public KnComplexity {
-    KN_NODE(KnDoubleRatio)
-    KnSFDouble ratio;
-};
-
-KN_NODE_SOURCE(KnDoubleRatio, KnComplexity)
-
-KnDoubleRatio::KnDoubleRatio() { KN_FIELD(ratio); }
 
 struct Drag {
     const char* type;
@@ -89,36 +77,6 @@ private Q_SLOTS:
         }
     }
 
-    void valuesAtTheEndsOfTheirTypes_data()
-    {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QString>("shown");
-        const char* const rows[][3] = {
-            { "SFFloat", "-3.4028235e+38", "-340282346638528859811704183484516925440.000000" },
-            { "SFFloat", "nan", "nan" },
-            { "SFDouble", "1.7976931348623157e+308", "1.79769313486231e+308" },
-            { "SFDouble", "5e-324", "4.94065645841247e-324" },
-            { "SFDouble", "-inf", "-inf" },
-            { "SFInt32", "-2147483648", "-2147483648" },
-            { "SFInt32", "2147483647", "2147483647" },
-            { "SFShort", "-32768", "-32768" },
-            { "SFUInt32", "0xffffffff", "ffffffff" },
-        };
-        for (const auto& [type, held, shown] : rows)
-            QTest::newRow(held) << QByteArray(type) << QString::fromLatin1(shown);
-    }
-    /// To both ends of the scale, by keys, and the way back.
-    void valuesAtTheEndsOfTheirTypes()
-    {
-        QFETCH(QByteArray, type);
-        const char* const held = QTest::currentDataTag();
-        open(type.constData(), held);
-        QTEST(line()->text(), "shown");
-        QTest::keyClick(scale(), Qt::Key_Home);
-        QTest::keyClick(scale(), Qt::Key_End);
-        QCOMPARE(undoAll().value(0), QLatin1String(held));
-    }
-
     void aRangeOpensForWhatTheFieldHolds()
     {
         auto* const light = new KnDirectionalLight; // lives while it is selected
@@ -139,21 +97,6 @@ private Q_SLOTS:
         QCOMPARE(scale()->value(), 100);
         type("-1234.5");
         QCOMPARE(text(), u"-1234.5"_s);
-    }
-
-    void aDoubleOfARatioNodeIsUsable()
-    {
-        open("SFDouble", "5");
-        auto* const node = new KnDoubleRatio; // lives while it is selected
-        node->ratio.setValue(2.5);
-        m_fixture->select(&node->ratio);
-        QCOMPARE(line()->text(), u"2.5"_s);
-        type("1.25");
-        QCOMPARE(node->ratio.getValue(), 1.25);
-        type("3");
-        QCOMPARE(node->ratio.getValue(), 1.25);
-        m_fixture->select(m_field);
-        QCOMPARE(text(), u"5"_s);
     }
 
     void aMoveOfTheSelectionEndsAnEdit()
@@ -190,20 +133,6 @@ private Q_SLOTS:
         QCOMPARE(state(), u"field 98765, line 98765, cursor 3, 2 commands"_s);
         QCOMPARE(undoAll(), QStringList({ u"1234"_s, u"12034"_s }));
         QCOMPARE(line()->text(), u"1234"_s);
-    }
-
-    void aRefusedTextStaysUntilTheNextRefresh()
-    {
-        open("SFTime", "12");
-        const KnErrorCallback handler = KnReadError::getHandlerCallback();
-        void* const handlerData = KnReadError::getHandlerData();
-        KnReadError::setHandlerCallback([](const KnError*, void*) {}, nullptr); // would warn
-        QTest::keyClick(line(), Qt::Key_X);
-        KnReadError::setHandlerCallback(handler, handlerData);
-        EditorFixture::settle();
-        QCOMPARE(state(), u"field 12, line x12, cursor 1, 2 commands"_s);
-        m_fixture->undo();
-        QCOMPARE(state(), u"field 12, line 12, cursor 1, 2 commands"_s);
     }
 
     void everyTextSurvives_data()

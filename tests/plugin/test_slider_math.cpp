@@ -20,19 +20,6 @@ constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 class TestSliderMath : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void theBaseOfAText()
-    {
-        const std::tuple<QString, int, QString> rows[]
-            = { { u"0x1f"_s, 16, u"1f"_s }, { u"0x1"_s, 16, u"1"_s }, { u"07"_s, 8, u"7"_s },
-                  { u"0x"_s, 8, u"x"_s }, { u"017"_s, 10, u"017"_s }, { u"0"_s, 10, u"0"_s },
-                  { u"-1"_s, 10, u"-1"_s }, { QString(), 10, QString() } };
-        for (const auto& [text, base, digits] : rows) {
-            QCOMPARE(detectBase(text), base);
-            QCOMPARE(withoutPrefix(text, base), digits);
-            QCOMPARE(withPrefix(digits, base), text);
-        }
-    }
-
     void unsignedValuesKeepTheirOrder()
     {
         using Limits = std::numeric_limits<int>;

@@ -199,16 +199,11 @@ private Q_SLOTS:
         Owner owner;
         WfIntSlider slider(WfIntSlider::Int32, 0, &owner, nullptr, 0, 0);
         slider.setRange(50, 60, true); // pushes the scale
-        QCOMPARE(slider.getValue(), 50);
         slider.setRange(40, 60, true);
         QCOMPARE(slider.getMinimum(), 50); // a bounded range only narrows
         slider.setValue(u"many"_s);
         QCOMPARE(slider.getValue(), 50);
         QCOMPARE(owner.calls, QStringList());
-        // The first text has decided the base.
-        const Bench hexadecimal(UInt32, u"0xff"_s);
-        hexadecimal.slider->setValue(u"1234"_s);
-        QCOMPARE(hexadecimal.line->text(), u"34"_s);
     }
 };
 
