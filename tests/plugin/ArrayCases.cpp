@@ -74,10 +74,9 @@ std::vector<EditorCase> arrayCases()
             .shownAtStart = "[ [ 1 0 0 0 0 1 0 0 0 0 1 0 2 3 4 1 ] ]",
             .shownEdited = "[ [ 1 0 0 0 0 1 0 0 0 0 1 0 2 3 4 9 ] ]",
             .shownOutside = "[ [ 1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1 ] ]" },
-        { .type = "MFPlane", .start = "[ 0 0 1 2, 1 2 0.12345679 4 ]", .act = typeIntoRow1<Half, 3>,
-            .edited = "[ 0 0 1 2, 1 2 0.12345679 0.5 ]", .outside = "[ 1 0 0 0.1234567 ]",
-            .shownAtStart = "[ 0 0 1 2, 1 2 0.123457 4 ]",
-            .shownEdited = "[ 0 0 1 2, 1 2 0.123457 0.5 ]", .shownOutside = "[ 1 0 0 0.123457 ]" },
+        { .type = "MFPlane", .start = "[ 0 0 1 2, 1 2 3 4 ]", .act = typeIntoRow1<Half, 3>,
+            .edited = "[ 0 0 1 2, 1 2 3 0.5 ]", .outside = "[ 1 0 0 0.1234567 ]",
+            .shownOutside = "[ 1 0 0 0.123457 ]" },
         // The cells hold quaternions, the texts axes and angles.
         { .type = "MFRotation", .start = "[ 0 0 1 1, 0 1 0 0 ]", .act = typeIntoRow1<Half, 0>,
             .edited = "[ 0 0 1 1, 1 0 0 0.9272952 ]", .outside = "[ 2 0 0 1 ]",

@@ -170,15 +170,14 @@ QString panelOf(const Single& row)
 
 // Arrays: the columns, and what edits the last cell of a row.
 
-const QString lineCell = u"LineEdit qt_lineeditor"_s;
-const QString textCell = lineCell + u" maxLength=2147483647 frame=false"_s;
-
 QString numberCell(const QString& validator)
 {
-    return lineCell + u' ' + validator + u" maxLength=2147483647 frame=false"_s;
+    return u"LineEdit qt_lineeditor%1 maxLength=2147483647 frame=false"_s.arg(validator);
 }
 
-const QString floatCell = numberCell(floats);
+const QString textCell = numberCell({});
+
+const QString floatCell = numberCell(u' ' + floats);
 
 QString sliderCell(const char* scale, const QString& validator)
 {
@@ -194,7 +193,7 @@ struct Array {
 const Array arrays[] = {
     { "MFColor", "Color R G B", floatCell },
     { "MFColorRGBA", "Color R G B A", floatCell },
-    { "MFDouble", "-", numberCell(u"DoubleValidator(-inf inf -1 ScientificNotation)"_s) },
+    { "MFDouble", "-", numberCell(u" DoubleValidator(-inf inf -1 ScientificNotation)"_s) },
     { "MFFloat", "-", sliderCell("maximum=100", floats) },
     { "MFInt32", "-", sliderCell("maximum=10", int32) },
     { "MFMatrix", "-", textCell + u" enabled=false"_s },
@@ -205,7 +204,7 @@ const Array arrays[] = {
     { "MFUInt32", "-", sliderCell("minimum=-2147483648 maximum=-2147483638", {}) },
     { "MFUShort", "-", sliderCell("minimum=-2147483648 maximum=-2147483638", {}) },
     { "MFVec2f", "x y", floatCell },
-    { "MFVec2i32", "x y", numberCell(u"IntValidator(-2147483647 2147483647)"_s) },
+    { "MFVec2i32", "x y", numberCell(u" IntValidator(-2147483647 2147483647)"_s) },
     { "MFVec2s", "x y", textCell },
     { "MFVec3f", "x y z", floatCell },
     { "MFVec4f", "x y z w", floatCell },

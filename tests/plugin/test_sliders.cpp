@@ -193,18 +193,6 @@ private Q_SLOTS:
             mouse.release();
         }
     }
-
-    void aRangeWithoutAValueTellsNobody()
-    {
-        Owner owner;
-        WfIntSlider slider(WfIntSlider::Int32, 0, &owner, nullptr, 0, 0);
-        slider.setRange(50, 60, true); // pushes the scale
-        slider.setRange(40, 60, true);
-        QCOMPARE(slider.getMinimum(), 50); // a bounded range only narrows
-        slider.setValue(u"many"_s);
-        QCOMPARE(slider.getValue(), 50);
-        QCOMPARE(owner.calls, QStringList());
-    }
 };
 
 QTEST_MAIN(TestSliders)
