@@ -72,7 +72,6 @@ private Q_SLOTS:
             { "MFVec2f", "[ 2 2 ]", "context menu" },
             { "MFColor", "[ 0 0 0 ]", "context menu" },
             { "MFInt32", "[ 2, 2 ]", "menu bar" },
-            { "MFVec2f", "[ 2 2 ]", "menu bar" },
             { "MFInt32", "[ 2, 2 ]", "window" },
             { "MFVec2f", "[ 2 2 ]", "window" },
         });

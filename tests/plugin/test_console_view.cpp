@@ -125,7 +125,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("anywhere");
         QTest::newRow("long text of short words") << u"eight is "_s.repeated(30000) << false;
         QTest::newRow("lines") << u"line\n"_s.repeated(5000) << false;
-        QTest::newRow("a word for a few lines") << QString(1000, u'x') << false;
         QTest::newRow("a long word") << QString(300000, u'x') << true;
         QTest::newRow("a long word in the middle")
             << u"some text "_s + QString(300000, u'x') + u" and more"_s << true;
