@@ -35,24 +35,18 @@ void writeFile(const QString& fileName, const QByteArray& content)
         qFatal("%s can't be written", qPrintable(fileName));
 }
 
-/// Lets the process have no more than so many bytes on top of what it has.
-class MemoryLimit {
-    Q_DISABLE_COPY(MemoryLimit)
-public:
-    explicit MemoryLimit(rlim_t more)
-    {
-        getrlimit(RLIMIT_AS, &m_former);
-        QFile file(u"/proc/self/statm"_s);
-        const bool opened = file.open(QIODevice::ReadOnly);
-        const rlim_t pages = opened ? file.readAll().split(' ').constFirst().toULong() : 0;
-        const rlimit limit { pages * static_cast<rlim_t>(getpagesize()) + more, m_former.rlim_max };
-        setrlimit(RLIMIT_AS, &limit);
-    }
-    ~MemoryLimit() { setrlimit(RLIMIT_AS, &m_former); }
-
-private:
-    rlimit m_former {};
-};
+/// Lets the process have no more than so many bytes on top of what it has; gives the former limit.
+rlimit limitMemory(rlim_t more)
+{
+    rlimit former {};
+    getrlimit(RLIMIT_AS, &former);
+    QFile file(u"/proc/self/statm"_s);
+    const bool opened = file.open(QIODevice::ReadOnly);
+    const rlim_t pages = opened ? file.readAll().split(' ').constFirst().toULong() : 0;
+    const rlimit limit { pages * static_cast<rlim_t>(getpagesize()) + more, former.rlim_max };
+    setrlimit(RLIMIT_AS, &limit);
+    return former;
+}
 
 } // namespace
 
@@ -160,13 +154,10 @@ private Q_SLOTS:
         QString error;
         QVERIFY(document.open(QStringLiteral(CORVANE_SCENES "/station.json"), &error));
         const KnNodePtr root = document.root();
-        bool opened = false;
-        QString profiles;
-        {
-            const MemoryLimit limit(static_cast<rlim_t>(megabytes) << 20);
-            opened = document.open(file, &error);
-            profiles = profilesError(file);
-        }
+        const rlimit former = limitMemory(static_cast<rlim_t>(megabytes) << 20);
+        const bool opened = document.open(file, &error);
+        const QString profiles = profilesError(file);
+        setrlimit(RLIMIT_AS, &former);
         const QString outOfMemory = file + u": there is not enough memory to read the file"_s;
         QVERIFY2(opened || error == outOfMemory, qPrintable(error));
         QCOMPARE(document.root().get() != root.get(), opened);

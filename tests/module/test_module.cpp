@@ -13,7 +13,6 @@
 #include <QCheckBox>
 #include <QDockWidget>
 #include <QFile>
-#include <QLabel>
 #include <QLibrary>
 #include <QTest>
 #include <QTextEdit>
@@ -155,9 +154,6 @@ private Q_SLOTS:
         }
 
         std::cout << "text behind the last unloading" << std::endl;
-        QLabel label(u"a widget of the process's own"_s);
-        label.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&label));
         QTest::keyClick(&m_shell.window(), Qt::Key_Tab);
         settle();
     }
@@ -179,7 +175,6 @@ private:
         select(&m_node->SFBool);
         auto* const box = m_shell.window().findChild<QCheckBox*>(u"m_box"_s);
         box->click();
-        settle();
         QVERIFY(m_node->SFBool.getValue());
         CrvServices::getInstance()->getUndoStack()->undo();
         settle();

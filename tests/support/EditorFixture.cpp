@@ -42,10 +42,6 @@ EditorFixture::~EditorFixture()
     }
 }
 
-KnField* EditorFixture::field(const char* type) { return m_node->getField(type); }
-
-KnField* EditorFixture::otherField(const char* type) { return m_otherNode->getField(type); }
-
 void EditorFixture::select(KnField* field)
 {
     CrvServices::getInstance()->selectField(field);

@@ -27,8 +27,8 @@ public:
     ~EditorFixture();
 
     /// The field of that type, such as "SFBool", of the first and of the second node.
-    KnField* field(const char* type);
-    KnField* otherField(const char* type);
+    KnField* field(const char* type) { return m_node->getField(type); }
+    KnField* otherField(const char* type) { return m_otherNode->getField(type); }
     KnTestNode& node() { return *m_node; }
     KnTestNode& otherNode() { return *m_otherNode; }
 
