@@ -2,9 +2,11 @@
 #include "ConsoleFixture.h"
 #include "KnErrorStack.h"
 #include "KnMemoryError.h"
+#include "LayoutDump.h"
 
 #include <QDir>
 #include <QFileDialog>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -17,15 +19,30 @@ class TestConsoleView : public ConsoleFixture {
 private Q_SLOTS:
     void theForm()
     {
-        QVERIFY(view()->isReadOnly());
-        QStringList buttons;
-        for (const QPushButton* button : view()->parent()->findChildren<QPushButton*>()) {
-            QVERIFY(!button->icon().isNull());
-            buttons << button->toolTip() + (button->isChecked() ? u" (checked)"_s : QString());
-        }
-        QCOMPARE(buttons.join(u'|'),
-            u"Displays errors (checked)|Displays warnings (checked)|"
-            "Displays informations (checked)|Clears the console|Saves the content of the console"_s);
+        QFrame frame;
+        Ui::m_consoleFrame form;
+        form.setupUi(&frame);
+        QVERIFY(form.m_consoleOutput->isReadOnly() && form.m_consoleScrollArea->widgetResizable());
+        for (const QPushButton* button : frame.findChildren<QPushButton*>())
+            QCOMPARE(button->minimumSize(), QSize(64, 0));
+        LayoutDump dump;
+        const QString built
+            = dump.panel(&frame) + u' ' + dump.widget(form.m_consoleScrollArea->widget());
+        const QString expected = uR"(
+Frame m_consoleFrame frameShape=StyledPanel frameShadow=Raised 843x238 VBox verticalLayout m11 s6
+[Widget m_scrollAreaContainer VBox sacLayout m0 s6 [ScrollArea m_consoleScrollArea alignment=
+frameShape=StyledPanel frameShadow=Sunken verticalScrollBarPolicy=ScrollBarAsNeeded
+horizontalScrollBarPolicy=ScrollBarAsNeeded focusPolicy=StrongFocus Expanding/Expanding]] Widget
+m_scrollAreaContents HBox horizontalLayout m9 s6 [TextEdit m_consoleOutput frameShape=StyledPanel
+frameShadow=Sunken verticalScrollBarPolicy=ScrollBarAsNeeded
+horizontalScrollBarPolicy=ScrollBarAsNeeded focusPolicy=StrongFocus Expanding/Expanding, VBox
+m_buttonsLayout m0 s6 [PushButton m_errorsButton icon=14x14 checkable=true checked=true
+toolTip=Displays errors, gap 20x40 Minimum/Expanding, PushButton m_warningsButton icon=14x14
+checkable=true checked=true toolTip=Displays warnings, gap 20x40 Minimum/Expanding, PushButton
+m_infosButton icon=14x14 checkable=true checked=true toolTip=Displays informations, gap 20x40
+Minimum/Expanding, PushButton m_clearButton icon=16x16 toolTip=Clears the console, PushButton
+m_saveButton icon=16x16 toolTip=Saves the content of the console]])"_s;
+        QCOMPARE(built.split(u", "_s), expected.simplified().split(u", "_s));
     }
 
     void sourcesColoursAndFilters()

@@ -100,6 +100,29 @@ private Q_SLOTS:
         QVERIFY(!other->isIgnored() && !ignore->isChecked());
         QCOMPARE(stack.index(), commands + 1);
     }
+
+    void theIgnoreButtonActsWhenItIsReleased_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::newRow("single") << QStringLiteral("SFBool");
+        QTest::newRow("array") << QStringLiteral("MFInt32");
+    }
+    void theIgnoreButtonActsWhenItIsReleased()
+    {
+        QFETCH(QString, type);
+        EditorFixture fixture;
+        KnField* const field = fixture.field(qPrintable(type));
+        fixture.select(field);
+        auto* const ignore = fixture.child<QAbstractButton>("m_ignoreButton");
+        bool wasIgnored = false;
+        connect(ignore, &QAbstractButton::released, this,
+            [&wasIgnored, field] { wasIgnored = field->isIgnored(); });
+        QTest::mousePress(ignore, Qt::LeftButton);
+        QVERIFY(!field->isIgnored());
+        QTest::mouseRelease(ignore, Qt::LeftButton);
+        QVERIFY(wasIgnored); // before the button was clicked
+        QCOMPARE(fixture.undoStack().count(), 1);
+    }
 };
 
 QTEST_MAIN(TestFieldEditors)

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTemporaryFile>
@@ -97,6 +98,16 @@ private Q_SLOTS:
         QVERIFY(ignore->isChecked());
         QCOMPARE(count->text(), QStringLiteral("<p align=\"center\">0 elements</p>"));
         QCOMPARE(state(), QStringLiteral("[] 0-0 0"));
+    }
+
+    void addingTellsTheCurrentCell()
+    {
+        QSignalSpy told(table().operator->(), &QTableWidget::currentCellChanged);
+        clickButton("m_addButton");
+        QCOMPARE(told.last(), QVariantList({ 0, 0, 0, 0 }));
+        table().click(3, 0);
+        clickButton("m_addButton");
+        QCOMPARE(told.last(), QVariantList({ 3, 0, 4, 0 }));
     }
 
     void movesAreToldOnStandardError()
