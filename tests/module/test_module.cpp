@@ -13,7 +13,6 @@
 #include <QCheckBox>
 #include <QDockWidget>
 #include <QFile>
-#include <QLibrary>
 #include <QTest>
 #include <QTextEdit>
 #include <QUndoStack>
@@ -35,12 +34,16 @@ QString identity(const Described& object)
     return parts.join(u'|');
 }
 
-/// With its class, after which an editor is named.
-QString describe(const CrvExtension* extension)
+/// Each with its class, after which an editor is named.
+QStringList described(const std::vector<CrvExtension*>& extensions)
 {
-    const QString className = QLatin1String(extension->metaObject()->className());
-    const QString name = extension->objectName();
-    return identity(*extension) + u'|' + (name.isEmpty() ? className : name);
+    QStringList all;
+    for (const CrvExtension* each : extensions) {
+        const QString className = QLatin1String(each->metaObject()->className());
+        const QString name = each->objectName();
+        all << identity(*each) + u'|' + (name.isEmpty() ? className : name);
+    }
+    return all;
 }
 
 /// A shell whose window outlives the plug-in's file.
@@ -100,36 +103,12 @@ private Q_SLOTS:
                          "CrvProfileSelectorExtension"_s);
         expected << u"Field Editor|Field Editor for Corvane.|Orbel|1.0.0|CrvFieldEditorDockWin"_s
                  << u"Node Editor|Node Editor for Corvane.|Orbel|1.0.0|CrvNodeEditor"_s;
-        const auto described = [](const std::vector<CrvExtension*>& extensions) {
-            QStringList all;
-            std::transform(
-                extensions.begin(), extensions.end(), std::back_inserter(all), &describe);
-            return all;
-        };
         std::vector<CrvExtension*> members = plugin->getExtensions();
         QCOMPARE(described(members), expected);
         // A dock walks the editors by address, in which one has a place of its own.
         std::sort(members.begin(), members.end());
         expected.move(6, expected.indexOf(QRegularExpression(u"^SFDouble.*"_s)));
         QCOMPARE(described(members), expected);
-    }
-
-    void thePluginObjectIsMadeAnewEachTime()
-    {
-        QLibrary library(QStringLiteral(CORVANE_MODULE_FILE));
-        const auto loadPlugin = CrvLoadPluginFunction(library.resolve("loadPlugin"));
-        const auto unloadPlugin = CrvUnloadPluginFunction(library.resolve("unloadPlugin"));
-        QVERIFY(loadPlugin && unloadPlugin);
-        unloadPlugin(); // there is none
-        for (int round = 0; round < 2; ++round) {
-            CrvPlugin* const plugin = loadPlugin();
-            QVERIFY(plugin && plugin->getExtensions().empty());
-            plugin->load();
-            QCOMPARE(plugin->getExtensions().size(), std::size_t(48));
-            unloadPlugin();
-            unloadPlugin();
-        }
-        QVERIFY(library.unload());
     }
 
     void unloadingLeavesNothingBehind()
