@@ -148,11 +148,7 @@ private Q_SLOTS:
         QCOMPARE(document.root().get() != root.get(), opened);
         QVERIFY(megabytes < 1024 || opened);
         // There isn't even room for the file itself.
-        const bool refused = megabytes < fileMegabytes;
-        QVERIFY(!refused || !opened);
-        QVERIFY2(profiles == outOfMemory
-                || (!refused && profiles == file + u": format: unknown member"_s),
-            qPrintable(profiles));
+        QVERIFY(megabytes >= fileMegabytes || (!opened && profiles == outOfMemory));
     }
 
 private:

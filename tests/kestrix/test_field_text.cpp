@@ -24,9 +24,7 @@ const QMap<QByteArray, QByteArrayList> rows = {
             "1.5 -> ! 1: the end of a whole number" } },
     { "SFShort", { "-32768", "0x7fff -> 32767", "-32769 -> ! 0: a number from -32768 to 32767" } },
     { "SFUShort", { "-0 -> 0", "65535", "-1 -> ! 0: a number from 0 to 65535" } },
-    { "SFUInt32",
-        { "0x0", "4294967295 -> 0xffffffff",
-            "0x100000000 -> ! 0: a number from 0 to 4294967295" } },
+    { "SFUInt32", { "0xffffffff", "4294967296 -> ! 0: a number from 0 to 4294967295" } },
     { "SFFloat",
         { "0.1", "-inf", "NaN -> nan", "-0", "1e14 -> 100000000376832", "1e15 -> 1e+15", "1e-45",
             "0.3333333333 -> 0.33333334", "\t+1.50  -> 1.5", "1,5 -> ! 1: the end of the text",
@@ -53,12 +51,9 @@ const QMap<QByteArray, QByteArrayList> rows = {
             R"("open -> ! 5: a closing double quote, the text ends)",
             R"("C:\dir" -> ! 4: a double quote, a backslash or n behind a backslash)",
             " -> ! 0: a word or a text in double quotes, the text ends" } },
-    { "SFFilePathString",
-        { R"(/home/a.png -> "/home/a.png")", "my file -> ! 3: the end of the text" } },
+    { "SFFilePathString", { R"(/a.png -> "/a.png")", "my file -> ! 3: the end of the text" } },
     { "SFName", { "\"left wing\"", R"(a"b -> ! 1: the end of the text)" } },
-    { "SFEnum",
-        { " AB  -> AB", "4 -> D", "-9", "0", "B",
-            "b -> ! 0: a whole number or one of A, B, AB, D" } },
+    { "SFEnum", { "B", "4 -> D", "-9", "b -> ! 0: a whole number or one of A, B, AB, D" } },
     { "SFBitMask",
         { "()", "AB -> (A | B)", "D | 0x10 -> (D | 0x10)", "-1 -> (A | B | D | 0xfffffff8)",
             "( D|A ) -> (A | D)", "(A | C) -> ! 5: a whole number or one of A, B, AB, D",
@@ -67,7 +62,6 @@ const QMap<QByteArray, QByteArrayList> rows = {
     { "SFImage",
         { "0 0 0", "5 0 3 -> 0 0 0", "1 1 8 0xffeeddccbbaa9988",
             "1 2 3 16711680 0x8000 -> 1 2 3 0xff0000 0x8000", "2 1 1 0x0 0xff",
-            "1 1 -> ! 3: a number of components from 0 to 8, the text ends",
             "2 1 1 0x5 -> ! 9: pixel 1 of 2, a number of 1 bytes, the text ends",
             "32767 32767 8 -> ! 13: pixel 0 of 1073676289, a number of 8 bytes, the text ends" } },
     { "MFFloat",
@@ -189,12 +183,10 @@ private:
         ReadErrors errors;
         QVERIFY(!array.set(("[ " + kept[0] + ", , ]").constData()) && !array.set1(0, "[ 1 ] 2"));
         QVERIFY(!array.set1(-1, value) && !array.set1(num, value) && !array.get1(-1, value));
-        const QByteArray noRow = "character 0: expected a row of the array, which has ";
-        const QByteArray places[] = { "row 1, character " + QByteArray::number(kept[0].size() + 4),
-            "row 0, character ", noRow + QByteArray::number(num), noRow + QByteArray::number(num) };
-        QCOMPARE(errors.texts.size(), std::ssize(places));
-        for (int i = 0; i < errors.texts.size(); ++i)
-            QVERIFY2(errors.texts[i].contains(places[i]), errors.texts[i].constData());
+        QCOMPARE(errors.texts.size(), 4);
+        const QByteArray place = "row 1, character " + QByteArray::number(kept[0].size() + 4);
+        QVERIFY2(errors.texts[0].contains(place), errors.texts[0].constData());
+        QVERIFY(errors.texts[2].contains("a row of the array, which has "));
         QCOMPARE(textOf(array), text);
         QVERIFY(KnSensorQueue::getInstance().isEmpty());
         QVERIFY(array.set1(0, " \"\" ") && array.get1(0, value) && array.getNum() == num);

@@ -26,7 +26,6 @@ const LineEditing editings[] = {
     { "SFBox2f", "0.12345678 0 1 1", 0, nullptr, Qt::Key_Tab, nullptr, 0 },
     // Leaving an edited one writes what all lines show.
     { "SFBox2f", "0.12345678 0 1 1234567", 2, "2", Qt::Key_Tab, "0.123457 0 2 1234570", 1 },
-    { "SFBox3s", "0 0 0 0 0 0", 0, "-327689", Qt::Key_Tab, "-32768 0 0 0 0 0", 1 },
     { "SFColor", "0.12345678 1 2", 1, "0.25", Qt::Key_Tab, "0.123457 0.25 2", 1 },
     // A rotation is written by Return alone.
     { "SFRotation", "0 0 1 2", 0, "1", Qt::Key_Tab, nullptr, 0 },
