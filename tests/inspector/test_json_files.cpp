@@ -70,7 +70,6 @@ private Q_SLOTS:
         row("a bad number", "[-]", "1:3");
         row("illegal UTF-8", "[\"\xc3\xa9\xff\"]", "1:5");
         row("text behind the document", "{}\n\n x", "3:2");
-        row("a mark at the front", "\xef\xbb\xbf{?}", "1:5");
         row("too deep", "\n" + QByteArray(1100, '['), "2:1025");
     }
     void mistakes()
