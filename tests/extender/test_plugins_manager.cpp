@@ -10,7 +10,6 @@
 #include <QRegularExpression>
 #include <QTemporaryFile>
 #include <QTest>
-#include <QUndoStack>
 
 using namespace Qt::StringLiterals;
 
