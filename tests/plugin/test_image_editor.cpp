@@ -83,7 +83,6 @@ private Q_SLOTS:
         for (const QSize& size : { QSize(16, 9), QSize(512, 128), QSize(10, 300) }) {
             Images images(size.width(), size.height());
             QCOMPARE(images.popup->size(), size.boundedTo(QSize(256, 256)));
-            QCOMPARE(images.thumbnail->size(), QSize(16, 16));
             QCOMPARE(images.shown().size(), size);
         }
     }
