@@ -110,6 +110,18 @@ private Q_SLOTS:
         QCOMPARE(takeCalls(), u"node B, no field"_s);
     }
 
+    void listenersThatNeverAgreeAreStopped()
+    {
+        const auto selectOther = [&](const KnFieldContainer* node) {
+            m_services->selectNode(node == &m_a ? &m_b : &m_a);
+        };
+        connect(m_services, &CrvServices::selectedNodeChanged, this, selectOther);
+        QTest::ignoreMessage(
+            QtWarningMsg, "CrvServices: listeners go on selecting in answer to each other");
+        m_services->selectNode(&m_a);
+        QVERIFY(m_services->getSelectedNode());
+    }
+
     void commandRunsOnce()
     {
         QUndoStack* const stack = m_services->getUndoStack();

@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QDockWidget>
 #include <QFile>
+#include <QLibrary>
 #include <QTest>
 #include <QTextEdit>
 #include <QUndoStack>
@@ -109,6 +110,19 @@ private Q_SLOTS:
         std::sort(members.begin(), members.end());
         expected.move(6, expected.indexOf(QRegularExpression(u"^SFDouble.*"_s)));
         QCOMPARE(described(members), expected);
+    }
+
+    void thePluginObjectIsMadeAnewEachTime()
+    {
+        QLibrary library(QStringLiteral(CORVANE_MODULE_FILE));
+        const auto unloadPlugin = CrvUnloadPluginFunction(library.resolve("unloadPlugin"));
+        unloadPlugin(); // there is none
+        for (int round = 0; round < 2; ++round) {
+            CrvPlugin* const plugin = CrvLoadPluginFunction(library.resolve("loadPlugin"))();
+            QVERIFY(plugin && plugin->getExtensions().empty());
+            unloadPlugin();
+            unloadPlugin();
+        }
     }
 
     void unloadingLeavesNothingBehind()

@@ -61,6 +61,10 @@ private Q_SLOTS:
         QVERIFY(selector->isActive() && selector->isShown() && toolBar->isVisible());
         QCOMPARE(m_fixture->shell().window().toolBarArea(toolBar), Qt::TopToolBarArea);
         QCOMPARE(state(), u"Everything|Fields|Console, 2, Console"_s);
+        selector->hide();
+        QVERIFY(!selector->isShown() && toolBar->isHidden());
+        selector->show();
+        QVERIFY(selector->isShown() && toolBar->isVisible());
     }
 
     void theHostMayChangeTheProfilesWhileTheChoiceIsHandled()
