@@ -112,14 +112,11 @@ private Q_SLOTS:
 
     void listenersThatNeverAgreeAreStopped()
     {
-        const auto selectOther = [&](const KnFieldContainer* node) {
-            m_services->selectNode(node == &m_a ? &m_b : &m_a);
-        };
-        connect(m_services, &CrvServices::selectedNodeChanged, this, selectOther);
+        connect(m_services, &CrvServices::selectedNodeChanged, this,
+            [this](auto* node) { m_services->selectNode(node == &m_a ? &m_b : &m_a); });
         QTest::ignoreMessage(
             QtWarningMsg, "CrvServices: listeners go on selecting in answer to each other");
         m_services->selectNode(&m_a);
-        QVERIFY(m_services->getSelectedNode());
     }
 
     void commandRunsOnce()

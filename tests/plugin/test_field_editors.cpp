@@ -111,10 +111,8 @@ private Q_SLOTS:
         connect(ignore, &QAbstractButton::released, this,
             [&wasIgnored, field] { wasIgnored = field->isIgnored(); });
         QTest::mousePress(ignore, Qt::LeftButton);
-        QVERIFY(!field->isIgnored());
         QTest::mouseRelease(ignore, Qt::LeftButton);
         QVERIFY(wasIgnored); // before the button was clicked
-        QCOMPARE(fixture.undoStack().count(), 1);
     }
 };
 
