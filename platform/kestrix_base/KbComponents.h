@@ -19,6 +19,14 @@
 template <class Value>
 struct KbComponents;
 
+/// The constants of a specialisation for `N` numbers.
+template <class Number_, int N>
+struct KbComponentArray {
+    using Number = Number_;
+    static constexpr int count = N;
+    using Numbers = std::array<Number, std::size_t(N)>;
+};
+
 /// A value that has components.
 template <class Value>
 concept KbCompound = requires
@@ -51,11 +59,7 @@ struct KbComponents<Value> {
 
 /// The normal, then the distance from the origin.
 template <>
-struct KbComponents<KbPlane> {
-    using Number = float;
-    static constexpr int count = 4;
-    using Numbers = std::array<float, 4>;
-
+struct KbComponents<KbPlane> : KbComponentArray<float, 4> {
     static Numbers read(const KbPlane& plane)
     {
         const KbVec3f& n = plane.getNormal();
@@ -66,11 +70,7 @@ struct KbComponents<KbPlane> {
 
 /// The axis, then the angle in radians.
 template <>
-struct KbComponents<KbRotation> {
-    using Number = float;
-    static constexpr int count = 4;
-    using Numbers = std::array<float, 4>;
-
+struct KbComponents<KbRotation> : KbComponentArray<float, 4> {
     static Numbers read(const KbRotation& rotation)
     {
         KbVec3f axis;
@@ -83,11 +83,7 @@ struct KbComponents<KbRotation> {
 
 /// The elements, row after row.
 template <>
-struct KbComponents<KbMatrix> {
-    using Number = float;
-    static constexpr int count = 16;
-    using Numbers = std::array<float, 16>;
-
+struct KbComponents<KbMatrix> : KbComponentArray<float, 16> {
     static Numbers read(const KbMatrix& matrix)
     {
         Numbers numbers;
