@@ -144,14 +144,15 @@ for file in "${files[@]}"; do
     fi
 done
 [ ${#known[@]} -gt 0 ] || exit 0
-# The generated headers and sources of the targets whose folders these sources search. CMake is
-# asked for them itself, since its target for them builds the libraries first.
-printf ' -c %s"\n' "${known[@]/#/$source_dir/}" | grep -F -f - "$commands" |
-    grep -oE '[^ ]+_autogen/include' | sed 's|^-I||' | sort -u | while read -r include; do
+# The generated headers and sources of the targets whose folders these sources search; some have
+# none. CMake is asked for them itself, since its target for them builds the libraries first.
+mapfile -t generated < <(printf ' -c %s"\n' "${known[@]/#/$source_dir/}" | grep -F -f - "$commands" |
+    grep -oE '[^ ]+_autogen/include' | sed 's|^-I||' | sort -u)
+for include in "${generated[@]}"; do
     target=${include%/include}
     cmake -E cmake_autogen "${target%/*}/CMakeFiles/${target##*/}.dir/AutogenInfo.json" Release \
-        >/dev/null || exit
-done || fail "could not generate sources"
+        >/dev/null || fail "could not generate sources"
+done
 
 echo "Reading ${#known[@]} sources"
 deadline=$((minutes ? started + 60 * minutes : started + 86400))

@@ -20,9 +20,9 @@ template <class Value>
 struct KbComponents;
 
 /// The constants of a specialisation for `N` numbers.
-template <class Number_, int N>
+template <class NumberType, int N>
 struct KbComponentArray {
-    using Number = Number_;
+    using Number = NumberType;
     static constexpr int count = N;
     using Numbers = std::array<Number, std::size_t(N)>;
 };
