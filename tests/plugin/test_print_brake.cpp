@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -29,10 +30,8 @@ struct Way {
     }
     std::size_t takeAll()
     {
-        std::vector<PrintBrake::Place> taken;
         const std::lock_guard lock(mutex);
-        taken.swap(places);
-        return taken.size();
+        return std::exchange(places, {}).size();
     }
 };
 
@@ -71,25 +70,17 @@ void aViewThatShowsIsNeverFurtherBehindThanTheLimit()
     }
 }
 
-/// The thread of the view joins those that print.
-void aViewThatStandsStillIsWaitedForOnce()
+/// The thread of the view joins those that print: after a wait, or with the brake off.
+void aViewThatStandsStillLosesNothing(
+    std::chrono::milliseconds wait, int messageCount, bool isReleased)
 {
-    PrintBrake brake(limit, 50ms);
+    PrintBrake brake(limit, wait);
     brake.setEngaged(true);
     Way way;
-    print(brake, way, 50000).clear();
-    check(way.takeAll() == threadCount * 50000, "nothing lost");
-}
-
-void whoWaitsGoesOnWhenTheBrakeIsOff()
-{
-    PrintBrake brake(limit, 1h);
-    brake.setEngaged(true);
-    Way way;
-    auto threads = print(brake, way, limit);
-    brake.setEngaged(false);
+    auto threads = print(brake, way, messageCount);
+    brake.setEngaged(!isReleased);
     threads.clear();
-    check(way.takeAll() == threadCount * limit, "nothing lost");
+    check(way.takeAll() == std::size_t(threadCount) * messageCount, "nothing lost");
 }
 
 } // namespace
@@ -97,7 +88,7 @@ void whoWaitsGoesOnWhenTheBrakeIsOff()
 int main()
 {
     aViewThatShowsIsNeverFurtherBehindThanTheLimit();
-    aViewThatStandsStillIsWaitedForOnce();
-    whoWaitsGoesOnWhenTheBrakeIsOff();
+    aViewThatStandsStillLosesNothing(50ms, 50000, false);
+    aViewThatStandsStillLosesNothing(1h, limit, true);
     return 0;
 }
