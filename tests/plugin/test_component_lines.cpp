@@ -1,42 +1,12 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "ArrayFixture.h"
 #include "EditorCase.h"
 #include "TextRows.h"
 
-#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
-#include <QSpinBox>
-#include <QUndoStack>
 
 namespace {
-
-/// What a person does with one line of an editor that has a line a component.
-struct LineEditing {
-    const char* type;
-    const char* start; ///< text of the field
-    int line;
-    const char* typed; ///< in place of what the line holds; null leaves it
-    Qt::Key key; ///< that ends the typing
-    const char* after; ///< text of the field; null if it stays
-    int commands;
-};
-
-const LineEditing editings[] = {
-    // Leaving an untouched line writes nothing.
-    { "SFBox2f", "0.12345678 0 1 1", 0, nullptr, Qt::Key_Tab, nullptr, 0 },
-    // Leaving an edited one writes what all lines show.
-    { "SFBox2f", "0.12345678 0 1 1234567", 2, "2", Qt::Key_Tab, "0.123457 0 2 1234570", 1 },
-    { "SFColor", "0.12345678 1 2", 1, "0.25", Qt::Key_Tab, "0.123457 0.25 2", 1 },
-    // A rotation is written by Return alone.
-    { "SFRotation", "0 0 1 2", 0, "1", Qt::Key_Tab, nullptr, 0 },
-    { "SFRotation", "0 0 1 2", 0, "1", Qt::Key_Return, "1 0 1 2", 1 },
-    // Return applies an untouched line, too, but no unfinished one.
-    { "SFBox2f", "0 0 1 1", 3, nullptr, Qt::Key_Return, nullptr, 1 },
-    { "SFBox2f", "5 0 1 1", 0, "-", Qt::Key_Return, nullptr, 0 },
-    { "SFVec2f", "5 6", 1, "-", Qt::Key_Tab, nullptr, 0 },
-    // A colour takes any text.
-    { "SFColor", "1 1 0", 1, "1,5", Qt::Key_Return, "1 0 0", 2 },
-};
 
 /// What holds the lines of the editor shown: the popup, which it opens, or the editor's frame.
 QWidget* openGrid(EditorFixture& fixture)
@@ -51,8 +21,6 @@ QWidget* openGrid(EditorFixture& fixture)
 
 } // namespace
 
-Q_DECLARE_METATYPE(LineEditing)
-
 class TestComponentLines : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -60,35 +28,48 @@ private Q_SLOTS:
 
     void editing_data()
     {
-        QTest::addColumn<LineEditing>("row");
-        for (const LineEditing& row : editings)
-            QTest::addRow("%s %s %d", row.type, row.start, row.line) << row;
+        // The field, one of its lines, what is typed in place of what that holds, if anything, the
+        // key behind it, what the field holds then, and the commands.
+        addTextRows({
+            // Leaving an untouched line writes nothing.
+            { "SFBox2f", "0.12345678 0 1 1", "0", "", "Tab", "0.12345678 0 1 1", "0" },
+            // Leaving an edited one writes what all lines show.
+            { "SFBox2f", "0.12345678 0 1 1234567", "2", "2", "Tab", "0.123457 0 2 1234570", "1" },
+            { "SFColor", "0.12345678 1 2", "1", "0.25", "Tab", "0.123457 0.25 2", "1" },
+            // A rotation is written by Return alone.
+            { "SFRotation", "0 0 1 2", "0", "1", "Tab", "0 0 1 2", "0" },
+            { "SFRotation", "0 0 1 2", "0", "1", "Return", "1 0 1 2", "1" },
+            // Return applies an untouched line, too, but no unfinished one.
+            { "SFBox2f", "0 0 1 1", "3", "", "Return", "0 0 1 1", "1" },
+            { "SFBox2f", "5 0 1 1", "0", "-", "Return", "5 0 1 1", "0" },
+            { "SFVec2f", "5 6", "1", "-", "Tab", "5 6", "0" },
+            // A comma is no part of a number, nor is a seventh decimal.
+            { "SFVec2f", "5 6", "1", "1,5.1234567", "Tab", "5 15.123456", "1" },
+            // A colour takes any text.
+            { "SFColor", "1 1 0", "1", "1,5", "Return", "1 0 0", "2" },
+        });
     }
     void editing()
     {
-        QFETCH(LineEditing, row);
-        EditorFixture fixture;
-        KnField* const field = fixture.field(row.type);
-        EditorFixture::write(field, row.start);
-        const QString start = EditorFixture::text(field);
-        fixture.select(field);
-        QLineEdit* const line = openGrid(fixture)->findChildren<QLineEdit*>()[row.line];
+        const auto [type, start, index, typed, key, after, commands] = textRow<7>();
+        ArrayFixture fixture;
+        KnField& field = fixture.show(type, start);
+        QLineEdit* const line = openGrid(fixture)->findChildren<QLineEdit*>()[index.toInt()];
         QTest::mouseClick(line, Qt::LeftButton);
         line->selectAll();
-        if (row.typed)
-            QTest::keyClicks(line, QLatin1String(row.typed));
-        QCOMPARE(EditorFixture::text(field), start);
-        QTest::keyClick(line, row.key);
+        QTest::keyClicks(line, typed);
+        QCOMPARE(EditorFixture::text(&field), start);
+        QTest::keyClick(line, QKeySequence(key)[0].key());
         EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(field), row.after ? QString::fromLatin1(row.after) : start);
-        QCOMPARE(fixture.undoStack().count(), row.commands);
-        if (row.typed && row.commands == 0)
-            QCOMPARE(line->text(), QString::fromLatin1(row.typed));
+        QCOMPARE(EditorFixture::text(&field), after);
+        QCOMPARE(fixture.commands(), commands.toInt());
+        if (!typed.isEmpty() && start == after)
+            QCOMPARE(line->text(), typed);
 
         // What wasn't applied doesn't outlive a refresh.
-        EditorFixture::write(field, row.start);
+        EditorFixture::write(&field, start.toLatin1().constData());
         QVERIFY(!static_cast<WfSFieldWidget*>(fixture.editor())->edited());
-        QVERIFY(row.typed == nullptr || line->text() != QLatin1String(row.typed));
+        QVERIFY(typed.isEmpty() || line->text() != typed);
     }
 
     void escDropsWhatIsTyped_data()
@@ -134,10 +115,8 @@ private Q_SLOTS:
     void tabbingThroughTheLines()
     {
         const auto [type, text] = textRow<2>();
-        EditorFixture fixture;
-        KnField* const field = fixture.field(qPrintable(type));
-        field->set(QByteArray("1 1 1 1").left(text.size()).constData());
-        fixture.select(field);
+        ArrayFixture fixture;
+        const KnField& field = fixture.show(type, QStringLiteral("1 1 1 1").left(text.size()));
         const auto lines = openGrid(fixture)->findChildren<QLineEdit*>();
         lines[0]->setFocus(Qt::TabFocusReason);
         for (const Qt::Key key : { Qt::Key_7, Qt::Key_8, Qt::Key_7 }) {
@@ -145,44 +124,9 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             EditorFixture::settle();
         }
-        QCOMPARE(EditorFixture::text(field), text);
-        QCOMPARE(fixture.undoStack().count(), 3);
+        QCOMPARE(EditorFixture::text(&field), text);
+        QCOMPARE(fixture.commands(), 3);
         QCOMPARE(lines[0]->cursorPosition(), 0);
-    }
-
-    void anUnfinishedLineCountsAsZero()
-    {
-        EditorFixture fixture;
-        KnField* const field = fixture.field("SFVec2f");
-        EditorFixture::write(field, "5 6");
-        fixture.select(field);
-        typeInto(fixture.child<QLineEdit>("SFVec2fBox"), QStringLiteral("-"));
-        // A comma is no part of a number, wherever the program runs, nor is a seventh decimal.
-        typeIntoLast(fixture, "SFVec2fBox", "1,5.1234567");
-        EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(field), QStringLiteral("0 15.123456"));
-    }
-
-    void spinBoxesStopAtTheEndsOfTheirType_data()
-    {
-        addTextRows({ { "SFVec2s", "-327689", "-32768" },
-            { "SFVec2i32", "21474836479", "2147483647" }, { "SFVec2i32", "1,000", "1000" } });
-    }
-    void spinBoxesStopAtTheEndsOfTheirType()
-    {
-        const auto [type, typed, shown] = textRow<3>();
-        EditorFixture fixture;
-        KnField* const field = fixture.field(qPrintable(type));
-        fixture.select(field);
-        auto* const box = fixture.child<QSpinBox>("SF2Box");
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, typed);
-        EditorFixture::settle();
-        QCOMPARE(box->text(), shown);
-        // Every change of value was written while the person typed.
-        QCOMPARE(EditorFixture::text(field), shown + QStringLiteral(" 0"));
-        QVERIFY(fixture.undoStack().count() > 1);
     }
 };
 
