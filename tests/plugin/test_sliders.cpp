@@ -2,6 +2,7 @@
 #include "CrvStrings.h"
 #include "EditorCase.h"
 #include "SliderInput.h"
+#include "TextRows.h"
 #include "WfIntSlider.h"
 #include "WfRealSlider.h"
 #include "WfUIntSlider.h"
@@ -29,31 +30,31 @@ public:
     QStringList calls;
 };
 
-enum Kind { Int32, Int16, UInt32, UInt16, Float, Double };
-
 /// A slider of cell (2, 3) from 0 to `max`, with a value.
 std::unique_ptr<WfSlider> make(
-    Kind kind, int inTable, Owner* owner, int max, bool bounded, const QString& text)
+    const QString& kind, int inTable, Owner* owner, int max, bool bounded, const QString& text)
 {
+    const bool is32 = kind.endsWith(u"32");
     const auto filled = [&](auto slider, const auto& value) -> std::unique_ptr<WfSlider> {
         slider->setRange(0, max, bounded);
         slider->setValue(value);
         return slider;
     };
-    if (kind == Float || kind == Double)
-        return filled(std::make_unique<WfRealSlider>(inTable, owner, nullptr, kind == Float, 2, 3),
+    if (!kind.contains(u"Int"))
+        return filled(
+            std::make_unique<WfRealSlider>(inTable, owner, nullptr, kind == u"Float", 2, 3),
             text.toDouble());
-    if (kind == Int32 || kind == Int16) {
-        const auto type = kind == Int32 ? WfIntSlider::Int32 : WfIntSlider::Int16;
+    if (kind.startsWith(u"Int")) {
+        const auto type = is32 ? WfIntSlider::Int32 : WfIntSlider::Int16;
         return filled(std::make_unique<WfIntSlider>(type, inTable, owner, nullptr, 2, 3), text);
     }
-    const auto type = kind == UInt32 ? WfUIntSlider::UInt32 : WfUIntSlider::UInt16;
+    const auto type = is32 ? WfUIntSlider::UInt32 : WfUIntSlider::UInt16;
     return filled(std::make_unique<WfUIntSlider>(type, inTable, owner, nullptr, 2, 3), text);
 }
 
 /// A slider in a window of its own, with the focus in its line.
 struct Bench {
-    explicit Bench(Kind kind, const QString& text = u"50"_s, int inTable = 0, int max = 100,
+    Bench(const QString& kind, const QString& text, int inTable = 0, int max = 100,
         bool bounded = false)
         : slider(make(kind, inTable, &owner, max, bounded, text))
         , line(slider->m_lineEdit)
@@ -73,10 +74,10 @@ struct Bench {
     QCheckBox* box;
 };
 
-void type(Bench& bench, const char* text, Qt::Key key = Qt::Key_unknown)
+void type(Bench& bench, const QString& text, Qt::Key key = Qt::Key_unknown)
 {
     bench.line->selectAll();
-    QTest::keyClicks(bench.line, QLatin1String(text));
+    QTest::keyClicks(bench.line, text);
     if (key != Qt::Key_unknown)
         QTest::keyClick(bench.line, key);
 }
@@ -94,36 +95,9 @@ void clickBox(Bench& bench) { QTest::mouseClick(bench.box, Qt::LeftButton); }
 
 using Act = void (*)(Bench& bench);
 
-struct Text {
-    Kind kind;
-    int boundedMax; ///< of a range from 0; 0 for a free one
-    const char* set;
-    const char* shown;
-    const char* typed;
-    const char* left; ///< in the line, after Return
-    const char* value; ///< as a press on the scale saves it
-};
-
-const Text typedTexts[] = {
-    { Int16, 0, "42", "42", "70000", "70000", "42" },
-    { Int16, 0, "0x1f", "1f", "ffff", "ffff", "7fff" },
-    { Int16, 0, "07", "7", "-777777", "-777777", "-100000" },
-    { Int32, 60, "50", "50", "70", "70", "50" },
-    { Int32, 60, "0x20", "20", "ff", "ff", "3c" },
-    { Int32, 0, "017", "017", "17", "17", "17" },
-    { UInt32, 0, "0xff", "ff", "100000000", "100000000", "0xff" },
-    { UInt16, 0, "42", "42", "70000", "70000", "65535" },
-    { UInt16, 60, "50", "50", "70", "70", "60" },
-    { Float, 0, "0.1234567", "0.123457", "-1.2345678", "-1.234567", "-1.234567" },
-    { Float, 0, "2.5", "2.500000", "1,5", "15", "15.000000" },
-    { Float, 1, "0.5", "0.500000", "2", "2", "0.500000" },
-    { Double, 0, "1e-05", "1e-05", "0.1234567890123456", "0.123456789012345", "0.123456789012345" },
-};
-
 } // namespace
 
 Q_DECLARE_METATYPE(Act)
-Q_DECLARE_METATYPE(Text)
 
 class TestSliders : public QObject {
     Q_OBJECT
@@ -141,9 +115,9 @@ private Q_SLOTS:
         row("a refresh", u""_s, [](Bench& b) { b.slider->setValue(u"7"_s); });
         row("leaving", u""_s, [](Bench& b) { QTest::keyClick(b.line, Qt::Key_Tab); });
         row("Return", u""_s, [](Bench& b) { QTest::keyClick(b.line, Qt::Key_Return); });
-        row("typing", u""_s, [](Bench& b) { type(b, "25"); });
-        row("typing, leaving", u"apply"_s, [](Bench& b) { type(b, "25", Qt::Key_Tab); });
-        const Act typeAndReturn = [](Bench& b) { type(b, "25", Qt::Key_Return); };
+        row("typing", u""_s, [](Bench& b) { type(b, u"25"_s); });
+        row("typing, leaving", u"apply"_s, [](Bench& b) { type(b, u"25"_s, Qt::Key_Tab); });
+        const Act typeAndReturn = [](Bench& b) { type(b, u"25"_s, Qt::Key_Return); };
         row("typing, Return", u"apply apply"_s, typeAndReturn);
         row("... in a cell", u"off 2:3=25 on off 2:3=25 on"_s, typeAndReturn, 1);
         row("a press", u""_s, [](Bench& b) { SliderInput(b.scale).press(); });
@@ -161,7 +135,7 @@ private Q_SLOTS:
     {
         QFETCH(Act, act);
         QFETCH(int, inTable);
-        Bench bench(Int32, u"50"_s, inTable);
+        Bench bench(u"Int32"_s, u"50"_s, inTable);
         QVERIFY(bench.slider->m_oldValue.isNull());
         act(bench);
         QTEST(bench.owner.calls.join(u' '), "calls");
@@ -169,27 +143,42 @@ private Q_SLOTS:
 
     void texts_data()
     {
-        QTest::addColumn<Text>("row");
-        for (const Text& row : typedTexts)
-            QTest::addRow("%d to %d, %s, %s", row.kind, row.boundedMax, row.set, row.typed) << row;
+        // The kind, the end of a bounded range from 0, or 0, the text set, shown and typed, what is
+        // left in the line after Return, and the value as a press on the scale saves it.
+        addTextRows({
+            { "Int16", "0", "42", "42", "70000", "70000", "42" },
+            { "Int16", "0", "0x1f", "1f", "ffff", "ffff", "7fff" },
+            { "Int16", "0", "07", "7", "-777777", "-777777", "-100000" },
+            { "Int32", "60", "50", "50", "70", "70", "50" },
+            { "Int32", "60", "0x20", "20", "ff", "ff", "3c" },
+            { "Int32", "0", "017", "017", "17", "17", "17" },
+            { "UInt32", "0", "0xff", "ff", "100000000", "100000000", "0xff" },
+            { "UInt16", "0", "42", "42", "70000", "70000", "65535" },
+            { "UInt16", "60", "50", "50", "70", "70", "60" },
+            { "Float", "0", "0.1234567", "0.123457", "-1.2345678", "-1.234567", "-1.234567" },
+            { "Float", "0", "2.5", "2.500000", "1,5", "15", "15.000000" },
+            { "Float", "1", "0.5", "0.500000", "2", "2", "0.500000" },
+            { "Double", "0", "1e-05", "1e-05", "0.1234567890123456", "0.123456789012345",
+                "0.123456789012345" },
+        });
     }
     /// What the limits and the validator of a type make of a text, in the base of the first one.
     void texts()
     {
-        QFETCH(Text, row);
-        const bool bounded = row.boundedMax > 0;
-        Bench bench(row.kind, QLatin1String(row.set), 0, bounded ? row.boundedMax : 100, bounded);
-        QCOMPARE(bench.line->text(), QLatin1String(row.shown));
+        const auto [kind, max, set, shown, typed, left, value] = textRow<7>();
+        const bool bounded = max != u"0";
+        Bench bench(kind, set, 0, bounded ? max.toInt() : 100, bounded);
+        QCOMPARE(bench.line->text(), shown);
         QCOMPARE(bench.line->cursorPosition(), 0);
         QVERIFY(!bench.slider->isModified());
-        type(bench, row.typed, Qt::Key_Return);
+        type(bench, typed, Qt::Key_Return);
         QVERIFY(bench.slider->isModified());
-        QCOMPARE(bench.line->text(), QLatin1String(row.left));
+        QCOMPARE(bench.line->text(), left);
         // The scale reaches the value: letting go of the handle there keeps a whole number.
-        for (int i = 0; i < (row.kind < Float ? 2 : 1); ++i) {
+        for (int i = 0; i < (kind.contains(u"Int") ? 2 : 1); ++i) {
             SliderInput mouse(bench.scale);
             mouse.press();
-            QCOMPARE(toQString(bench.slider->m_oldValue), QLatin1String(row.value));
+            QCOMPARE(toQString(bench.slider->m_oldValue), value);
             mouse.release();
         }
     }
