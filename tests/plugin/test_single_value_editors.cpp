@@ -3,6 +3,7 @@
 #include "EditorCase.h"
 #include "KnDirectionalLight.h"
 #include "SliderInput.h"
+#include "TextRows.h"
 #include "WfRealSlider.h"
 
 #include <QCheckBox>
@@ -10,27 +11,6 @@
 #include <QUndoStack>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct Drag {
-    const char* type;
-    const char* start; ///< text of the field
-    bool notify; ///< whether the check box is checked
-    int moves;
-    const char* undone; ///< text of the field after all was undone
-};
-
-const Drag drags[] = {
-    { "SFFloat", "2.5", true, 2, "2.5" },
-    { "SFFloat", "0.1234567", false, 2, "0.123457" }, // as shown when it was pressed
-    { "SFFloat", "5.03", false, 0, "5.03" }, // a press alone falls on the grid
-    { "SFUInt32", "0x28", false, 2, "0x28" },
-};
-
-} // namespace
-
-Q_DECLARE_METATYPE(Drag)
 
 /// The editors that are one slider or one line.
 class TestSingleValueEditors : public QObject {
@@ -45,21 +25,26 @@ private Q_SLOTS:
 
     void aDragAsCommands_data()
     {
-        QTest::addColumn<Drag>("drag");
-        for (const Drag& drag : drags)
-            QTest::addRow("%s %s", drag.type, drag.start) << drag;
+        // The field, whether the check box is checked, the moves, and the field after all was
+        // undone.
+        addTextRows({
+            { "SFFloat", "2.5", "notify", "2", "2.5" },
+            { "SFFloat", "0.1234567", "", "2", "0.123457" }, // as shown when it was pressed
+            { "SFFloat", "5.03", "", "0", "5.03" }, // a press alone falls on the grid
+            { "SFUInt32", "0x28", "", "2", "0x28" },
+        });
     }
     void aDragAsCommands()
     {
-        QFETCH(Drag, drag);
-        const auto& [type, start, notify, moves, undone] = drag;
-        open(type, start);
+        const auto [type, start, notified, moves, undone] = textRow<5>();
+        const bool notify = !notified.isEmpty();
+        open(qPrintable(type), qPrintable(start));
         if (!notify)
             QTest::mouseClick(m_fixture->child<QCheckBox>("m_notifyCheckBox"), Qt::LeftButton);
         SliderInput mouse(scale());
-        QStringList texts { QLatin1String(undone) };
+        QStringList texts { undone };
         mouse.press();
-        for (int i = 0; i < moves; ++i) {
+        for (int i = 0; i < moves.toInt(); ++i) {
             mouse.moveBy(8);
             EditorFixture::settle();
             if (notify)
@@ -80,7 +65,7 @@ private Q_SLOTS:
         auto* const light = new KnDirectionalLight; // lives while it is selected
         light->intensity.setValue(1.5F);
         m_fixture->select(&light->intensity);
-        auto* const real = static_cast<WfRealSlider*>(slider());
+        auto* const real = static_cast<WfRealSlider*>(m_fixture->child<WfSlider>("WfSliderFrame"));
         const auto range
             = [real] { return u"%1 to %2"_s.arg(real->getMinimum()).arg(real->getMaximum()); };
         QCOMPARE(range(), u"0 to 1.5"_s);
@@ -90,7 +75,7 @@ private Q_SLOTS:
         // Another node's field has its own range, and all numbers can be typed again.
         open("SFFloat", "-3");
         QCOMPARE(range(), u"-3 to 10"_s);
-        type("-1234.5");
+        typeInto(line(), u"-1234.5"_s);
         QCOMPARE(text(), u"-1234.5"_s);
     }
 
@@ -115,7 +100,8 @@ private Q_SLOTS:
         // Neither Return nor leaving the line adds anything.
         QTest::keyClick(line(), Qt::Key_Return);
         line()->clearFocus();
-        QCOMPARE(state(), u"field 12034, line 12034, cursor 3, 2 commands"_s);
+        QCOMPARE(line()->text(), u"12034"_s);
+        QCOMPARE(line()->cursorPosition(), 3);
         QCOMPARE(undoAll(), QStringList({ u"1234"_s, u"12034"_s }));
         QCOMPARE(line()->text(), u"1234"_s);
     }
@@ -169,17 +155,8 @@ private:
         }
         return texts;
     }
-    void type(const char* text) { typeInto(line(), QString::fromLatin1(text)); }
     QLineEdit* line() const { return m_fixture->editor()->getFrame()->findChild<QLineEdit*>(); }
-    /// After what has been typed into the one line of text of a field of time.
-    QString state() const
-    {
-        return u"field %1, line %2, cursor %3, %4 commands"_s.arg(text(), line()->text())
-            .arg(line()->cursorPosition())
-            .arg(m_fixture->undoStack().count());
-    }
     QSlider* scale() const { return m_fixture->child<QSlider>("m_slider"); }
-    WfSlider* slider() const { return m_fixture->child<WfSlider>("WfSliderFrame"); }
 
     std::unique_ptr<EditorFixture> m_fixture;
     KnField* m_field = nullptr; // the one opened
