@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "ColorChannels.h"
+#include "ArrayFixture.h"
 #include "DialogInput.h"
 #include "EditorCase.h"
 
 #include <QColorDialog>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QUndoStack>
-
-#include <limits>
 
 namespace {
 
@@ -43,21 +39,10 @@ private Q_SLOTS:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init() { failOnWarnings(); }
 
-    void channels()
-    {
-        using Float = std::numeric_limits<float>;
-        const std::pair<float, int> bytes[] = { { 1, 255 }, { 0.5F, 127 }, { -0.003F, 0 },
-            { -0.004F, -1 }, { 1.003F, 255 }, { 1.01F, -1 }, { Float::quiet_NaN(), -1 } };
-        for (const auto& [channel, byte] : bytes)
-            QCOMPARE(channelByte(channel), byte);
-    }
-
     void typingChangesTheDisplayAndNotTheField()
     {
-        EditorFixture fixture;
-        KnField* const field = fixture.field("SFColorRGBA");
-        EditorFixture::write(field, "1 0 0 1");
-        fixture.select(field);
+        ArrayFixture fixture;
+        const KnField& field = fixture.show("SFColorRGBA", "1 0 0 1");
         const auto* const frame = fixture.editor()->getFrame();
         const auto lines = frame->findChildren<QLineEdit*>(QStringLiteral("SFColorRGBALine"));
         QStringList colors { displayed(fixture) };
@@ -79,43 +64,39 @@ private Q_SLOTS:
             QStringLiteral(
                 "#ffff0000 #ffff7f00 #ffff7f00 #ffff0000 #7fff0000 #7fff00ff #7fff0000"));
         EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(field), QStringLiteral("1 0 0 1"));
-        QCOMPARE(fixture.undoStack().count(), 0);
+        QCOMPARE(EditorFixture::text(&field), QStringLiteral("1 0 0 1"));
+        QCOMPARE(fixture.commands(), 0);
         // No number counts as 0, and the refresh says so.
         QTest::keyClick(lines[1], Qt::Key_Return);
         EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(field), QStringLiteral("1 0 0 0.5"));
+        QCOMPARE(EditorFixture::text(&field), QStringLiteral("1 0 0 0.5"));
         QCOMPARE(lines[1]->text(), QStringLiteral("0"));
     }
 
     void anAcceptedDialogWritesTheColour()
     {
-        EditorFixture fixture;
-        KnField* const field = fixture.field("SFColorRGBA");
-        EditorFixture::write(field, "1 0 0 1");
-        fixture.select(field);
+        ArrayFixture fixture;
+        const KnField& field = fixture.show("SFColorRGBA", "1 0 0 1");
         QVERIFY(choose(fixture, Qt::Key_Return));
         // Red as the text of its line has it; the others kept or got a round number.
-        QCOMPARE(EditorFixture::text(field), QStringLiteral("0.501961 0 1 0.2"));
+        QCOMPARE(EditorFixture::text(&field), QStringLiteral("0.501961 0 1 0.2"));
         QCOMPARE(linesShown(fixture, "SFColorRGBALine"), QStringLiteral("0.501961 0 1 0.2"));
-        QCOMPARE(fixture.undoStack().count(), 1);
+        QCOMPARE(fixture.commands(), 1);
         fixture.undo();
-        QCOMPARE(EditorFixture::text(field), QStringLiteral("1 0 0 1"));
+        QCOMPARE(EditorFixture::text(&field), QStringLiteral("1 0 0 1"));
     }
 
     void anUnwantedChoiceLeavesEverything()
     {
-        EditorFixture fixture;
-        KnField* const field = fixture.field("SFColor");
-        EditorFixture::write(field, "1 0 0.001");
-        fixture.select(field);
+        ArrayFixture fixture;
+        const KnField& field = fixture.show("SFColor", "1 0 0.001");
         QVERIFY(choose(fixture, Qt::Key_Escape));
         QCOMPARE(linesShown(fixture, "SFColorLine"), QStringLiteral("1 0 0.001"));
         // What was chosen for one field never reaches another.
         QVERIFY(choose(fixture, Qt::Key_Return, fixture.otherField("SFColor")));
-        QCOMPARE(EditorFixture::text(field), QStringLiteral("1 0 0.001"));
+        QCOMPARE(EditorFixture::text(&field), QStringLiteral("1 0 0.001"));
         QCOMPARE(EditorFixture::text(fixture.otherField("SFColor")), QStringLiteral("0 0 0"));
-        QCOMPARE(fixture.undoStack().count(), 0);
+        QCOMPARE(fixture.commands(), 0);
     }
 };
 
