@@ -6,7 +6,9 @@
 #include <QAbstractButton>
 #include <QUndoStack>
 
-/// The fixture of tests that show an array and work on it.
+#include <optional>
+
+/// The fixture of tests that show a field with values of their own, an array mostly.
 class ArrayFixture : public EditorFixture {
 public:
     /// Gives the first node's field of that type these values and selects it.
@@ -36,4 +38,19 @@ public:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
         settle();
     }
+};
+
+/// Base of the tests of arrays: a new fixture for each test function.
+class ArrayTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        failOnWarnings();
+        m_fixture.emplace();
+    }
+    void cleanup() { m_fixture.reset(); }
+
+protected:
+    std::optional<ArrayFixture> m_fixture;
 };

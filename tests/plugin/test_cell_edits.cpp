@@ -8,19 +8,10 @@
 #include <QShortcut>
 #include <QSpinBox>
 
-#include <optional>
-
 /// What ends the edit of a cell and what doesn't, and where the typed text goes.
-class TestCellEdits : public QObject {
+class TestCellEdits : public ArrayTest {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        failOnWarnings();
-        m_fixture.emplace();
-    }
-    void cleanup() { m_fixture.reset(); }
-
     void leavingACell_data()
     {
         QTest::addColumn<QString>("type");
@@ -202,17 +193,6 @@ private Q_SLOTS:
         QCOMPARE(ends, QStringList(4, end));
     }
 
-    void farDownRowsThatComeEndTheEdit()
-    {
-        const QByteArray values = QByteArray("[ 5") + QByteArray(", 5").repeated(99);
-        KnField& field = m_fixture->show("MFInt32", QByteArray(values + " ]").constData());
-        m_fixture->table()->showTableRow(80);
-        const QPointer<QWidget> line = m_fixture->table().type(79, 0, QStringLiteral("55"));
-        EditorFixture::write(&field, QByteArray(values + ", 5 ]").constData());
-        QTRY_VERIFY(!line);
-        QVERIFY(!EditorFixture::text(&field).contains(QStringLiteral("55")));
-    }
-
 private:
     void leaveCell(const QString& way, const QString& type)
     {
@@ -232,8 +212,6 @@ private:
             m_fixture->press(QKeySequence(way)[0].key());
         EditorFixture::settle();
     }
-
-    std::optional<ArrayFixture> m_fixture;
 };
 
 QTEST_MAIN(TestCellEdits)

@@ -8,8 +8,6 @@
 #include <QPainter>
 #include <QStandardItemModel>
 
-#include <optional>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -58,16 +56,9 @@ public:
 } // namespace
 
 /// How a row table's delegate paints its cells, what it opens in them, and what it stores.
-class TestTableCells : public QObject {
+class TestTableCells : public ArrayTest {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        failOnWarnings();
-        m_fixture.emplace();
-    }
-    void cleanup() { m_fixture.reset(); }
-
     void kindsFixTheEditor_data()
     {
         QTest::addColumn<int>("kind");
@@ -210,9 +201,6 @@ private Q_SLOTS:
         QCOMPARE(model.m_stored, QStringList(stored));
         QCOMPARE(EditorFixture::text(&field), after);
     }
-
-private:
-    std::optional<ArrayFixture> m_fixture;
 };
 
 QTEST_MAIN(TestTableCells)
