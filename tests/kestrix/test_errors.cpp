@@ -4,6 +4,7 @@
 #include "KnErrorStack.h"
 #include "KnGLError.h"
 #include "KnMemoryError.h"
+#include "KnPreferences.h"
 #include "KnReadErrorCapture.h"
 #include "StandardError.h"
 
@@ -18,20 +19,17 @@ struct Class {
     QByteArray lines;
 };
 
-void postStack() { KnErrorStack::post({ "c", "d" }); }
-
-void postGLErrors()
-{
-    KnGLError::post(0x0502, "drawing");
-    KnGLError::post(0x1f, KbString());
-}
-
 const Class classes[] = {
     { &KnDebugError::setHandlerCallback, [] { KnDebugError::post(KnDebugError::Info, "a"); },
         "DebugError: a\n" },
     { &KnError::setHandlerCallback, [] { KnError::post("b"); }, "Error: b\n" },
-    { &KnErrorStack::setHandlerCallback, &postStack, "ErrorStack: c | d\n" },
-    { &KnGLError::setHandlerCallback, &postGLErrors,
+    { &KnErrorStack::setHandlerCallback,
+        [] {
+            KnErrorStack::post({ "c", "d" });
+        },
+        "ErrorStack: c | d\n" },
+    { &KnGLError::setHandlerCallback,
+        [] { KnGLError::post(0x0502, "drawing"), KnGLError::post(0x1f, KbString()); },
         "GLError: drawing: GL_INVALID_OPERATION (0x0502)\n"
         "GLError: unknown OpenGL error (0x001f)\n" },
     { &KnMemoryError::setHandlerCallback, [] { KnMemoryError::post("e"); }, "MemoryError: e\n" },
@@ -46,6 +44,7 @@ void postAll()
 
 } // namespace
 
+/// The error classes, and the preferences that a variable of the environment sets.
 class TestErrors : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -105,6 +104,18 @@ private Q_SLOTS:
         const KnErrorCallback endless = [](const KnError*, void*) { KnError::post("once more"); };
         KnError::setHandlerCallback(endless, nullptr);
         QCOMPARE(standardErrorOf([] { KnError::post("first"); }), "Error: once more\n");
+    }
+
+    void boolOfAVariable()
+    {
+        const char* const name = "CORVANE_TEST_SWITCH";
+        const auto get = [name](int byDefault) { return KnPreferences::getBool(name, byDefault); };
+        QVERIFY(get(1) && !get(0));
+        for (const char* off : { "0", "off", "NO", "FaLsE" })
+            QVERIFY2(qputenv(name, off) && !get(1) && !get(0), off);
+        for (const char* on : { "1", "on", "yes", "00", " 0", "offer" })
+            QVERIFY2(qputenv(name, on) && get(1) && get(0), on);
+        QVERIFY(qputenv(name, "") && get(1) && !get(0));
     }
 };
 

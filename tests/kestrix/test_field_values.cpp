@@ -61,28 +61,22 @@ void sweep(const std::vector<typename Array::Value>& numbers)
 class TestFieldValues : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void floatsOfAllBitPatternsReadBack()
-    {
-        std::vector<float> numbers;
-        for (std::uint64_t bits = 0; bits <= 0xffffffffU; bits += 1499) // a prime number
-            numbers.push_back(std::bit_cast<float>(static_cast<std::uint32_t>(bits)));
-        sweep<KnMFFloat>(numbers);
-    }
-
-    void doublesReadBack()
+    void numbersReadBack()
     {
         std::mt19937_64 random(1); // NOLINT: the same numbers each time
-        std::vector<double> numbers;
-        for (int i = 0; i < 500000; ++i)
-            numbers.push_back(std::bit_cast<double>(random()));
+        using Limits = std::numeric_limits<double>;
+        std::vector<double> doubles { -0.0, Limits::min(), -Limits::max(), Limits::denorm_min(),
+            1e15, 1e23, 1e-4 };
+        std::vector<float> floats;
         // Random patterns are seldom of a plain magnitude.
         std::uniform_real_distribution<double> exponent(-6.0, 17.0);
-        for (int i = 0; i < 500000; ++i)
-            numbers.push_back(std::pow(10.0, exponent(random)));
-        using Limits = std::numeric_limits<double>;
-        numbers.insert(numbers.end(),
-            { -0.0, Limits::min(), -Limits::max(), Limits::denorm_min(), 1e15, 1e23, 1e-4 });
-        sweep<KnMFDouble>(numbers);
+        for (std::uint64_t bits = 0; bits <= 0xffffffffU; bits += 1499) { // a prime number
+            floats.push_back(std::bit_cast<float>(static_cast<std::uint32_t>(bits)));
+            doubles.push_back(
+                bits % 2 == 0 ? std::bit_cast<double>(random()) : std::pow(10.0, exponent(random)));
+        }
+        sweep<KnMFFloat>(floats);
+        sweep<KnMFDouble>(doubles);
     }
 
     void rowsChange_data()

@@ -3,24 +3,11 @@
 #include "KnDebugError.h"
 #include "KnGroup.h"
 #include "KnMField.h"
+#include "KnNodePtr.h"
 
 #include <QTest>
 
-#include <memory>
-
 namespace {
-
-struct Unref {
-    void operator()(KnNode* node) const { node->unref(); }
-};
-
-/// Holds a reference on a node.
-template <class Node>
-std::unique_ptr<Node, Unref> hold(Node* node)
-{
-    node->ref();
-    return std::unique_ptr<Node, Unref>(node);
-}
 
 const QByteArrayList nodeTypeNames = QByteArray(
     "Animation ClipPlane ClipPlanes Complexity Coordinates DirectionalLight DrawStyle"
@@ -62,8 +49,8 @@ private Q_SLOTS:
     void fieldsByIndexAndName()
     {
         QFETCH(QByteArray, name);
-        const auto first = hold(static_cast<KnNode*>(typeOf(name).createInstance()));
-        const auto second = hold(static_cast<KnNode*>(typeOf(name).createInstance()));
+        const KnNodePtr first(static_cast<KnNode*>(typeOf(name).createInstance()));
+        const KnNodePtr second(static_cast<KnNode*>(typeOf(name).createInstance()));
         const KnFieldData* data = first->getContainerFieldData();
         QCOMPARE(second->getContainerFieldData(), data);
         QVERIFY(data->getNum() > 0);
@@ -90,7 +77,8 @@ private Q_SLOTS:
         // It is loaded again.
         QVERIFY(KnType::create("Loaded", KnNode::getClassTypeId(), counted) == type);
         {
-            const auto group = hold(new KnGroup);
+            auto* const group = new KnGroup;
+            const KnNodePtr held(group);
             auto* a = new CountedNode;
             auto* b = new CountedNode;
             auto* c = static_cast<CountedNode*>(type.createInstance());
@@ -104,13 +92,14 @@ private Q_SLOTS:
         }
         QCOMPARE(CountedNode::count, 0);
 
-        const auto root = hold(new KnGroup);
+        auto* const root = new KnGroup;
+        const KnNodePtr held(root);
         auto* middle = new KnGroup;
         auto* leaf = new KnGroup;
         QVERIFY(root->addChild(middle) && middle->addChild(leaf));
         QVERIFY(root->addChild(leaf)); // shared, which is no cycle
         Errors<KnDebugError> errors;
-        QVERIFY(!leaf->addChild(root.get()) && !leaf->addChild(leaf) && !leaf->addChild(nullptr));
+        QVERIFY(!leaf->addChild(root) && !leaf->addChild(leaf) && !leaf->addChild(nullptr));
         QCOMPARE(errors.texts.size(), 3);
         QVERIFY(leaf->getNumChildren() == 0 && root->getReferenceCount() == 1);
     }

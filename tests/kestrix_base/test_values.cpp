@@ -59,17 +59,14 @@ private Q_SLOTS:
     {
         KbString string = "";
         QVERIFY(string == KbString() && !string.isNull() && !KbString::fromUtf16(u"").isNull());
-        string = "text";
         string.makeNull();
-        for (const KbString& null :
-            { string, KbString(), KbString(static_cast<const char*>(nullptr)),
-                KbString::fromUtf16(static_cast<const char16_t*>(nullptr)) })
+        const char16_t* const none = nullptr;
+        for (const KbString& null : { string, KbString(), KbString::fromUtf16(none) })
             QVERIFY(null.isNull() && null.isEmpty());
-
         QVERIFY(KbName("wing") == KbName(KbString("wing")) && KbName() == KbName(""));
     }
 
-    void quaternionOfARotation()
+    void rotations()
     {
         const auto q = KbRotation(KbVec3f(0.0F, 3.0F, 4.0F), 10.0F).getValue();
         QCOMPARE((QList<float>(q.begin(), q.end())),
@@ -78,30 +75,21 @@ private Q_SLOTS:
         const std::array<float, 4> none { 0, 0, 0, 1 };
         for (const float length : { 0.0F, INFINITY, NAN })
             QCOMPARE(KbRotation(KbVec3f(length, 0.0F, 0.0F), 2.0F).getValue(), none);
-    }
 
-    void axisAndAngleOfAQuaternion_data()
-    {
-        QTest::addColumn<QList<float>>("quaternion");
-        QTest::addColumn<QList<float>>("axisAndAngle");
-        using List = QList<float>;
+        // Half a turn, of great length, a whole turn, of no length, infinite; and what each turns.
         const float pi = std::numbers::pi_v<float>;
         const float max = std::numeric_limits<float>::max();
-        const List none { 0, 0, 1, 0 };
-        QTest::newRow("half a turn") << List { 1, 0, 0, 0 } << List { 1, 0, 0, pi };
-        QTest::newRow("of great length") << List { 0, 0, max, max } << List { 0, 0, 1, pi / 2 };
-        QTest::newRow("a whole turn") << List { 0, 0, 0, -1 } << none;
-        QTest::newRow("of no length") << List { 0, 0, 0, 0 } << none;
-        QTest::newRow("infinite") << List { 1, 0, 0, INFINITY } << none;
-    }
-    void axisAndAngleOfAQuaternion()
-    {
-        QFETCH(QList<float>, quaternion);
-        KbVec3f axis;
-        float radians = 0;
-        const float given[] = { quaternion[0], quaternion[1], quaternion[2], quaternion[3] };
-        KbRotation(given).getValue(axis, radians);
-        QTEST((QList<float> { axis[0], axis[1], axis[2], radians }), "axisAndAngle");
+        const float quaternions[][4]
+            = { { 1, 0, 0, 0 }, { 0, 0, max, max }, { 0, 0, 0, -1 }, {}, { 1, 0, 0, INFINITY } };
+        QList<float> found;
+        for (const auto& quaternion : quaternions) {
+            KbVec3f axis;
+            float radians = 0;
+            KbRotation(quaternion).getValue(axis, radians);
+            found << axis[0] << axis[1] << axis[2] << radians;
+        }
+        QCOMPARE(found,
+            (QList<float> { 1, 0, 0, pi, 0, 0, 1, pi / 2, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 1, 0 }));
     }
 };
 
