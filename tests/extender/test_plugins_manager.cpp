@@ -5,6 +5,7 @@
 #include "CrvStrings.h"
 #include "KnMaterial.h"
 #include "RecordingPlugin.h"
+#include "TextRows.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -58,18 +59,16 @@ private Q_SLOTS:
 
     void refusesFiles_data()
     {
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("nowhere/plugin.so") << u"there is no such file"_s;
-        QTest::newRow(CORVANE_SAMPLE_PROFILES) << u"this is not a library that can be"_s;
-        QTest::newRow(CORVANE_TEST_MODULES "/half_module" CORVANE_MODULE_SUFFIX)
-            << u"this library is no plug-in, it lacks unloadPlugin"_s;
-        QTest::newRow(CORVANE_TEST_MODULES "/null_module" CORVANE_MODULE_SUFFIX)
-            << u"loadPlugin gave no plug-in"_s;
+        addTextRows({ { "nowhere/plugin.so", "there is no such file" },
+            { CORVANE_SAMPLE_PROFILES, "this is not a library that can be" },
+            { CORVANE_TEST_MODULES "/half_module" CORVANE_MODULE_SUFFIX,
+                "this library is no plug-in, it lacks unloadPlugin" },
+            { CORVANE_TEST_MODULES "/null_module" CORVANE_MODULE_SUFFIX,
+                "loadPlugin gave no plug-in" } });
     }
     void refusesFiles()
     {
-        QFETCH(QString, reason);
-        const QString file = QString::fromUtf8(QTest::currentDataTag());
+        const auto [file, reason] = textRow<2>();
         QString error;
         QCOMPARE(m_manager->loadPlugin(file, &error), nullptr);
         QVERIFY2(error.startsWith(file + u": "_s + reason), qPrintable(error));

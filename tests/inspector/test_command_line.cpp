@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "TextRows.h"
+
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -13,34 +15,25 @@ class TestCommandLine : public QObject {
 private Q_SLOTS:
     void answers_data()
     {
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<int>("exitCode");
-        // Arguments are parted by a bar.
-        const auto row = [](const char* arguments, const QString& message, int exitCode) {
-            QTest::newRow(arguments) << message << exitCode;
-        };
-        row("--help", u"--select"_s, 0);
-        row("--version", u"corvane 1."_s, 0);
-        row("--colour", u"'colour'"_s, 2);
-        row("--select", u"'--select'"_s, 2);
-        row("all_fields.json|b.json", u"b.json"_s, 2);
-        row("/dev/zero", u"/dev/zero: this is a device, not a file"_s, 2);
-        row("--profile|Nobody", u"\"Nobody\"; there are: Everything, Fields"_s, 2);
-        row("--profiles|missing.json", u"missing.json: "_s, 2);
-        row("--plugin|station.json", u"station.json: this is not a library"_s, 2);
-        row("all_fields.json|--select|No.body.on", u"\"No.body\""_s, 2);
-        row("all_fields.json|--select|Oak.on", u"\"on\""_s, 2);
-        row("--picture|missing/a.png", u"missing/a.png: "_s, 2);
-        row("", u"Wrote "_s, 0);
-        row("all_fields.json|--select|PointLight.intensity", u"Wrote "_s, 0);
-        row("--plugin|" CORVANE_PLUGIN "|--plugin|" CORVANE_EXAMPLE_PLUGIN, u"Wrote "_s, 0);
-        row("-style|windows", u"Wrote "_s, 0); // the toolkit's own
+        // Arguments parted by bars, a text of the answer, and the status if that isn't 0.
+        addTextRows({ { "--help", "--select" }, { "--version", "corvane 1." },
+            { "--colour", "'colour'", "2" }, { "--select", "'--select'", "2" },
+            { "all_fields.json|b.json", "b.json", "2" },
+            { "/dev/zero", "/dev/zero: this is a device, not a file", "2" },
+            { "--profile|Nobody", "\"Nobody\"; there are: Everything, Fields", "2" },
+            { "--profiles|missing.json", "missing.json: ", "2" },
+            { "--plugin|station.json", "station.json: this is not a library", "2" },
+            { "all_fields.json|--select|No.body.on", "\"No.body\"", "2" },
+            { "all_fields.json|--select|Oak.on", "\"on\"", "2" },
+            { "--picture|missing/a.png", "missing/a.png: ", "2" }, { "", "Wrote " },
+            { "all_fields.json|--select|PointLight.intensity", "Wrote " },
+            { "--plugin|" CORVANE_PLUGIN "|--plugin|" CORVANE_EXAMPLE_PLUGIN, "Wrote " },
+            { "-style|windows", "Wrote " } }); // the toolkit's own
     }
-
     void answers()
     {
-        QFETCH(QString, message);
-        QFETCH(int, exitCode);
+        const auto [arguments, message, status] = textRow<3>();
+        const int exitCode = status.toInt();
         const QTemporaryDir folder;
         const QString picture = folder.filePath(u"picture.png"_s);
         // No display, and none of the toolkit's switches, some of which scale the picture or write
@@ -56,8 +49,7 @@ private Q_SLOTS:
         program.setWorkingDirectory(QStringLiteral(CORVANE_SCENES));
         // Everything behind the options would need a window; a picture needs none.
         program.start(QStringLiteral(CORVANE_PROGRAM),
-            QStringList { u"--picture"_s, picture }
-                + QString::fromUtf8(QTest::currentDataTag()).split(u'|', Qt::SkipEmptyParts));
+            QStringList { u"--picture"_s, picture } + arguments.split(u'|', Qt::SkipEmptyParts));
         // However long a busy machine takes; what hangs is ended from outside.
         QVERIFY2(program.waitForFinished(-1), qPrintable(program.errorString()));
         const QString out = QString::fromUtf8(program.readAllStandardOutput());
