@@ -9,21 +9,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-namespace {
-
-/// A node that the scene on the screen doesn't have.
-template <class Node>
-class OtherNode : public Node {
-public:
-    OtherNode()
-    {
-        this->ref();
-        this->setName(KbName("Other"));
-    }
-};
-
-} // namespace
-
 /// The selection while panes come and go below the focus.
 class TestSelection : public QObject {
     Q_OBJECT
@@ -64,7 +49,7 @@ private Q_SLOTS:
             QTest::keyClicks(m_inspector->window.findChild<QLineEdit*>(u"sceneFilter"_s), u"oak"_s);
         } else {
             services->selectField(
-                popup ? static_cast<KnField*>(&m_transform.matrix) : &m_viewpoint.description);
+                popup ? m_transform->getField("matrix") : m_viewpoint->getField("description"));
         }
         const QString before = selection();
         QVERIFY(before.contains(u'.'));
@@ -125,8 +110,9 @@ private:
         return node ? nodeLabel(*node) + (field ? u'.' + fieldName(*field) : QString()) : QString();
     }
 
-    OtherNode<KnMatrixTransform> m_transform;
-    OtherNode<KnViewpoint> m_viewpoint;
+    // Nodes that the scene on the screen doesn't have.
+    const KnNodePtr m_transform { new KnMatrixTransform };
+    const KnNodePtr m_viewpoint { new KnViewpoint };
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<InspectorFixture> m_inspector;
 };
