@@ -15,8 +15,6 @@
 #include <QPushButton>
 #include <QScreen>
 
-#include <algorithm>
-
 WfPopupWidget::WfPopupWidget(int rows, int columns, const char* name)
     : WfSFLineWidget(name)
     , m_editPixmap(editPixmap())
@@ -49,11 +47,7 @@ void WfPopupWidget::load()
     }
 }
 
-bool WfPopupWidget::edited()
-{
-    return std::any_of(m_lineEdits.begin(), m_lineEdits.end(),
-        [](const QLineEdit* line) { return line->isModified(); });
-}
+bool WfPopupWidget::edited() { return isAnyModified(m_lineEdits); }
 
 void WfPopupWidget::setValidatorKind(int kind)
 {
@@ -61,11 +55,7 @@ void WfPopupWidget::setValidatorKind(int kind)
         setComponentValidator(kind, line);
 }
 
-void WfPopupWidget::resetCursorPositions()
-{
-    for (QLineEdit* line : m_lineEdits)
-        resetCursorPosition(line);
-}
+void WfPopupWidget::resetCursorPositions() { resetCursors(m_lineEdits); }
 
 void WfPopupWidget::managePopFramePos()
 {

@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 #include <QLineEdit>
 
+#include <algorithm>
 #include <limits>
 
 QLineEdit* makeLineEdit(QWidget* parent, QBoxLayout* layout)
@@ -24,9 +25,17 @@ void refreshLine(QLineEdit* line, const QString& text)
         line->setSelection(static_cast<int>(text.size()), -static_cast<int>(text.size()));
 }
 
-void resetCursorPosition(QLineEdit* line)
+bool isAnyModified(const std::vector<QLineEdit*>& lines)
 {
-    // Moving a cursor that is already there would only clear the selection.
-    if (line->cursorPosition() != 0)
-        line->setCursorPosition(0);
+    return std::any_of(
+        lines.begin(), lines.end(), [](const QLineEdit* line) { return line->isModified(); });
+}
+
+void resetCursors(const std::vector<QLineEdit*>& lines)
+{
+    for (QLineEdit* line : lines) {
+        // Moving a cursor that is already there would only clear the selection.
+        if (line->cursorPosition() != 0)
+            line->setCursorPosition(0);
+    }
 }

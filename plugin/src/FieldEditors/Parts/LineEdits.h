@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <vector>
+
 class QBoxLayout;
 class QLineEdit;
 class QWidget;
@@ -16,5 +18,10 @@ QLineEdit* makeLineEdit(QWidget* parent, QBoxLayout* layout);
 /// is, with the cursor at its start: tabbing from line to line causes refreshes, and the next key
 /// should still replace the number, not be inserted before it.
 void refreshLine(QLineEdit* line, const QString& text);
-/// Moves the cursor to the start of the text.
-void resetCursorPosition(QLineEdit* line);
+
+// For the lines of an editor that shows each component of its value in one.
+
+/// Whether any of them holds text that a person typed and no refresh has replaced.
+bool isAnyModified(const std::vector<QLineEdit*>& lines);
+/// Moves the cursor of each to the start of its text.
+void resetCursors(const std::vector<QLineEdit*>& lines);

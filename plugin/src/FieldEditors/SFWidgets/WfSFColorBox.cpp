@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <algorithm>
 #include <cstring>
 
 WfSFColorBox::WfSFColorBox(const ColorBoxStyle& style, const char* name)
@@ -69,11 +68,7 @@ void WfSFColorBox::addChannel(QChar letter)
     connect(line, &QLineEdit::editingFinished, this, &WfSFColorBox::setFocusLeaveEvent);
 }
 
-bool WfSFColorBox::edited()
-{
-    return std::any_of(
-        m_lines.begin(), m_lines.end(), [](const QLineEdit* line) { return line->isModified(); });
-}
+bool WfSFColorBox::edited() { return isAnyModified(m_lines); }
 
 QColor WfSFColorBox::color() const
 {
@@ -96,8 +91,7 @@ void WfSFColorBox::fillLines()
 void WfSFColorBox::showChannels()
 {
     fillLines();
-    for (QLineEdit* line : m_lines)
-        resetCursorPosition(line);
+    resetCursors(m_lines);
     updateColorDisplay();
 }
 

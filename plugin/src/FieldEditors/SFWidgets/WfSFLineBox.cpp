@@ -9,8 +9,6 @@
 #include <QFrame>
 #include <QLineEdit>
 
-#include <algorithm>
-
 WfSFLineBox::WfSFLineBox(
     int columns, const ColumnBoxStyle& style, Qt::Alignment alignment, const char* name)
     : WfSFColumnBox(columns, style, name)
@@ -30,17 +28,9 @@ QWidget* WfSFLineBox::makeInput(int height)
     return line;
 }
 
-bool WfSFLineBox::edited()
-{
-    return std::any_of(
-        m_lines.begin(), m_lines.end(), [](const QLineEdit* line) { return line->isModified(); });
-}
+bool WfSFLineBox::edited() { return isAnyModified(m_lines); }
 
-void WfSFLineBox::resetCursorPositions()
-{
-    for (QLineEdit* line : m_lines)
-        resetCursorPosition(line);
-}
+void WfSFLineBox::resetCursorPositions() { resetCursors(m_lines); }
 
 void WfSFLineBox::showNumbers(const float* numbers)
 {
