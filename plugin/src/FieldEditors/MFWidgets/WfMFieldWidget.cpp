@@ -66,14 +66,10 @@ void WfMFieldWidget::load()
     CrvFieldEditors::load();
 
     QFrame* const frame = getFrame();
-    frame->setFrameShape(QFrame::Box);
-    frame->setFrameShadow(QFrame::Plain);
-    frame->setLineWidth(layoutMetric(QStringLiteral("frameLineWidth")));
+    drawBox(frame, "frameLineWidth");
 
     m_globalLayout = new QGridLayout(frame);
-    setMargins(m_globalLayout, layoutMetric(QStringLiteral("MFGlobalLayoutMarging")));
-    m_globalLayout->setSpacing(layoutMetric(QStringLiteral("MFGlobalLayoutSpacing")));
-    m_globalLayout->setObjectName(QStringLiteral("m_globalLayout"));
+    shapeLayout(m_globalLayout, "MFGlobalLayoutMarging", "MFGlobalLayoutSpacing", "m_globalLayout");
 
     styleTitleLabel(m_label);
     m_globalLayout->addWidget(m_label, 0, 0);
@@ -103,9 +99,8 @@ void WfMFieldWidget::buildButtonRow()
     m_ignoreButton = buttons.ignoreButton;
 
     m_buttonsLayout = new QHBoxLayout;
-    setMargins(m_buttonsLayout, layoutMetric(QStringLiteral("MFGlobalButtonsLayoutMargin")));
-    m_buttonsLayout->setSpacing(layoutMetric(QStringLiteral("MFGlobalButtonsLayoutSpacing")));
-    m_buttonsLayout->setObjectName(QStringLiteral("m_buttonsLayout"));
+    shapeLayout(m_buttonsLayout, "MFGlobalButtonsLayoutMargin", "MFGlobalButtonsLayoutSpacing",
+        "m_buttonsLayout");
 
     m_manageButtonsLayout = addButtonPair("m_manageButtonsLayout", m_addButton, m_deleteButton);
 
@@ -139,9 +134,7 @@ QHBoxLayout* WfMFieldWidget::addButtonPair(
     const char* name, QPushButton* first, QPushButton* second)
 {
     auto* const layout = new QHBoxLayout;
-    setMargins(layout, layoutMetric(QStringLiteral("MFButtonLayoutMargin")));
-    layout->setSpacing(layoutMetric(QStringLiteral("MFButtonLayoutSpacing")));
-    layout->setObjectName(QLatin1String(name));
+    shapeLayout(layout, "MFButtonLayoutMargin", "MFButtonLayoutSpacing", name);
     layout->addWidget(first);
     layout->addWidget(second);
     m_buttonsLayout->addLayout(layout);

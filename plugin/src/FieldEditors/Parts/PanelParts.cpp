@@ -12,15 +12,28 @@ void setMargins(QLayout* layout, int margin)
     layout->setContentsMargins(margin, margin, margin, margin);
 }
 
+void shapeLayout(
+    QLayout* layout, const char* marginMetric, const char* spacingMetric, const char* name)
+{
+    setMargins(layout, layoutMetric(QLatin1String(marginMetric)));
+    layout->setSpacing(layoutMetric(QLatin1String(spacingMetric)));
+    layout->setObjectName(QLatin1String(name));
+}
+
+void drawBox(QFrame* frame, const char* lineWidthMetric)
+{
+    frame->setFrameShape(QFrame::Box);
+    frame->setFrameShadow(QFrame::Plain);
+    frame->setLineWidth(layoutMetric(QLatin1String(lineWidthMetric)));
+}
+
 void styleTitleLabel(QLabel* label)
 {
     label->setObjectName(QStringLiteral("m_label"));
     QFont font = label->font();
     font.setPointSize(layoutMetric(QStringLiteral("labelPointSize")));
     label->setFont(font);
-    label->setFrameShape(QFrame::Box);
-    label->setFrameShadow(QFrame::Plain);
-    label->setLineWidth(layoutMetric(QStringLiteral("labelLineWidth")));
+    drawBox(label, "labelLineWidth");
     label->setScaledContents(true);
 }
 

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class QFrame;
 class QLabel;
 class QLayout;
 class QPixmap;
@@ -13,6 +14,13 @@ class QWidget;
 
 /// The same margin, in pixels, on all four sides.
 void setMargins(QLayout* layout, int margin);
+
+/// Gives a layout its margins and its spacing, each by the name of a metric, and its object name.
+void shapeLayout(
+    QLayout* layout, const char* marginMetric, const char* spacingMetric, const char* name);
+
+/// Draws a plain box around a frame; the metric is its line width.
+void drawBox(QFrame* frame, const char* lineWidthMetric);
 
 /// Gives an editor's title its look.
 void styleTitleLabel(QLabel* label);

@@ -22,9 +22,7 @@ QFrame* makePopupFrame(QWidget* panel, QAbstractButton* button)
     new PopupCloser(popup, panel, button);
 
     auto* const grid = new QGridLayout(popup);
-    setMargins(grid, layoutMetric(QStringLiteral("PopupLayoutMargin")));
-    grid->setSpacing(layoutMetric(QStringLiteral("PopupLayoutSpacing")));
-    grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
+    shapeLayout(grid, "PopupLayoutMargin", "PopupLayoutSpacing", "m_popupFrameLayout");
     return popup;
 }
 

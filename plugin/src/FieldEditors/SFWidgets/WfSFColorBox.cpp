@@ -5,6 +5,7 @@
 #include "FittedFont.h"
 #include "LayoutMetrics.h"
 #include "LineEdits.h"
+#include "PanelParts.h"
 #include "ValueComponents.h"
 
 #include <QFrame>
@@ -32,9 +33,8 @@ void WfSFColorBox::load()
     m_colorDisp->setFixedWidth(layoutMetric(QStringLiteral("SFColorDispWidth")));
     displayColor(QColor(0, 0, 0, 255));
 
-    const int margin = layoutMetric(QStringLiteral("SFColorMargin"));
     m_editLayout->setSpacing(layoutMetric(QStringLiteral("SFColorSpacing")));
-    m_editLayout->setContentsMargins(margin, margin, margin, margin);
+    setMargins(m_editLayout, layoutMetric(QStringLiteral("SFColorMargin")));
     m_editLayout->addWidget(m_colorDisp, 0);
     for (const char* letter = m_style.channels; *letter; ++letter)
         addChannel(QLatin1Char(*letter));

@@ -3,6 +3,7 @@
 
 #include "FittedFont.h"
 #include "LayoutMetrics.h"
+#include "PanelParts.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -18,9 +19,8 @@ WfSFColumnBox::WfSFColumnBox(int columns, const ColumnBoxStyle& style, const cha
 void WfSFColumnBox::load()
 {
     WfSFieldWidget::load();
-    const int margin = layoutMetric(QLatin1String(m_style.marginMetric));
     m_editLayout->setSpacing(layoutMetric(QLatin1String(m_style.spacingMetric)));
-    m_editLayout->setContentsMargins(margin, margin, margin, margin);
+    setMargins(m_editLayout, layoutMetric(QLatin1String(m_style.marginMetric)));
     for (int i = 0; i < m_columns; ++i)
         addColumn();
     // In a tall dock a label stays with its input.

@@ -4,7 +4,6 @@
 #include "FieldActions.h"
 #include "FieldButtons.h"
 #include "KnField.h"
-#include "LayoutMetrics.h"
 #include "PanelParts.h"
 #include "Pixmaps.h"
 #include "WfIntSlider.h"
@@ -66,16 +65,11 @@ void WfSFieldWidget::load()
 {
     CrvFieldEditors::load();
 
-    const int frameLineWidth = layoutMetric(QStringLiteral("frameLineWidth"));
     QFrame* const frame = getFrame();
-    frame->setFrameShape(QFrame::Box);
-    frame->setFrameShadow(QFrame::Plain);
-    frame->setLineWidth(frameLineWidth);
+    drawBox(frame, "frameLineWidth");
 
     m_fieldLayout = new QHBoxLayout(frame);
-    setMargins(m_fieldLayout, layoutMetric(QStringLiteral("SFieldLayoutMargin")));
-    m_fieldLayout->setSpacing(layoutMetric(QStringLiteral("SFieldLayoutSpacing")));
-    m_fieldLayout->setObjectName(QStringLiteral("SFieldLayout"));
+    shapeLayout(m_fieldLayout, "SFieldLayoutMargin", "SFieldLayoutSpacing", "SFieldLayout");
 
     styleTitleLabel(m_label);
     m_fieldLayout->addWidget(m_label, 0);
@@ -84,22 +78,18 @@ void WfSFieldWidget::load()
     m_fieldLayout->addItem(m_labelSpacer);
 
     m_editionAreaLayout = new QHBoxLayout;
-    setMargins(m_editionAreaLayout, layoutMetric(QStringLiteral("SFEditionAreaLayMargin")));
-    m_editionAreaLayout->setSpacing(layoutMetric(QStringLiteral("SFEditionAreaLaySpacing")));
-    m_editionAreaLayout->setObjectName(QStringLiteral("SFieldEditionAreaLayout"));
+    shapeLayout(m_editionAreaLayout, "SFEditionAreaLayMargin", "SFEditionAreaLaySpacing",
+        "SFieldEditionAreaLayout");
 
     if (m_editionFrame) {
         m_editLayout = static_cast<QBoxLayout*>(m_editionFrame->layout());
     } else {
         m_editionFrame = new QFrame(frame);
         m_editionFrame->setObjectName(QStringLiteral("m_editionFrame"));
-        m_editionFrame->setFrameShape(QFrame::Box);
-        m_editionFrame->setFrameShadow(QFrame::Plain);
-        m_editionFrame->setLineWidth(frameLineWidth);
+        drawBox(m_editionFrame, "frameLineWidth");
         m_editLayout = new QHBoxLayout(m_editionFrame);
-        setMargins(m_editLayout, layoutMetric(QStringLiteral("SFieldEditLayoutMargin")));
-        m_editLayout->setSpacing(layoutMetric(QStringLiteral("SFieldEditLayoutSpacing")));
-        m_editLayout->setObjectName(QStringLiteral("editLayout"));
+        shapeLayout(
+            m_editLayout, "SFieldEditLayoutMargin", "SFieldEditLayoutSpacing", "editLayout");
     }
     m_editionAreaLayout->addWidget(m_editionFrame, 0);
 
@@ -107,9 +97,7 @@ void WfSFieldWidget::load()
     m_editionAreaLayout->addItem(m_editionSpacer);
 
     m_buttonLayout = new QHBoxLayout;
-    setMargins(m_buttonLayout, layoutMetric(QStringLiteral("SFButtonLayoutMargin")));
-    m_buttonLayout->setSpacing(layoutMetric(QStringLiteral("SFButtonLayoutSpacing")));
-    m_buttonLayout->setObjectName(QStringLiteral("SFieldLayout"));
+    shapeLayout(m_buttonLayout, "SFButtonLayoutMargin", "SFButtonLayoutSpacing", "SFieldLayout");
 
     const FieldButtons buttons = makeFieldButtons(frame, m_defaultPixmap, m_ignorePixmap);
     m_defaultButton = buttons.defaultButton;

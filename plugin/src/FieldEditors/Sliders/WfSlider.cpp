@@ -2,6 +2,7 @@
 #include "WfSlider.h"
 
 #include "CrvFieldEditors.h"
+#include "PanelParts.h"
 #include "SliderMath.h"
 #include "UnwrittenText.h"
 
@@ -43,7 +44,7 @@ WfSlider::WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row
 
     const LayoutGaps& gaps = m_inTable == InEditor ? fieldGaps : cellGaps;
     m_layout = new QHBoxLayout(this);
-    m_layout->setContentsMargins(gaps.margin, gaps.margin, gaps.margin, gaps.margin);
+    setMargins(m_layout, gaps.margin);
     m_layout->setSpacing(gaps.spacing);
     m_layout->setObjectName(QStringLiteral("corvaneslider"));
 
