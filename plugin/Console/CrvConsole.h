@@ -22,7 +22,8 @@ class QDockWidget;
 /// A message from another thread crosses as a ConsoleEvent. When more arrive than a turn of the
 /// event loop has time for, the rest waits and is shown in slices, between which the window takes
 /// input; threads that print wait a little for a view that is far behind (see PrintBrake), those
-/// that report an error never do. The messages of one thread keep their order, and none is lost
+/// that report an error never do. The messages of one thread keep their order, except that
+/// what the user interface thread prints overtakes errors that it has just reported. None is lost
 /// except those still on their way at `unload`. `deactivate` drops nothing: the view lives on, and
 /// what was printed before appears in later slices.
 class CrvConsole : public CrvExtension, public Ui::m_consoleFrame {

@@ -32,6 +32,18 @@ public:
         QTest::mouseClick(child<QAbstractButton>(name), Qt::LeftButton);
         settle();
     }
+    /// Changes an array as another part of the program would: a row that comes before another one
+    /// is a + with its number, one that goes a -, and the rest is the text of the whole.
+    static void change(KnField& field, const QString& change)
+    {
+        auto& array = static_cast<KnMField&>(field);
+        if (change.startsWith(u'+'))
+            array.insertValues(change.mid(1).toInt(), 1);
+        else if (change.startsWith(u'-'))
+            array.removeValues(change.mid(1).toInt(), 1);
+        else
+            array.set(change.toLatin1().constData());
+    }
     /// A key where the focus is.
     static void press(int key)
     {
@@ -43,7 +55,7 @@ public:
 /// Base of the tests of arrays: a new fixture for each test function.
 class ArrayTest : public QObject {
     Q_OBJECT
-private Q_SLOTS:
+protected Q_SLOTS:
     void init()
     {
         failOnWarnings();

@@ -170,6 +170,12 @@ private Q_SLOTS:
             { "[ 1, 2, 3 ]", "[ 2, 3, 4 ]", "[ 2, 3, 4 ]" }, // one gone, one come
             { "[ 1, 2, 3 ]", "[ 1, 3, 4 ]", "[ 1, 3, 4 ]" }, // gone, one come
             { "[ 1, 2, 3 ]", "[]", "[]" },
+            // Equal rows that come and go.
+            { "[ 0, 0, 0 ]", "+0", "[ 0, 0, 0, 0 ]" },
+            { "[ 0, 0, 0 ]", "+2", "[ 0, 55, 0, 0 ]" },
+            { "[ 0, 0, 0 ]", "-0", "[ 0, 0 ]" },
+            { "[ 0, 0, 0 ]", "-1", "[ 0, 0 ]" },
+            { "[ 0, 0, 0 ]", "-2", "[ 0, 55 ]" },
         });
     }
 
@@ -181,7 +187,7 @@ private Q_SLOTS:
             for (const bool isRefreshed : { true, false }) {
                 KnField& field = m_fixture->show(QLatin1String(type), start);
                 const QPointer<QWidget> line = m_fixture->table().type(1, 0, QStringLiteral("55"));
-                field.set(outside.toLatin1().constData());
+                ArrayFixture::change(field, outside);
                 if (isRefreshed)
                     EditorFixture::settle();
                 // Also without a refresh the end of the edit has to look at the rows.

@@ -91,6 +91,7 @@ private Q_SLOTS:
                 "[ 0 0 1, 1 0 0, 1 0 0 ]" },
             { "one gone, one come", "[ 0 0 0, 1 0 0 ]", "[ 1 0 0, 0 0 1 ]", "[ 1 0 0, 0 0 1 ]" },
             { "written in place", "[ 0 0 0, 1 0 0 ]", "[ 0 0 0, 1 1 0 ]", "[ 0 0 0, 0 1 0 ]" },
+            { "equal one gone above", "[ 1 0 0, 1 0 0, 1 0 0 ]", "-0", "[ 1 0 0, 1 0 0 ]" },
             { "others written", "[ 0 0 0, 1 0 0 ]", "[ 0 0 1, 1 0 0 ]", "[ 0 0 1, 0 1 0 ]" },
         });
     }
@@ -98,7 +99,6 @@ private Q_SLOTS:
     void aColorReachesItsRowOrNone()
     {
         const auto [name, start, outside, end] = textRow<4>();
-        const QByteArray written = outside.toLatin1();
         const bool isOtherShown = start == outside;
         ArrayFixture& fixture = *m_fixture;
         KnMFColor& other = fixture.otherNode().MFColor;
@@ -106,14 +106,15 @@ private Q_SLOTS:
         KnField& field = fixture.show(QStringLiteral("MFColor"), start);
         QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
             dialog->setCurrentColor(Qt::green);
-            EditorFixture::write(&field, written.constData());
+            ArrayFixture::change(field, outside);
+            EditorFixture::settle();
             if (isOtherShown)
                 fixture.select(&other);
             QTest::keyClick(dialog, Qt::Key_Return);
         }));
         QCOMPARE(EditorFixture::text(&field), end);
         QCOMPARE(EditorFixture::text(&other), QStringLiteral("[ 0 0 0, 0 0 0 ]"));
-        QCOMPARE(fixture.commands(), outside == end ? 0 : 1);
+        QCOMPARE(fixture.commands(), end.contains(u"0 1 0") ? 1 : 0);
     }
 
     void theSwatchIsNoCellToTypeIn()

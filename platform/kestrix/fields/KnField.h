@@ -42,6 +42,7 @@ protected:
 private:
     friend class KnFieldOwner;
     friend class KnFieldSensor;
+    friend class KnMField;
 
     KnFieldOwner* m_owner = nullptr; // not owned; it has this field as a member
     std::vector<KnFieldSensor*> m_sensors; // not owned

@@ -45,9 +45,14 @@ protected:
     /// detached by now; it may be destroyed here, and others with it, but none may be attached to
     /// the field, and neither field nor node may be used.
     virtual void fieldDestroyed() { }
+    /// The watched array has replaced `removed` rows from `start` on by `inserted` others; a row
+    /// that is written in place counts as both. Called at once, from inside the write: sensors may
+    /// neither come nor go here, and no field may be written.
+    virtual void rowsReplaced(int /*start*/, int /*removed*/, int /*inserted*/) { }
 
 private:
     friend class KnField;
+    friend class KnMField;
 
     KnField* m_field = nullptr; // not owned; a field that goes away detaches its sensors
 };

@@ -28,4 +28,9 @@ public:
     /// Reports that `num` rows from `start` on have changed; a `reason` of 1 means that rows were
     /// added. This touches the field.
     void valueChanged(int start, int num, int reason);
+
+protected:
+    /// Tells the sensors at once which rows were written, came or went; see
+    /// KnFieldSensor::rowsReplaced.
+    void reportRows(int start, int removed, int inserted);
 };

@@ -37,8 +37,12 @@ bool KnMFieldOf<FieldValue>::resize(std::int64_t num)
 template <class FieldValue>
 void KnMFieldOf<FieldValue>::setNum(int num)
 {
-    if (resize(std::max(num, 0)))
-        touch();
+    const int old = getNum();
+    if (!resize(std::max(num, 0)))
+        return;
+    const int kept = std::min(old, getNum());
+    reportRows(kept, old - kept, getNum() - kept);
+    touch();
 }
 
 template <class FieldValue>
@@ -48,11 +52,14 @@ void KnMFieldOf<FieldValue>::set1Value(int row, const Value& value)
         return;
     if (row < getNum()) {
         m_values[static_cast<std::size_t>(row)] = value;
+        reportRows(row, 1, 1);
     } else {
         Value copy = value; // it may be one of our own rows, which are about to move
+        const int old = getNum();
         if (!resize(std::int64_t { row } + 1))
             return;
         m_values.back() = std::move(copy);
+        reportRows(old, 0, getNum() - old);
     }
     touch();
 }
@@ -63,9 +70,12 @@ void KnMFieldOf<FieldValue>::setValues(int start, int num, const Value* values)
     if (start < 0 || num <= 0)
         return;
     const std::vector<Value> copy(values, values + num); // of what may be our own rows, too
-    if (!resize(std::max<std::int64_t>(getNum(), std::int64_t { start } + num)))
+    const int old = getNum();
+    if (!resize(std::max<std::int64_t>(old, std::int64_t { start } + num)))
         return;
     std::copy(copy.begin(), copy.end(), m_values.begin() + start);
+    const int first = std::min(start, old);
+    reportRows(first, std::min(start + num, old) - first, start + num - first);
     touch();
 }
 
@@ -77,8 +87,9 @@ void KnMFieldOf<FieldValue>::insertValues(int start, int num)
     const int old = getNum();
     if (!resize(std::int64_t { old } + num))
         return;
-    const auto gap = m_values.begin() + std::clamp(start, 0, old);
-    std::rotate(gap, m_values.begin() + old, m_values.end());
+    start = std::clamp(start, 0, old);
+    std::rotate(m_values.begin() + start, m_values.begin() + old, m_values.end());
+    reportRows(start, 0, num);
     touch();
 }
 
@@ -91,6 +102,7 @@ void KnMFieldOf<FieldValue>::removeValues(int start, int num)
     if (start >= end)
         return;
     m_values.erase(m_values.begin() + start, m_values.begin() + end);
+    reportRows(start, end - start, 0);
     touch();
 }
 
@@ -147,7 +159,9 @@ bool KnMFieldOf<FieldValue>::set(const KbString& text)
             reader.failureOffset(), reader.expected());
         return false;
     }
+    const int old = getNum();
     m_values = std::move(values);
+    reportRows(0, old, getNum());
     touch();
     return true;
 }

@@ -78,6 +78,7 @@ void CellEditing::letGo(const QWidget* editor)
         return;
     // Closing moves the focus, and focusMoved would end the edit a second time.
     m_editor = nullptr;
+    m_row.forget();
     disconnect(m_focusChanges);
 }
 
@@ -126,12 +127,12 @@ QString CellEditing::cellText() const
     return m_widget->getCellText(m_index.row(), m_index.column());
 }
 
-/// Remembers the text of the cell, and the rows that tell later whether it has moved.
+/// Remembers the text of the cell, and which row it is in.
 void CellEditing::look()
 {
     m_text = cellText();
-    if (const KnMField* const field = m_widget->shownField())
-        m_rows.look(*field);
+    if (KnMField* const field = m_widget->shownField())
+        m_row.look(*field, m_index.row());
 }
 
 void CellEditing::cellWritten()
@@ -146,10 +147,8 @@ bool CellEditing::follow()
     const KnMField* const field = m_widget->shownField();
     if (!editor || !field)
         return false;
-    const bool isSameCount = field->getNum() == m_rows.count();
-    const bool isSameValue = isSameCount && cellText() == m_text;
-    const bool isPlaceInDoubt = !isSameCount || (!isSameValue && isBusy(editor));
-    if (isPlaceInDoubt && !m_rows.isSamePlace(*field, m_index.row())) {
+    const bool isSameValue = field->getNum() == m_row.count() && cellText() == m_text;
+    if (!m_row.isInPlace(isSameValue || !isBusy(editor))) {
         drop();
         return false;
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "SeenRows.h"
+#include "TrackedRow.h"
 
 #include <QAbstractItemDelegate>
 #include <QPersistentModelIndex>
@@ -80,6 +80,6 @@ private:
     QPointer<QWidget> m_editor; // child of the table's viewport
     QPersistentModelIndex m_index; // of the editor's cell
     QString m_text; // of the cell when it was last looked at
-    SeenRows m_rows; // of the field, at that time
+    TrackedRow m_row; // of the editor's cell, since that time
     QMetaObject::Connection m_focusChanges; // while an editor is open
 };

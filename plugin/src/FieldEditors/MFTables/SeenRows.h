@@ -7,8 +7,8 @@
 
 class KnMField;
 
-/// Remembers what the first rows of an array held. A field reports that it has changed, but not
-/// which rows came or went; this tells whether a row that is being edited is still where it was.
+/// Remembers what the first rows of an array held. Where rows are written as a whole, the field
+/// can't report which of them came or went; this tells whether a row is still where it was.
 class SeenRows {
 public:
     /// How many rows are looked at, however long the array is.

@@ -6,7 +6,7 @@
 #include "KbVec.h"
 #include "KnMField.h"
 #include "RowColor.h"
-#include "SeenRows.h"
+#include "TrackedRow.h"
 #include "WfMFColorTableItemDelegate.h"
 #include "WfMFieldWidget.h"
 
@@ -26,12 +26,12 @@ WfMFColorTable::WfMFColorTable(WfMFieldWidget* widget, QWidget* parent, const ch
 
 void WfMFColorTable::getColorFromEditor(int row, int col)
 {
-    const KnMField* const shown = field();
+    KnMField* const shown = field();
     if (col != 0 || !shown)
         return;
     const RowColor before = rowColor(*m_widget, row);
-    SeenRows rows;
-    rows.look(*shown);
+    TrackedRow tracked;
+    tracked.look(*shown, row);
     QColorDialog::ColorDialogOptions options;
     options.setFlag(QColorDialog::ShowAlphaChannel, before.hasAlpha);
     const QColor chosen
@@ -42,8 +42,9 @@ void WfMFColorTable::getColorFromEditor(int row, int col)
     // neither another field nor another row that has moved to its place.
     if (field() != shown)
         return;
-    const bool isSameRow = shown->getNum() == rows.count() && rowColor(*m_widget, row) == before;
-    if (!isSameRow && !rows.isSamePlace(*shown, row))
+    const bool isSameValue
+        = shown->getNum() == tracked.count() && rowColor(*m_widget, row) == before;
+    if (!tracked.isInPlace(isSameValue))
         return;
     KbVec4f color;
     colorChannels(chosen, &color[0], KbVec4f::dimension);

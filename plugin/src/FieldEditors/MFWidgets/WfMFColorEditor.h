@@ -4,6 +4,7 @@
 #include "CrvMFSetFieldValueCommand.h"
 #include "WfMFVectorWidget.h"
 
+#include <algorithm>
 #include <memory>
 
 /// What both editors of arrays of colours share: a column that shows each colour, in front of the

@@ -6,6 +6,8 @@
 #include "ValueComponents.h"
 #include "WfSFColorBox.h"
 
+#include <algorithm>
+
 /// What both colour editors share beyond their widgets: the road from the field and back. `Traits`
 /// has
 ///   `Field`: the field class,
