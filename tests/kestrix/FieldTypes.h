@@ -6,7 +6,7 @@
 #include "KnReadError.h"
 #include "KnSFEnum.h"
 
-#include <QByteArrayList>
+#include <QTest>
 
 #include <memory>
 
@@ -19,6 +19,14 @@ inline const QByteArrayList fieldTypeNames {
 #undef KN_SFIELD_NAME
 #undef KN_MFIELD_NAME
 };
+
+/// The data of a test function that takes nothing but the names of its rows.
+inline void addNameRows(const QByteArrayList& names)
+{
+    QTest::addColumn<char>("unused");
+    for (const QByteArray& name : names)
+        QTest::newRow(name.constData()) << '\0';
+}
 
 inline KnType typeOf(const QByteArray& name)
 {

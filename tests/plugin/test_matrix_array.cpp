@@ -158,18 +158,16 @@ private Q_SLOTS:
         QTableWidget* const table = matrices.child<QTableWidget>("m_table");
         const auto measure
             = [table](const QString& part) { return table->fontMetrics().horizontalAdvance(part); };
-        for (const int rows : { 1, 18, 5000 }) {
-            // The shortest text that a matrix has.
-            matrices.node().MFMatrix.setNum(0);
-            matrices.node().MFMatrix.setNum(rows);
-            EditorFixture::settle();
-            const QString whole = matrices.text();
-            for (const int width : { 1, 400, 513, 3000 }) {
-                table->setColumnWidth(0, width);
-                const QString text = matrices.widget.getCellText(rows - 1, 0);
-                QVERIFY(whole.startsWith(text) && text.size() < qMax(512, width) + 300);
-                QCOMPARE(cellText(text, width - 4, measure), cellText(whole, width - 4, measure));
-            }
+        // The shortest text that a matrix has.
+        matrices.node().MFMatrix.setNum(0);
+        matrices.node().MFMatrix.setNum(5000);
+        EditorFixture::settle();
+        const QString whole = matrices.text();
+        for (const int width : { 1, 400, 513, 3000 }) {
+            table->setColumnWidth(0, width);
+            const QString text = matrices.widget.getCellText(4999, 0);
+            QVERIFY(whole.startsWith(text) && text.size() < qMax(512, width) + 300);
+            QCOMPARE(cellText(text, width - 4, measure), cellText(whole, width - 4, measure));
         }
     }
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorCase.h"
+#include "TextRows.h"
 #include "WindowInput.h"
 
 #include <QAbstractButton>
@@ -47,38 +48,34 @@ private Q_SLOTS:
 
     void thePopupOpensBesideItsButton_data()
     {
-        QTest::addColumn<QPointF>("place"); // of the button, in parts of the screen
-        QTest::newRow("SFBox2f") << QPointF(0.3, 0.3);
-        QTest::newRow("SFMatrix") << QPointF(0.97, 0.97);
+        // Where the button is, in parts of the screen.
+        addTextRows({ { "SFBox2f", "0.3" }, { "SFMatrix", "0.97" } });
     }
     void thePopupOpensBesideItsButton()
     {
-        QFETCH(QPointF, place);
-        Popup popup(QTest::currentDataTag());
+        const auto [type, part] = textRow<2>();
+        const bool isAtEnd = part == u"0.97";
+        Popup popup(qPrintable(type));
         QWidget& window = popup.shell().window();
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-        const QPoint target(int(place.x() * screen.width()), int(place.y() * screen.height()));
+        const QPoint target = QPoint(screen.width(), screen.height()) * part.toDouble();
         window.move(window.pos() + target - popup.button->mapToGlobal(QPoint()));
         QTRY_VERIFY((popup.button->mapToGlobal(QPoint()) - target).manhattanLength() < 40);
         QVERIFY(popup.open());
 
         QPoint expected = popup.button->mapToGlobal(popup.button->rect().bottomRight());
         const QSize room = popup.frame->size() + popup.button->size();
-        expected -= QPoint(place.x() > 0.5 ? room.width() : 0, place.y() > 0.5 ? room.height() : 0);
+        if (isAtEnd)
+            expected -= QPoint(room.width(), room.height());
         QTRY_COMPARE(popup.frame->windowHandle()->framePosition(), expected);
         QVERIFY(QRect(QPoint(), screen).contains(popup.frame->geometry()));
     }
 
-    void thePopupOpensForTyping_data()
-    {
-        QTest::addColumn<bool>("byKey");
-        QTest::newRow("Return") << true;
-        QTest::newRow("click") << false;
-    }
+    void thePopupOpensForTyping_data() { addTextRows({ { "Return" }, { "click" } }); }
     /// The button is the panel's tab stop, and the first digit typed counts.
     void thePopupOpensForTyping()
     {
-        QFETCH(bool, byKey);
+        const bool byKey = textRow<1>()[0] == u"Return";
         Popup popup("SFBox3s");
         for (int i = 0; i < 8 && !popup.button->hasFocus(); ++i)
             popup.press(Qt::Key_Tab);

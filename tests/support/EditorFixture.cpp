@@ -4,7 +4,6 @@
 #include "CrvPluginsManager.h"
 #include "CrvServices.h"
 #include "CrvStrings.h"
-#include "KnSensorQueue.h"
 
 #include <QApplication>
 #include <QRegularExpression>
@@ -56,14 +55,6 @@ CrvFieldEditors* EditorFixture::editor() const
             return editor;
     }
     return nullptr;
-}
-
-void EditorFixture::settle()
-{
-    do {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    } while (!KnSensorQueue::getInstance().isEmpty());
 }
 
 QString EditorFixture::text(const KnField* field)

@@ -3,20 +3,11 @@
 
 #include "CrvExtension.h"
 #include "CrvStrings.h"
+#include "KnSensorQueue.h"
 
+#include <QCoreApplication>
 #include <QDockWidget>
 #include <QToolBar>
-
-namespace {
-
-QString call(const char* operation, const QString& what, int number)
-{
-    return QStringLiteral("%1 %2 %3").arg(QLatin1String(operation), what).arg(number);
-}
-
-QString nameOf(const CrvExtension* extension) { return toQString(extension->getName()); }
-
-} // namespace
 
 TestShell::TestShell()
 {
@@ -27,7 +18,7 @@ TestShell::TestShell()
 
 void TestShell::addDockWidget(QDockWidget* dock, int area)
 {
-    m_calls << call("addDockWidget", dock->windowTitle(), area);
+    m_calls << QStringLiteral("addDockWidget %1 %2").arg(dock->windowTitle()).arg(area);
     m_window.addDockWidget(static_cast<Qt::DockWidgetArea>(area), dock);
 }
 
@@ -40,19 +31,20 @@ void TestShell::removeDockWidget(QDockWidget* dock)
 
 void TestShell::registerExtension(CrvExtension* extension, int kind)
 {
-    m_calls << call("registerExtension", nameOf(extension), kind);
+    m_calls
+        << QStringLiteral("registerExtension %1 %2").arg(toQString(extension->getName())).arg(kind);
     m_extensions << extension;
 }
 
 void TestShell::unregisterExtension(CrvExtension* extension)
 {
-    m_calls << QStringLiteral("unregisterExtension ") + nameOf(extension);
+    m_calls << QStringLiteral("unregisterExtension ") + toQString(extension->getName());
     m_extensions.removeAll(extension);
 }
 
 void TestShell::addToolBar(QToolBar* toolBar, int area)
 {
-    m_calls << call("addToolBar", toolBar->windowTitle(), area);
+    m_calls << QStringLiteral("addToolBar %1 %2").arg(toolBar->windowTitle()).arg(area);
     m_window.addToolBar(static_cast<Qt::ToolBarArea>(area), toolBar);
 }
 
@@ -61,4 +53,12 @@ void TestShell::removeToolBar(QToolBar* toolBar)
     m_calls << QStringLiteral("removeToolBar ") + toolBar->windowTitle();
     m_window.removeToolBar(toolBar);
     toolBar->setParent(nullptr);
+}
+
+void TestShell::settle()
+{
+    do {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    } while (!KnSensorQueue::getInstance().isEmpty());
 }

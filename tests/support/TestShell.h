@@ -18,6 +18,9 @@ public:
     void addToolBar(QToolBar* toolBar, int area) override;
     void removeToolBar(QToolBar* toolBar) override;
 
+    /// Runs the posted events and the kernel's sensors until none is left.
+    static void settle();
+
     QMainWindow& window() { return m_window; }
     /// Such as "addDockWidget Field Editor 2".
     QStringList& calls() { return m_calls; }
