@@ -24,7 +24,7 @@ bool inDialogOpenedBy(Open open, Act act)
     });
     timer.start(0);
     open();
-    EditorFixture::settle();
+    TestShell::settle();
     return closed;
 }
 

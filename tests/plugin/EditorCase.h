@@ -3,8 +3,6 @@
 
 #include "EditorFixture.h"
 
-#include <vector>
-
 /// What the common road needs to know of one editor. The field is that of the test node which is
 /// named after its type.
 struct EditorCase {
@@ -13,11 +11,12 @@ struct EditorCase {
     const char* start; ///< text that the field gets first
     const char* line = nullptr; ///< object name of the lines, of which the last is edited
     const char* typed = nullptr; ///< into the line; Return follows
-    void (*act)(EditorFixture& fixture) = nullptr; ///< edits where there is no such line
+    void (*act)(EditorFixture& fixture) = nullptr; ///< edits otherwise than by typing
     const char* edited; ///< text of the field after the edit
     int commands = 1; ///< that the edit puts on the stack; 0 for an edit that can't be undone
     const char* outside; ///< text written from outside, while the editor is shown
-    QString (*read)(EditorFixture& fixture) = nullptr; ///< null reads the lines
+    QString (*read)(EditorFixture& fixture)
+        = nullptr; ///< null reads the lines, or the cells of an array
     // What a person reads in the inputs; null if it is the text of the field.
     const char* shownAtStart = nullptr;
     const char* shownEdited = nullptr;
@@ -32,17 +31,5 @@ struct EditorCase {
 
 Q_DECLARE_METATYPE(EditorCase)
 
-std::vector<EditorCase> singleValueCases();
-std::vector<EditorCase> compoundCases();
-std::vector<EditorCase> arrayCases();
-/// Makes them the rows of a test, in a column "row".
-void addRows(std::initializer_list<std::vector<EditorCase>> cases);
-
-// Input and reading that the cases share.
-
-/// Puts `text` into a line edit as a person would, in place of what it holds; Return follows.
-void typeInto(QWidget* lineEdit, const QString& text);
-/// The same with the last of the lines of that name.
-void typeIntoLast(EditorFixture& fixture, const char* objectName, const char* text);
-/// The texts of line edits of the editor shown, by object name, in the order of their creation.
-QString linesShown(EditorFixture& fixture, const char* objectName);
+/// Makes the cases of all editors the rows of a test, in a column "row".
+void addEditorRows(bool withArrays = true);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "ArrayFixture.h"
 #include "CrvStrings.h"
+#include "EditorFixture.h"
 #include "SliderInput.h"
 #include "TextRows.h"
 
@@ -31,7 +31,7 @@ public:
 } // namespace
 
 /// What cell editors show and write, and the arrays that they belong to.
-class TestArrayEditors : public ArrayTest {
+class TestArrayEditors : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
     void openingWritesNothing_data()
@@ -50,29 +50,29 @@ private Q_SLOTS:
     void openingWritesNothing()
     {
         const auto [type, values] = textRow<2>();
-        const KnField& field = m_fixture->show(type, values);
+        const KnField& field = show(type, values);
         for (int row = 0; row < 4; ++row) {
-            m_fixture->table().open(row, 0);
-            EditorFixture::settle();
-            m_fixture->press(row % 2 == 0 ? Qt::Key_Return : Qt::Key_Escape);
-            QVERIFY(!m_fixture->table().openEditor());
+            table().open(row, 0);
+            settle();
+            press(row % 2 == 0 ? Qt::Key_Return : Qt::Key_Escape);
+            QVERIFY(!table().openEditor());
         }
-        QCOMPARE(EditorFixture::text(&field), values);
-        QCOMPARE(m_fixture->commands(), 0);
+        QCOMPARE(text(&field), values);
+        QCOMPARE(commands(), 0);
     }
 
     void aDragWritesTheCell()
     {
-        m_fixture->show("MFFloat", "[ 0, 0 ]");
-        const KnMFFloat& field = m_fixture->node().MFFloat;
-        QWidget* const editor = m_fixture->table().open(1, 0);
+        show("MFFloat", "[ 0, 0 ]");
+        const KnMFFloat& field = node().MFFloat;
+        QWidget* const editor = table().open(1, 0);
         SliderInput scale(editor->findChild<QSlider*>());
         scale.press();
         scale.moveBy(30);
-        EditorFixture::settle();
+        settle();
         const float moved = field[1];
         QVERIFY(moved > 0);
-        QCOMPARE(m_fixture->table().openEditor(), editor);
+        QCOMPARE(table().openEditor(), editor);
 
         // With the check box clear the field waits for the release; a selection in the midst of
         // the drag counts as one.
@@ -80,11 +80,11 @@ private Q_SLOTS:
         scale.moveBy(10);
         QCOMPARE(field[1], moved);
         const QString shown = TableInput::line(editor)->text();
-        m_fixture->select(&m_fixture->otherNode().MFFloat);
+        select(&otherNode().MFFloat);
         QVERIFY(field[1] > moved);
         QCOMPARE(QString::number(static_cast<double>(field[1]), 'f', 6), shown);
-        QCOMPARE(m_fixture->otherNode().MFFloat.getNum(), 0);
-        QCOMPARE(m_fixture->commands(), 0);
+        QCOMPARE(otherNode().MFFloat.getNum(), 0);
+        QCOMPARE(commands(), 0);
     }
 
     void ratiosStayRatiosInACell()
@@ -92,51 +92,51 @@ private Q_SLOTS:
         auto* const material = new KnMaterial;
         material->ref();
         material->shininess.set("[ 0.25, 0.5 ]");
-        m_fixture->select(&material->shininess);
-        m_fixture->table().type(0, 0, QStringLiteral("7"));
-        m_fixture->table().click(1, 0);
-        QCOMPARE(EditorFixture::text(&material->shininess), QStringLiteral("[ 0.25, 0.5 ]"));
-        const auto* slider = static_cast<WfRealSlider*>(m_fixture->table().open(0, 0));
+        select(&material->shininess);
+        table().type(0, 0, QStringLiteral("7"));
+        table().click(1, 0);
+        QCOMPARE(text(&material->shininess), QStringLiteral("[ 0.25, 0.5 ]"));
+        const auto* slider = static_cast<WfRealSlider*>(table().open(0, 0));
         QVERIFY(slider->isBounded() && slider->getMaximum() == 1.0);
-        m_fixture->select(nullptr);
+        select(nullptr);
         material->unref();
 
         // The same editor object, for a field of any other node.
-        KnField& field = m_fixture->show("MFFloat", "[ 0.25 ]");
-        slider = static_cast<WfRealSlider*>(m_fixture->table().open(0, 0));
+        KnField& field = show("MFFloat", "[ 0.25 ]");
+        slider = static_cast<WfRealSlider*>(table().open(0, 0));
         QVERIFY(!slider->isBounded() && slider->getMaximum() == 10.0);
-        m_fixture->table().typeInto(0, 0, QStringLiteral("25"));
-        QCOMPARE(EditorFixture::text(&field), QStringLiteral("[ 25 ]"));
+        table().typeInto(0, 0, QStringLiteral("25"));
+        QCOMPARE(text(&field), QStringLiteral("[ 25 ]"));
     }
 
     void anOpenEditorFollowsTheField()
     {
-        KnField& field = m_fixture->show("MFInt32", "[ 1, 2, 3 ]");
-        const QPointer<QWidget> editor = m_fixture->table().open(1, 0);
-        EditorFixture::write(&field, "[ 1, 8, 4 ]");
+        KnField& field = show("MFInt32", "[ 1, 2, 3 ]");
+        const QPointer<QWidget> editor = table().open(1, 0);
+        write(&field, "[ 1, 8, 4 ]");
         QCOMPARE(TableInput::line(editor)->text(), QStringLiteral("8"));
-        EditorFixture::write(&field, "[ 7, 8, 4, 5 ]");
+        write(&field, "[ 7, 8, 4, 5 ]");
         QTRY_VERIFY(!editor);
     }
 
     void everythingThatUnicodeHoldsSurvives()
     {
-        const KnMFString& field = m_fixture->node().MFString;
-        m_fixture->show("MFString", "[ \"a\\n\\\"\", \"b\" ]");
+        const KnMFString& field = node().MFString;
+        show("MFString", "[ \"a\\n\\\"\", \"b\" ]");
         const QString text = QString::fromUtf8("\xF0\x9F\x98\x80 e\xCC\x81 \xD7\xA9 \xE2\x82\xAC");
-        m_fixture->table().type(1, 0, QString())->setText(text);
-        m_fixture->press(Qt::Key_Period);
-        m_fixture->press(Qt::Key_Return);
-        m_fixture->undo();
+        table().type(1, 0, QString())->setText(text);
+        press(Qt::Key_Period);
+        press(Qt::Key_Return);
+        undo();
         QCOMPARE(toQString(field[1]), QStringLiteral("b"));
-        m_fixture->redo();
+        redo();
         QCOMPARE(toQString(field[1]), text + u'.');
         // The empty text is a value as any other.
-        m_fixture->table().open(0, 0);
-        m_fixture->press(Qt::Key_Backspace);
-        m_fixture->press(Qt::Key_Return);
+        table().open(0, 0);
+        press(Qt::Key_Backspace);
+        press(Qt::Key_Return);
         QCOMPARE(toQString(field[0]), QString());
-        m_fixture->undo();
+        undo();
         QCOMPARE(toQString(field[0]), QStringLiteral("a\n\""));
     }
 
@@ -153,23 +153,22 @@ private Q_SLOTS:
     void anEditGoesBackBitForBit()
     {
         const auto [type, values] = textRow<2>();
-        ArrayFixture& fixture = *m_fixture;
-        KnField& field = fixture.show(type, values);
-        const QString before = EditorFixture::text(&field);
+        KnField& field = show(type, values);
+        const QString before = text(&field);
         for (const char* button : { "", "m_addButton", "m_deleteButton", "m_upButton" }) {
-            fixture.table()->setCurrentCell(2, 1);
-            fixture.child<QSpinBox>("m_accessBox")->setValue(3);
+            table()->setCurrentCell(2, 1);
+            child<QSpinBox>("m_accessBox")->setValue(3);
             if (*button)
-                fixture.clickButton(button);
+                clickButton(button);
             else
-                fixture.table().typeInto(1, 1, QStringLiteral("0.25"));
-            const QString edited = EditorFixture::text(&field);
+                table().typeInto(1, 1, QStringLiteral("0.25"));
+            const QString edited = text(&field);
             QVERIFY(edited != before);
-            fixture.undo();
-            QCOMPARE(EditorFixture::text(&field), before);
-            fixture.redo();
-            QCOMPARE(EditorFixture::text(&field), edited);
-            fixture.undo();
+            undo();
+            QCOMPARE(text(&field), before);
+            redo();
+            QCOMPARE(text(&field), edited);
+            undo();
         }
     }
 
@@ -195,15 +194,15 @@ private Q_SLOTS:
     void typing()
     {
         const auto [type, start, typed, end] = textRow<4>();
-        const KnField& field = m_fixture->show(type, start);
-        QLineEdit* const line = TableInput::line(m_fixture->table().open(0, 1));
+        const KnField& field = show(type, start);
+        QLineEdit* const line = TableInput::line(table().open(0, 1));
         if (!typed.isEmpty())
             line->selectAll();
         QTest::keyClicks(line, typed);
-        m_fixture->press(Qt::Key_Return);
-        QCOMPARE(EditorFixture::text(&field), end);
+        press(Qt::Key_Return);
+        QCOMPARE(text(&field), end);
         const bool isShown = typed.isEmpty() || typed == u"0.123457";
-        QCOMPARE(m_fixture->commands(), start != end || isShown ? 1 : 0);
+        QCOMPARE(commands(), start != end || isShown ? 1 : 0);
     }
 
     void noMoreRowsAreAskedForThanShown()

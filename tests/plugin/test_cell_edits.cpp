@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "ArrayFixture.h"
+#include "EditorFixture.h"
 #include "TextRows.h"
 #include "WindowInput.h"
 
@@ -9,7 +9,7 @@
 #include <QSpinBox>
 
 /// What ends the edit of a cell and what doesn't, and where the typed text goes.
-class TestCellEdits : public ArrayTest {
+class TestCellEdits : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
     void leavingACell_data()
@@ -35,15 +35,14 @@ private Q_SLOTS:
     {
         QFETCH(QString, type);
         QFETCH(QString, way);
-        QFETCH(int, commands);
         const bool isTyped = type != u"MFColor";
-        KnField* const other = m_fixture->otherField(type.toLatin1());
+        KnField* const other = otherField(type.toLatin1());
         other->set("[ 1, 2 ]");
-        const KnField& field = m_fixture->show(type,
+        const KnField& field = show(type,
             isTyped ? QStringLiteral("[ 1, 2, 3 ]") : QStringLiteral("[ 0 0 0, 1 1 1, 1 1 1 ]"));
-        m_fixture->child<QSpinBox>("m_accessBox")->setValue(1);
-        const TableInput table = m_fixture->table();
-        QString expected = EditorFixture::text(&field);
+        child<QSpinBox>("m_accessBox")->setValue(1);
+        const TableInput table = this->table();
+        QString expected = text(&field);
         if (isTyped && way != u"Escape")
             expected.replace(u'1', QStringLiteral("78"));
         const QPointer<QWidget> line
@@ -51,9 +50,9 @@ private Q_SLOTS:
         leaveCell(way, type);
         QTRY_VERIFY(!line);
         if (isTyped)
-            QCOMPARE(EditorFixture::text(&field), expected);
-        QVERIFY(!EditorFixture::text(other).contains(u'7'));
-        QCOMPARE(m_fixture->commands(), commands);
+            QCOMPARE(text(&field), expected);
+        QVERIFY(!text(other).contains(u'7'));
+        QTEST(commands(), "commands");
     }
 
     void menusAndOtherWindowsEndNoEdit_data()
@@ -71,10 +70,9 @@ private Q_SLOTS:
     void menusAndOtherWindowsEndNoEdit()
     {
         const auto [type, values, passing] = textRow<3>();
-        const KnField& field = m_fixture->show(type, values);
-        const QPointer<QLineEdit> line = m_fixture->table().type(
-            0, m_fixture->table()->columnCount() > 1 ? 1 : 0, QStringLiteral("1"));
-        QWidget& window = m_fixture->shell().window();
+        const KnField& field = show(type, values);
+        const QPointer<QLineEdit> line
+            = table().type(0, table()->columnCount() > 1 ? 1 : 0, QStringLiteral("1"));
         if (passing == u"context menu") {
             QContextMenuEvent event(
                 QContextMenuEvent::Keyboard, QPoint(), line->mapToGlobal(QPoint(1, 1)));
@@ -82,22 +80,22 @@ private Q_SLOTS:
             QVERIFY(QApplication::activePopupWidget());
             QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         } else if (passing == u"menu bar") {
-            QMenuBar bar(&window);
+            QMenuBar bar(&window());
             bar.show();
             bar.setFocus(Qt::MenuBarFocusReason);
             line->setFocus(Qt::MenuBarFocusReason);
         } else {
-            inAnotherWindow(&window);
+            inAnotherWindow(&window());
         }
-        EditorFixture::settle();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        settle();
+        window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
         QVERIFY(line && line->hasFocus());
         QCOMPARE(line->text(), QStringLiteral("1"));
-        m_fixture->press(Qt::Key_Escape);
+        press(Qt::Key_Escape);
         QTRY_VERIFY(!line);
-        QCOMPARE(EditorFixture::text(&field), values);
-        QCOMPARE(m_fixture->commands(), 0);
+        QCOMPARE(text(&field), values);
+        QCOMPARE(commands(), 0);
     }
 
     void escapeDropsWhatWasTyped_data()
@@ -114,11 +112,10 @@ private Q_SLOTS:
     void escapeDropsWhatWasTyped()
     {
         const auto [type, values] = textRow<2>();
-        const KnField& field = m_fixture->show(type, values);
-        const TableInput table = m_fixture->table();
+        const KnField& field = show(type, values);
+        const TableInput table = this->table();
         int shortcuts = 0;
-        const QShortcut shortcut(
-            Qt::Key_Escape, &m_fixture->shell().window(), [&shortcuts] { ++shortcuts; });
+        const QShortcut shortcut(Qt::Key_Escape, &window(), [&shortcuts] { ++shortcuts; });
         const int column = table->columnCount() > 1 ? 1 : 0;
         // With the focus on any part of the editor, and also where a text can't be accepted.
         for (const char* part : { "", "m_slider", "m_notifyCheckBox" }) {
@@ -126,13 +123,13 @@ private Q_SLOTS:
             auto* const other = line->parentWidget()->findChild<QWidget*>(QLatin1String(part));
             if (*part && other)
                 other->setFocus();
-            m_fixture->press(Qt::Key_Escape);
+            press(Qt::Key_Escape);
             QVERIFY(!table.openEditor());
             QVERIFY(table->hasFocus());
             QCOMPARE(table->currentIndex(), table->model()->index(0, column));
         }
-        QCOMPARE(EditorFixture::text(&field), values);
-        QCOMPARE(m_fixture->commands() + shortcuts, 0);
+        QCOMPARE(text(&field), values);
+        QCOMPARE(commands() + shortcuts, 0);
     }
 
     void tabOpensTheNextRow_data()
@@ -143,15 +140,15 @@ private Q_SLOTS:
     void tabOpensTheNextRow()
     {
         const QString type = textRow<1>()[0];
-        KnField& field = m_fixture->show(type, QStringLiteral("[ 1, 2, 3 ]"));
-        m_fixture->table().type(0, 0, QStringLiteral("5"));
+        KnField& field = show(type, QStringLiteral("[ 1, 2, 3 ]"));
+        table().type(0, 0, QStringLiteral("5"));
         for (const int key : { Qt::Key_Tab, Qt::Key_6, Qt::Key_Tab, Qt::Key_7, Qt::Key_Backtab,
                  Qt::Key_8, Qt::Key_Return })
-            m_fixture->press(key);
-        QCOMPARE(EditorFixture::text(&field), QStringLiteral("[ 5, 8, 7 ]"));
+            press(key);
+        QCOMPARE(text(&field), QStringLiteral("[ 5, 8, 7 ]"));
         // The table takes the keys again.
-        m_fixture->press(Qt::Key_Up);
-        QCOMPARE(m_fixture->table()->currentRow(), 0);
+        press(Qt::Key_Up);
+        QCOMPARE(table()->currentRow(), 0);
     }
 
     void whatIsTypedReachesItsRowOrNone_data()
@@ -185,15 +182,15 @@ private Q_SLOTS:
         QStringList ends;
         for (const char* type : { "MFInt32", "MFDouble" }) { // a slider and a line
             for (const bool isRefreshed : { true, false }) {
-                KnField& field = m_fixture->show(QLatin1String(type), start);
-                const QPointer<QWidget> line = m_fixture->table().type(1, 0, QStringLiteral("55"));
-                ArrayFixture::change(field, outside);
+                KnField& field = show(QLatin1String(type), start);
+                const QPointer<QWidget> line = table().type(1, 0, QStringLiteral("55"));
+                change(field, outside);
                 if (isRefreshed)
-                    EditorFixture::settle();
+                    settle();
                 // Also without a refresh the end of the edit has to look at the rows.
-                m_fixture->press(Qt::Key_Return);
+                press(Qt::Key_Return);
                 QTRY_VERIFY(!line);
-                ends << EditorFixture::text(&field);
+                ends << text(&field);
             }
         }
         QCOMPARE(ends, QStringList(4, end));
@@ -203,20 +200,20 @@ private:
     void leaveCell(const QString& way, const QString& type)
     {
         if (way.startsWith(u"m_"))
-            m_fixture->clickButton(way.toLatin1());
+            clickButton(way.toLatin1());
         else if (way == u"click")
-            m_fixture->table().click(2, type == u"MFColor" ? 2 : 0);
+            table().click(2, type == u"MFColor" ? 2 : 0);
         else if (way == u"box")
-            m_fixture->child<QWidget>("m_accessBox")->setFocus();
+            child<QWidget>("m_accessBox")->setFocus();
         else if (way == u"no field")
-            m_fixture->select(nullptr);
+            select(nullptr);
         else if (way == u"editor")
-            m_fixture->select(m_fixture->field("MFFloat"));
+            select(field("MFFloat"));
         else if (way == u"field")
-            m_fixture->select(m_fixture->otherField(type.toLatin1()));
+            select(otherField(type.toLatin1()));
         else
-            m_fixture->press(QKeySequence(way)[0].key());
-        EditorFixture::settle();
+            press(QKeySequence(way)[0].key());
+        settle();
     }
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "ArrayFixture.h"
 #include "DialogInput.h"
+#include "EditorFixture.h"
 #include "TextRows.h"
 
 #include <QColorDialog>
@@ -15,16 +15,10 @@ QColor swatch(const TableInput& table, int row)
     return picture.pixelColor(picture.rect().center());
 }
 
-/// Clicks the swatch of the second row. False if that opens no dialog.
-bool chooseInRow1(ArrayFixture& fixture, const std::function<void(QColorDialog*)>& use)
-{
-    return inDialogOpenedBy<QColorDialog>([&fixture] { fixture.table().click(1, 0); }, use);
-}
-
 } // namespace
 
 /// Arrays of colours.
-class TestColorArrays : public ArrayTest {
+class TestColorArrays : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
     static void initMain() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
@@ -45,10 +39,9 @@ private Q_SLOTS:
     void theSwatchShowsTheColor()
     {
         const auto [type, values, color] = textRow<3>();
-        ArrayFixture& fixture = *m_fixture;
-        fixture.show(type, values);
-        const QString blank = fixture.table()->palette().base().color().name();
-        QCOMPARE(swatch(fixture.table(), 0).name().replace(blank, QStringLiteral("blank")), color);
+        show(type, values);
+        const QString blank = table()->palette().base().color().name();
+        QCOMPARE(swatch(table(), 0).name().replace(blank, QStringLiteral("blank")), color);
     }
 
     void oneClickOpensTheDialog_data()
@@ -63,21 +56,20 @@ private Q_SLOTS:
     {
         const auto [type, start, edited] = textRow<3>();
         const bool hasAlpha = type.endsWith(u'A');
-        ArrayFixture& fixture = *m_fixture;
-        const KnField& field = fixture.show(type, start);
-        fixture.table()->setCurrentCell(0, 2);
-        QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
+        const KnField& field = show(type, start);
+        table()->setCurrentCell(0, 2);
+        QVERIFY(chooseInRow1([&](QColorDialog* dialog) {
             QCOMPARE(dialog->windowTitle(), QStringLiteral("color dialog"));
             QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), hasAlpha);
             QCOMPARE(dialog->currentColor(), QColor(255, 127, 0));
             dialog->setCurrentColor(QColor(51, 0, 255, 51));
             QTest::keyClick(dialog, Qt::Key_Return);
         }));
-        QCOMPARE(EditorFixture::text(&field), edited);
-        QVERIFY(swatch(fixture.table(), 1) != QColor(255, 127, 0));
-        QCOMPARE(fixture.commands(), 1);
-        fixture.undo();
-        QCOMPARE(EditorFixture::text(&field), start);
+        QCOMPARE(text(&field), edited);
+        QVERIFY(swatch(table(), 1) != QColor(255, 127, 0));
+        QCOMPARE(commands(), 1);
+        undo();
+        QCOMPARE(text(&field), start);
     }
 
     void aColorReachesItsRowOrNone_data()
@@ -100,29 +92,27 @@ private Q_SLOTS:
     {
         const auto [name, start, outside, end] = textRow<4>();
         const bool isOtherShown = start == outside;
-        ArrayFixture& fixture = *m_fixture;
-        KnMFColor& other = fixture.otherNode().MFColor;
+        KnMFColor& other = otherNode().MFColor;
         other.setNum(2);
-        KnField& field = fixture.show(QStringLiteral("MFColor"), start);
-        QVERIFY(chooseInRow1(fixture, [&](QColorDialog* dialog) {
+        KnField& field = show(QStringLiteral("MFColor"), start);
+        QVERIFY(chooseInRow1([&](QColorDialog* dialog) {
             dialog->setCurrentColor(Qt::green);
-            ArrayFixture::change(field, outside);
-            EditorFixture::settle();
+            change(field, outside);
+            settle();
             if (isOtherShown)
-                fixture.select(&other);
+                select(&other);
             QTest::keyClick(dialog, Qt::Key_Return);
         }));
-        QCOMPARE(EditorFixture::text(&field), end);
-        QCOMPARE(EditorFixture::text(&other), QStringLiteral("[ 0 0 0, 0 0 0 ]"));
-        QCOMPARE(fixture.commands(), end.contains(u"0 1 0") ? 1 : 0);
+        QCOMPARE(text(&field), end);
+        QCOMPARE(text(&other), QStringLiteral("[ 0 0 0, 0 0 0 ]"));
+        QCOMPARE(commands(), end.contains(u"0 1 0") ? 1 : 0);
     }
 
     void theSwatchIsNoCellToTypeIn()
     {
-        ArrayFixture& fixture = *m_fixture;
-        const KnField& field = fixture.show("MFColor", "[ 0 0 0, 1 1 1 ]");
-        const TableInput table = fixture.table();
-        QVERIFY(chooseInRow1(fixture, [](QColorDialog* dialog) {
+        const KnField& field = show("MFColor", "[ 0 0 0, 1 1 1 ]");
+        const TableInput table = this->table();
+        QVERIFY(chooseInRow1([](QColorDialog* dialog) {
             dialog->setCurrentColor(Qt::green);
             QTest::keyClick(dialog, Qt::Key_Escape);
         }));
@@ -133,9 +123,16 @@ private Q_SLOTS:
         QTest::keyClicks(table.operator->(), QStringLiteral("5"));
         // Tab goes from the end of a row to the swatch of the next one.
         QTest::keyClick(table.type(0, 3, QStringLiteral("0.5")), Qt::Key_Tab);
-        EditorFixture::settle();
+        settle();
         QVERIFY(!table.openEditor());
-        QCOMPARE(EditorFixture::text(&field), QStringLiteral("[ 0 0 0.5, 1 1 1 ]"));
+        QCOMPARE(text(&field), QStringLiteral("[ 0 0 0.5, 1 1 1 ]"));
+    }
+
+private:
+    /// Clicks the swatch of the second row. False if that opens no dialog.
+    bool chooseInRow1(const std::function<void(QColorDialog*)>& use)
+    {
+        return inDialogOpenedBy<QColorDialog>([this] { table().click(1, 0); }, use);
     }
 };
 

@@ -1,55 +1,24 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "ArrayFixture.h"
 #include "DialogInput.h"
-#include "EditorCase.h"
 
 #include <QColorDialog>
 #include <QPushButton>
 
-namespace {
-
-/// The colour that the button displays, as "#aarrggbb".
-QString displayed(EditorFixture& fixture)
-{
-    const QPixmap pixmap
-        = fixture.child<QPushButton>("m_colorDisp")->icon().pixmap(QSize(100, 100));
-    return pixmap.toImage().pixelColor(0, 0).name(QColor::HexArgb);
-}
-
-/// Chooses a colour in the editor's dialog and ends that with a key. Selects `behind` meanwhile.
-bool choose(EditorFixture& fixture, Qt::Key key, KnField* behind = nullptr)
-{
-    const bool alpha = fixture.editor()->objectName() == QStringLiteral("WfSFColorRGBAWidget");
-    const auto act = [&](QColorDialog* dialog) {
-        QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), alpha);
-        QCOMPARE(dialog->currentColor(), QColor(255, 0, 0));
-        if (behind)
-            fixture.select(behind);
-        dialog->setCurrentColor(QColor(128, 0, 255, 51));
-        QTest::keyClick(dialog, key);
-    };
-    return inDialog<QColorDialog>(fixture.child<QPushButton>("m_colorDisp"), act);
-}
-
-} // namespace
-
-class TestColorEditors : public QObject {
+class TestColorEditors : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
-    void init() { failOnWarnings(); }
 
     void typingChangesTheDisplayAndNotTheField()
     {
-        ArrayFixture fixture;
-        const KnField& field = fixture.show("SFColorRGBA", "1 0 0 1");
-        const auto* const frame = fixture.editor()->getFrame();
+        const KnField& field = show("SFColorRGBA", "1 0 0 1");
+        const auto* const frame = editor()->getFrame();
         const auto lines = frame->findChildren<QLineEdit*>(QStringLiteral("SFColorRGBALine"));
-        QStringList colors { displayed(fixture) };
+        QStringList colors { displayed() };
         const auto type = [&](int line, const char* text) {
             lines[line]->selectAll();
             QTest::keyClicks(lines[line], QLatin1String(text));
-            colors << displayed(fixture);
+            colors << displayed();
         };
         type(1, "0.5");
         // Outside 0 to 1 there is nothing to display, so the last colour stays.
@@ -59,44 +28,65 @@ private Q_SLOTS:
         // What is dropped takes its channel and the display back.
         type(2, "1");
         QTest::keyClick(lines[2], Qt::Key_Escape);
-        colors << displayed(fixture);
+        colors << displayed();
         QCOMPARE(colors.join(u' '),
             QStringLiteral(
                 "#ffff0000 #ffff7f00 #ffff7f00 #ffff0000 #7fff0000 #7fff00ff #7fff0000"));
-        EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(&field), QStringLiteral("1 0 0 1"));
-        QCOMPARE(fixture.commands(), 0);
+        settle();
+        QCOMPARE(text(&field), QStringLiteral("1 0 0 1"));
+        QCOMPARE(commands(), 0);
         // No number counts as 0, and the refresh says so.
         QTest::keyClick(lines[1], Qt::Key_Return);
-        EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(&field), QStringLiteral("1 0 0 0.5"));
+        settle();
+        QCOMPARE(text(&field), QStringLiteral("1 0 0 0.5"));
         QCOMPARE(lines[1]->text(), QStringLiteral("0"));
     }
 
     void anAcceptedDialogWritesTheColour()
     {
-        ArrayFixture fixture;
-        const KnField& field = fixture.show("SFColorRGBA", "1 0 0 1");
-        QVERIFY(choose(fixture, Qt::Key_Return));
+        const KnField& field = show("SFColorRGBA", "1 0 0 1");
+        QVERIFY(choose(Qt::Key_Return));
         // Red as the text of its line has it; the others kept or got a round number.
-        QCOMPARE(EditorFixture::text(&field), QStringLiteral("0.501961 0 1 0.2"));
-        QCOMPARE(linesShown(fixture, "SFColorRGBALine"), QStringLiteral("0.501961 0 1 0.2"));
-        QCOMPARE(fixture.commands(), 1);
-        fixture.undo();
-        QCOMPARE(EditorFixture::text(&field), QStringLiteral("1 0 0 1"));
+        QCOMPARE(text(&field), QStringLiteral("0.501961 0 1 0.2"));
+        QCOMPARE(linesShown("SFColorRGBALine"), QStringLiteral("0.501961 0 1 0.2"));
+        QCOMPARE(commands(), 1);
+        undo();
+        QCOMPARE(text(&field), QStringLiteral("1 0 0 1"));
     }
 
     void anUnwantedChoiceLeavesEverything()
     {
-        ArrayFixture fixture;
-        const KnField& field = fixture.show("SFColor", "1 0 0.001");
-        QVERIFY(choose(fixture, Qt::Key_Escape));
-        QCOMPARE(linesShown(fixture, "SFColorLine"), QStringLiteral("1 0 0.001"));
+        const KnField& field = show("SFColor", "1 0 0.001");
+        QVERIFY(choose(Qt::Key_Escape));
+        QCOMPARE(linesShown("SFColorLine"), QStringLiteral("1 0 0.001"));
         // What was chosen for one field never reaches another.
-        QVERIFY(choose(fixture, Qt::Key_Return, fixture.otherField("SFColor")));
-        QCOMPARE(EditorFixture::text(&field), QStringLiteral("1 0 0.001"));
-        QCOMPARE(EditorFixture::text(fixture.otherField("SFColor")), QStringLiteral("0 0 0"));
-        QCOMPARE(fixture.commands(), 0);
+        QVERIFY(choose(Qt::Key_Return, otherField("SFColor")));
+        QCOMPARE(text(&field), QStringLiteral("1 0 0.001"));
+        QCOMPARE(text(otherField("SFColor")), QStringLiteral("0 0 0"));
+        QCOMPARE(commands(), 0);
+    }
+
+private:
+    /// The colour that the button displays, as "#aarrggbb".
+    QString displayed()
+    {
+        const QPixmap pixmap = child<QPushButton>("m_colorDisp")->icon().pixmap(QSize(100, 100));
+        return pixmap.toImage().pixelColor(0, 0).name(QColor::HexArgb);
+    }
+    /// Chooses a colour in the editor's dialog and ends that with a key. Selects `behind`
+    /// meanwhile.
+    bool choose(Qt::Key key, KnField* behind = nullptr)
+    {
+        const bool alpha = editor()->objectName() == QStringLiteral("WfSFColorRGBAWidget");
+        const auto act = [&](QColorDialog* dialog) {
+            QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), alpha);
+            QCOMPARE(dialog->currentColor(), QColor(255, 0, 0));
+            if (behind)
+                select(behind);
+            dialog->setCurrentColor(QColor(128, 0, 255, 51));
+            QTest::keyClick(dialog, key);
+        };
+        return inDialog<QColorDialog>(child<QPushButton>("m_colorDisp"), act);
     }
 };
 

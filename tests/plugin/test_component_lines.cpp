@@ -1,31 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "ArrayFixture.h"
-#include "EditorCase.h"
+#include "EditorFixture.h"
 #include "TextRows.h"
 
 #include <QPushButton>
 #include <QShortcut>
 
-namespace {
-
-/// What holds the lines of the editor shown: the popup, which it opens, or the editor's frame.
-QWidget* openGrid(EditorFixture& fixture)
-{
-    auto* const button
-        = fixture.editor()->getFrame()->findChild<QPushButton*>(QStringLiteral("m_editButton"));
-    if (!button)
-        return fixture.editor()->getFrame();
-    QTest::mouseClick(button, Qt::LeftButton);
-    return fixture.child<QWidget>("m_popupFrame");
-}
-
-} // namespace
-
-class TestComponentLines : public QObject {
+class TestComponentLines : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { failOnWarnings(); }
-
     void editing_data()
     {
         // The field, one of its lines, what is typed in place of what that holds, if anything, the
@@ -51,24 +33,23 @@ private Q_SLOTS:
     }
     void editing()
     {
-        const auto [type, start, index, typed, key, after, commands] = textRow<7>();
-        ArrayFixture fixture;
-        KnField& field = fixture.show(type, start);
-        QLineEdit* const line = openGrid(fixture)->findChildren<QLineEdit*>()[index.toInt()];
+        const auto [type, start, index, typed, key, after, count] = textRow<7>();
+        KnField& field = show(type, start);
+        QLineEdit* const line = openGrid()->findChildren<QLineEdit*>()[index.toInt()];
         QTest::mouseClick(line, Qt::LeftButton);
         line->selectAll();
         QTest::keyClicks(line, typed);
-        QCOMPARE(EditorFixture::text(&field), start);
+        QCOMPARE(text(&field), start);
         QTest::keyClick(line, QKeySequence(key)[0].key());
-        EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(&field), after);
-        QCOMPARE(fixture.commands(), commands.toInt());
+        settle();
+        QCOMPARE(text(&field), after);
+        QCOMPARE(commands(), count.toInt());
         if (!typed.isEmpty() && start == after)
             QCOMPARE(line->text(), typed);
 
         // What wasn't applied doesn't outlive a refresh.
-        EditorFixture::write(&field, start.toLatin1().constData());
-        QVERIFY(!static_cast<WfSFieldWidget*>(fixture.editor())->edited());
+        write(&field, start.toLatin1());
+        QVERIFY(!static_cast<WfSFieldWidget*>(editor())->edited());
         QVERIFY(typed.isEmpty() || line->text() != typed);
     }
 
@@ -79,15 +60,14 @@ private Q_SLOTS:
     }
     void escDropsWhatIsTyped()
     {
-        EditorFixture fixture;
-        KnField* const field = fixture.field(QTest::currentDataTag());
-        const QString start = EditorFixture::text(field);
-        fixture.select(field);
+        KnField* const field = this->field(QTest::currentDataTag());
+        const QString start = text(field);
+        select(field);
         // A host may have a use for the key.
         int escapes = 0;
-        QShortcut shortcut(Qt::Key_Escape, &fixture.shell().window());
+        QShortcut shortcut(Qt::Key_Escape, &window());
         connect(&shortcut, &QShortcut::activated, this, [&escapes] { ++escapes; });
-        const QWidget* const frame = openGrid(fixture);
+        const QWidget* const frame = openGrid();
         const bool isPopup = frame->isWindow();
 
         QLineEdit* const line = frame->findChildren<QLineEdit*>().last();
@@ -101,10 +81,10 @@ private Q_SLOTS:
         QCOMPARE(line->text(), shown);
         QCOMPARE(escapes, isPopup ? 0 : 1);
         QCOMPARE(frame->isVisible(), !isPopup);
-        QCOMPARE(fixture.undoStack().count(), 0);
+        QCOMPARE(commands(), 0);
         QTest::keyClick(line, Qt::Key_Tab);
-        EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(field), start);
+        settle();
+        QCOMPARE(text(field), start);
     }
 
     /// The refresh that follows each line leaves the next one ready to be typed over.
@@ -114,19 +94,29 @@ private Q_SLOTS:
     }
     void tabbingThroughTheLines()
     {
-        const auto [type, text] = textRow<2>();
-        ArrayFixture fixture;
-        const KnField& field = fixture.show(type, QStringLiteral("1 1 1 1").left(text.size()));
-        const auto lines = openGrid(fixture)->findChildren<QLineEdit*>();
+        const auto [type, end] = textRow<2>();
+        const KnField& field = show(type, QStringLiteral("1 1 1 1").left(end.size()));
+        const auto lines = openGrid()->findChildren<QLineEdit*>();
         lines[0]->setFocus(Qt::TabFocusReason);
         for (const Qt::Key key : { Qt::Key_7, Qt::Key_8, Qt::Key_7 }) {
-            QTest::keyClick(QApplication::focusWidget(), key);
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            EditorFixture::settle();
+            press(key);
+            press(Qt::Key_Tab);
         }
-        QCOMPARE(EditorFixture::text(&field), text);
-        QCOMPARE(fixture.commands(), 3);
+        QCOMPARE(text(&field), end);
+        QCOMPARE(commands(), 3);
         QCOMPARE(lines[0]->cursorPosition(), 0);
+    }
+
+private:
+    /// What holds the lines of the editor shown: the popup, which it opens, or the editor's frame.
+    QWidget* openGrid()
+    {
+        auto* const button
+            = editor()->getFrame()->findChild<QPushButton*>(QStringLiteral("m_editButton"));
+        if (!button)
+            return editor()->getFrame();
+        QTest::mouseClick(button, Qt::LeftButton);
+        return child<QWidget>("m_popupFrame");
     }
 };
 

@@ -7,7 +7,6 @@
 #include "TextRows.h"
 
 #include <QDockWidget>
-#include <QLineEdit>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -66,11 +65,9 @@ public:
 } // namespace
 
 /// Editors and the docks that show them, step by step.
-class TestEditorHosting : public QObject {
+class TestEditorHosting : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { failOnWarnings(); }
-
     /// Which of the editors, given in the order of the map, serves an object of a type.
     void selectionRule_data()
     {
@@ -112,16 +109,14 @@ private Q_SLOTS:
         const auto texts = textRow<2>();
         const QString& dockName = texts[0];
         const QString& type = texts[1];
-        EditorFixture fixture;
-        QStringList& log = fixture.shell().calls();
+        QStringList& log = shell().calls();
         ProbeEditor editor(type, log);
-        ProbePlugin plugin(&editor);
-        CrvPluginsManager::getInstance()->adoptPlugin(&plugin);
+        ProbePlugin probe(&editor);
+        CrvPluginsManager::getInstance()->adoptPlugin(&probe);
         // Also behind a failure, while the editor lives.
         const auto unload = qScopeGuard([] { CrvPluginsManager::getInstance()->unloadAll(); });
-        QMainWindow& window = fixture.shell().window();
-        auto* const dock = window.findChild<QDockWidget*>(dockName);
-        const auto& all = fixture.plugin().getExtensions();
+        auto* const dock = window().findChild<QDockWidget*>(dockName);
+        const auto& all = plugin().getExtensions();
         CrvExtension& extension = **std::find_if(all.begin(), all.end(),
             [&](CrvExtension* each) { return each->getName() == KbString(qPrintable(dockName)); });
         connect(dock, &QDockWidget::visibilityChanged, this,
@@ -132,26 +127,26 @@ private Q_SLOTS:
                 CrvServices::getInstance()->selectNode(node);
             else
                 CrvServices::getInstance()->selectField(node ? &node->SFTime : nullptr);
-            EditorFixture::settle();
+            settle();
         };
         const QStringList shown { u"object"_s, u"activate with object in dock"_s, u"dock shown"_s };
         const QStringList released { u"deactivate with object in dock"_s, u"no object"_s,
             u"dock hidden"_s };
         QVERIFY(extension.isActive() && !extension.isShown() && dock->isHidden());
         QVERIFY(dock->windowTitle() == dockName && !dock->acceptDrops());
-        QCOMPARE(window.dockWidgetArea(dock), Qt::RightDockWidgetArea);
+        QCOMPARE(window().dockWidgetArea(dock), Qt::RightDockWidgetArea);
 
-        select(&fixture.node());
+        select(&node());
         QCOMPARE(log, shown);
         QVERIFY(extension.isShown() && editor.isActive() && dock->widget() == editor.getWidget());
-        select(&fixture.otherNode()); // the same editor again
+        select(&otherNode()); // the same editor again
         QCOMPARE(log, released + shown);
         select(nullptr);
         QCOMPARE(log, released);
         QVERIFY(!extension.isShown() && !editor.isActive() && !dock->widget());
         QVERIFY(!editor.getWidget()->parent());
 
-        select(&fixture.node());
+        select(&node());
         log.clear();
         extension.deactivate();
         QCOMPARE(log,
@@ -159,35 +154,34 @@ private Q_SLOTS:
                 + QStringList(
                     { u"removeDockWidget "_s + dockName, u"unregisterExtension "_s + dockName }));
         QVERIFY(!extension.isActive() && !editor.getWidget()->parent());
-        select(&fixture.otherNode()); // nobody listens
+        select(&otherNode()); // nobody listens
         QCOMPARE(log, QStringList());
         extension.activate();
         QCOMPARE(log,
             QStringList({ u"addDockWidget %1 2"_s.arg(dockName),
                 u"registerExtension %1 1"_s.arg(dockName) }));
         QVERIFY(extension.isActive());
-        select(&fixture.node());
+        select(&node());
         QCOMPARE(log, shown);
     }
 
     void aDockThatGoesTakesNoFurtherSelection()
     {
-        EditorFixture fixture;
         const auto extensions = CrvPluginsManager::getInstance()->getExtensions();
         const auto dock = std::find_if(extensions.begin(), extensions.end(),
             [](CrvExtension* e) { return qobject_cast<CrvFieldEditorDockWin*>(e); });
-        fixture.select(fixture.field("SFString"));
-        fixture.child<QLineEdit>("lineEdit")->setFocus();
+        select(field("SFString"));
+        child<QLineEdit>("lineEdit")->setFocus();
         // Whoever gets the focus from the editor selects something.
-        connect(qApp, &QApplication::focusChanged, this, [&fixture](QWidget* old) {
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old) {
             if (old)
-                CrvServices::getInstance()->selectField(fixture.field("SFFloat"));
+                CrvServices::getInstance()->selectField(field("SFFloat"));
         });
         (*dock)->deactivate();
         disconnect(qApp, nullptr, this, nullptr);
         for (CrvExtension* extension : extensions)
             QVERIFY(!qobject_cast<CrvEditor*>(extension) || !extension->isActive());
-        QCOMPARE(CrvServices::getInstance()->getSelectedField(), fixture.field("SFFloat"));
+        QCOMPARE(CrvServices::getInstance()->getSelectedField(), field("SFFloat"));
         (*dock)->activate();
     }
 };

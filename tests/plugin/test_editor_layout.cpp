@@ -248,7 +248,7 @@ QString panelOf(const Array& row)
 } // namespace
 
 /// What stands on the screen, of all editors.
-class TestEditorLayout : public QObject {
+class TestEditorLayout : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase()
@@ -256,14 +256,6 @@ private Q_SLOTS:
         QFont font;
         font.setPointSize(13); // another one than that of the titles
         QApplication::setFont(font);
-        m_fixture = std::make_unique<EditorFixture>();
-        m_dump = std::make_unique<LayoutDump>();
-    }
-    void init() { failOnWarnings(); }
-    void cleanupTestCase()
-    {
-        m_dump.reset();
-        m_fixture.reset();
     }
 
     void panel_data()
@@ -280,12 +272,11 @@ private Q_SLOTS:
         const QByteArray name = QTest::currentDataTag();
         const bool isArray = name.startsWith('M');
         const bool isFallback = name.endsWith("Field") || name == "SField";
-        KnField* const field
-            = m_fixture->field(isFallback ? name.left(name.size() - 4) + "Time" : name);
+        KnField* const field = this->field(isFallback ? name.left(name.size() - 4) + "Time" : name);
         if (isArray)
             static_cast<KnMField*>(field)->insertValues(0, 1);
-        m_fixture->select(field);
-        CrvFieldEditors* const editor = m_fixture->editor();
+        select(field);
+        CrvFieldEditors* const editor = this->editor();
         QVERIFY(editor);
         QCOMPARE(editor->objectName(),
             name == "SField" ? u"WfSFLineWidget"_s
@@ -294,9 +285,10 @@ private Q_SLOTS:
         QCOMPARE(toQString(editor->getName()), QLatin1String(name));
         QCOMPARE(toQString(editor->getHandledType().getName()), QLatin1String(name));
 
-        QString actual = m_dump->panel(editor->getFrame());
+        LayoutDump dump;
+        QString actual = dump.panel(editor->getFrame());
         if (isArray)
-            actual += u" cell "_s + cell(editor->getFrame()->findChild<QTableWidget*>());
+            actual += u" cell "_s + dump.widget(cellEditor().get());
         // By pieces, so that a failure shows the one that differs.
         QCOMPARE(actual.split(u", "_s), expected.split(u", "_s));
     }
@@ -314,15 +306,12 @@ private:
         return count;
     }
     /// What edits the last cell of the table's first row.
-    QString cell(QTableWidget* table)
+    std::unique_ptr<QWidget> cellEditor() const
     {
-        const std::unique_ptr<QWidget> editor(table->itemDelegate()->createEditor(table->viewport(),
-            QStyleOptionViewItem(), table->model()->index(0, table->columnCount() - 1)));
-        return m_dump->widget(editor.get());
+        const TableInput table = this->table();
+        return std::unique_ptr<QWidget>(table->itemDelegate()->createEditor(
+            table->viewport(), {}, table->model()->index(0, table->columnCount() - 1)));
     }
-
-    std::unique_ptr<EditorFixture> m_fixture;
-    std::unique_ptr<LayoutDump> m_dump; // behind the font
 };
 
 QTEST_MAIN(TestEditorLayout)

@@ -2,28 +2,24 @@
 #include "EditorCase.h"
 #include "FittedFont.h"
 
-#include <QLineEdit>
 #include <QSpinBox>
 
 using namespace Qt::StringLiterals;
 
 /// No editor of a single value forces a dock wider than docks are.
-class TestEditorWidths : public QObject {
+class TestEditorWidths : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { failOnWarnings(); }
-
-    void anEditorFitsANarrowDock_data() { addRows({ singleValueCases(), compoundCases() }); }
+    void anEditorFitsANarrowDock_data() { addEditorRows(false); }
     void anEditorFitsANarrowDock()
     {
         QFETCH(EditorCase, row);
-        EditorFixture fixture;
-        EditorFixture::write(fixture.field(row.type), row.start);
-        fixture.select(fixture.field(row.type));
-        QFrame* const frame = fixture.editor()->getFrame();
+        write(field(row.type), row.start);
+        select(field(row.type));
+        QFrame* const frame = editor()->getFrame();
         QVERIFY(frame->minimumSizeHint().width() <= 360);
         frame->parentWidget()->setFixedWidth(360);
-        EditorFixture::settle();
+        settle();
         for (const QWidget* part : frame->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
             if (!part->isWindow())
                 QVERIFY(frame->rect().contains(part->geometry()));
@@ -41,10 +37,9 @@ private Q_SLOTS:
     /// A line that was narrow gets its font back.
     void aFontFollowsTheWidth()
     {
-        EditorFixture fixture;
-        fixture.select(fixture.field("SFColorRGBA"));
-        auto* const line = fixture.child<QLineEdit>("SFColorRGBALine");
-        QWidget* const dock = fixture.editor()->getFrame()->parentWidget();
+        select(field("SFColorRGBA"));
+        auto* const line = child<QLineEdit>("SFColorRGBALine");
+        QWidget* const dock = editor()->getFrame()->parentWidget();
         const QFont font = line->font();
         dock->setFixedWidth(360);
         QTRY_VERIFY(line->fontInfo().pixelSize() < QFontInfo(font).pixelSize());

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorCase.h"
 
-#include <QAbstractButton>
-#include <QUndoStack>
-
 namespace {
 
 /// A text of a case, or that of the field if there is none.
@@ -15,71 +12,68 @@ QString orText(const char* text, const char* fieldText)
 } // namespace
 
 /// The road that every field editor passes.
-class TestFieldEditors : public QObject {
+class TestFieldEditors : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { failOnWarnings(); }
-
-    void road_data() { addRows({ singleValueCases(), compoundCases(), arrayCases() }); }
+    void road_data() { addEditorRows(); }
     void road()
     {
         QFETCH(EditorCase, row);
-        EditorFixture fixture;
-        KnField* const field = fixture.field(row.type);
-        KnField* const other = fixture.otherField(row.type);
-        QUndoStack& stack = fixture.undoStack();
+        KnField* const field = this->field(row.type);
+        KnField* const other = otherField(row.type);
+        QUndoStack& stack = undoStack();
         QVERIFY2(field && other, row.type);
         const QString shownAtStart = orText(row.shownAtStart, row.start);
-        const QString defaultText = EditorFixture::text(other);
+        const QString defaultText = text(other);
 
         // Opening shows the field and writes nothing.
         QVERIFY(field->set(row.start));
-        const QString start = EditorFixture::text(field);
-        fixture.select(field);
-        QVERIFY(fixture.editor());
-        QCOMPARE(fixture.editor()->objectName(), row.editorName());
-        QVERIFY(fixture.editor()->getFrame()->isVisible());
-        QCOMPARE(row.shown(fixture), shownAtStart);
-        QCOMPARE(EditorFixture::text(field), start);
+        const QString start = text(field);
+        select(field);
+        QVERIFY(editor());
+        QCOMPARE(editor()->objectName(), row.editorName());
+        QVERIFY(editor()->getFrame()->isVisible());
+        QCOMPARE(row.shown(*this), shownAtStart);
+        QCOMPARE(text(field), start);
         QCOMPARE(stack.count(), 0);
 
         // A person's edit writes, and goes back and forth.
-        row.edit(fixture);
-        EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(field), QLatin1String(row.edited));
-        QCOMPARE(row.shown(fixture), orText(row.shownEdited, row.edited));
+        row.edit(*this);
+        settle();
+        QCOMPARE(text(field), QLatin1String(row.edited));
+        QCOMPARE(row.shown(*this), orText(row.shownEdited, row.edited));
         QCOMPARE(stack.count(), row.commands);
         if (row.commands > 0) {
             for (int i = 0; i < row.commands; ++i)
-                fixture.undo();
-            QCOMPARE(EditorFixture::text(field), start);
-            QCOMPARE(row.shown(fixture), shownAtStart);
+                undo();
+            QCOMPARE(text(field), start);
+            QCOMPARE(row.shown(*this), shownAtStart);
             for (int i = 0; i < row.commands; ++i)
-                fixture.redo();
-            QCOMPARE(EditorFixture::text(field), QLatin1String(row.edited));
+                redo();
+            QCOMPARE(text(field), QLatin1String(row.edited));
         }
 
         // A change from outside shows and makes no command.
-        EditorFixture::write(field, row.outside);
-        const QString outside = EditorFixture::text(field);
-        QCOMPARE(row.shown(fixture), orText(row.shownOutside, row.outside));
+        write(field, row.outside);
+        const QString outside = text(field);
+        QCOMPARE(row.shown(*this), orText(row.shownOutside, row.outside));
         QCOMPARE(stack.count(), row.commands);
 
-        QTest::mouseClick(fixture.child<QAbstractButton>("m_defaultButton"), Qt::LeftButton);
-        EditorFixture::settle();
-        QCOMPARE(EditorFixture::text(field), defaultText);
+        QTest::mouseClick(child<QAbstractButton>("m_defaultButton"), Qt::LeftButton);
+        settle();
+        QCOMPARE(text(field), defaultText);
         QCOMPARE(stack.count(), row.commands + 1);
-        fixture.undo();
-        fixture.redo();
-        QCOMPARE(EditorFixture::text(field), defaultText);
-        fixture.undo();
-        QCOMPARE(EditorFixture::text(field), outside);
+        undo();
+        redo();
+        QCOMPARE(text(field), defaultText);
+        undo();
+        QCOMPARE(text(field), outside);
 
-        auto* const ignore = fixture.child<QAbstractButton>("m_ignoreButton");
+        auto* const ignore = child<QAbstractButton>("m_ignoreButton");
         QTest::mouseClick(ignore, Qt::LeftButton);
-        EditorFixture::settle();
+        settle();
         QVERIFY(field->isIgnored() && ignore->isChecked());
-        fixture.undo();
+        undo();
         QVERIFY(!field->isIgnored() && !ignore->isChecked());
 
         // Another field of the type takes the editor over; neither is written.
@@ -88,25 +82,24 @@ private Q_SLOTS:
         // The lines that hold a text as it is write it whenever they are left.
         static const QSet<QByteArray> texts { "SFFilePathString", "SFName", "SFString" };
         const int commands = stack.index() + (texts.contains(row.type) ? 1 : 0);
-        fixture.select(other);
-        QCOMPARE(fixture.editor()->objectName(), row.editorName());
-        QCOMPARE(row.shown(fixture), shownAtStart);
+        select(other);
+        QCOMPARE(editor()->objectName(), row.editorName());
+        QCOMPARE(row.shown(*this), shownAtStart);
         QVERIFY(ignore->isChecked());
-        QCOMPARE(EditorFixture::text(field), outside);
-        QCOMPARE(EditorFixture::text(other), start);
+        QCOMPARE(text(field), outside);
+        QCOMPARE(text(other), start);
         QCOMPARE(stack.index(), commands);
         QTest::mouseClick(ignore, Qt::LeftButton);
-        EditorFixture::settle();
+        settle();
         QVERIFY(!other->isIgnored() && !ignore->isChecked());
         QCOMPARE(stack.index(), commands + 1);
     }
 
     void theIgnoreButtonActsWhenItIsReleased()
     {
-        EditorFixture fixture;
-        KnField* const field = fixture.field("MFInt32");
-        fixture.select(field);
-        auto* const ignore = fixture.child<QAbstractButton>("m_ignoreButton");
+        KnField* const field = this->field("MFInt32");
+        select(field);
+        auto* const ignore = child<QAbstractButton>("m_ignoreButton");
         bool wasIgnored = false;
         connect(ignore, &QAbstractButton::released, this,
             [&wasIgnored, field] { wasIgnored = field->isIgnored(); });

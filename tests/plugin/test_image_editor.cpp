@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "EditorCase.h"
+#include "EditorFixture.h"
 #include "ImageConversion.h"
 #include "TextRows.h"
 #include "WfSFImageLabel.h"
 
 #include <QScreen>
-#include <QUndoStack>
 #include <QWindow>
 
 #include <vector>
@@ -22,37 +21,11 @@ std::vector<unsigned char> pixels(const QSize& size, int components)
     return bytes;
 }
 
-/// The image editor with a picture.
-class Images : public EditorFixture {
-public:
-    Images(int width, int height)
-    {
-        const auto bytes = pixels(QSize(width, height), 3);
-        node().SFImage.setValue(KbVec2s(width, height), 3, bytes.data());
-        select(field("SFImage"));
-        thumbnail = child<QLabel>("m_imageBox");
-        popup = child<QWidget>("pixmapLabel");
-    }
-
-    QImage shown() const { return thumbnail->pixmap().toImage(); }
-    void moveOverThumbnail()
-    {
-        for (const QPoint& point : { QPoint(2, 2), QPoint(5, 5) })
-            QTest::mouseMove(window(), thumbnail->mapTo(&shell().window(), point));
-    }
-    QWindow* window() { return shell().window().windowHandle(); }
-
-    QLabel* thumbnail;
-    QWidget* popup;
-};
-
 } // namespace
 
-class TestImageEditor : public QObject {
+class TestImageEditor : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { failOnWarnings(); }
-
     void conversion()
     {
         // As stored and as converted, by the number of components.
@@ -78,9 +51,9 @@ private Q_SLOTS:
     void thePopupHasTheSizeOfThePicture()
     {
         for (const QSize& size : { QSize(16, 9), QSize(512, 128), QSize(10, 300) }) {
-            Images images(size.width(), size.height());
-            QCOMPARE(images.popup->size(), size.boundedTo(QSize(256, 256)));
-            QCOMPARE(images.shown().size(), size);
+            show(size);
+            QCOMPARE(m_popup->size(), size.boundedTo(QSize(256, 256)));
+            QCOMPARE(shown().size(), size);
         }
     }
 
@@ -88,46 +61,65 @@ private Q_SLOTS:
     void thePopupGoes()
     {
         const QString way = textRow<1>()[0];
-        Images images(40, 40);
-        images.moveOverThumbnail();
-        QVERIFY(QTest::qWaitForWindowExposed(images.popup));
+        show(QSize(40, 40));
+        moveOverThumbnail();
+        QVERIFY(QTest::qWaitForWindowExposed(m_popup));
         // A press inside leaves it.
-        QTest::mouseClick(images.popup->windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
-        QVERIFY(images.popup->isVisible());
+        QTest::mouseClick(m_popup->windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
+        QVERIFY(m_popup->isVisible());
         if (way == u"selection")
-            images.select(nullptr);
+            select(nullptr);
         else if (way == u"Esc")
-            QTest::keyClick(images.window(), Qt::Key_Escape);
+            QTest::keyClick(window().windowHandle(), Qt::Key_Escape);
         else
-            QTest::mouseClick(images.window(), Qt::LeftButton, {}, QPoint(3, 3));
-        EditorFixture::settle();
-        QVERIFY(!images.popup->isVisible() && !QApplication::activePopupWidget());
+            QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, QPoint(3, 3));
+        settle();
+        QVERIFY(!m_popup->isVisible() && !QApplication::activePopupWidget());
     }
 
     void thePopupStaysOnTheScreen()
     {
-        Images images(256, 256);
-        QWidget& window = images.shell().window();
-        window.resize(400, 60);
+        show(QSize(256, 256));
+        window().resize(400, 60);
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();
         const QPoint target(screen.width() - 30, screen.height() - 60);
-        window.move(window.pos() + target - images.thumbnail->mapToGlobal(QPoint()));
-        QTRY_VERIFY((images.thumbnail->mapToGlobal(QPoint()) - target).manhattanLength() < 30);
-        images.moveOverThumbnail();
-        QVERIFY(QTest::qWaitForWindowExposed(images.popup));
-        QVERIFY(QRect(QPoint(), screen).contains(images.popup->geometry()));
+        window().move(window().pos() + target - m_thumbnail->mapToGlobal(QPoint()));
+        QTRY_VERIFY((m_thumbnail->mapToGlobal(QPoint()) - target).manhattanLength() < 30);
+        moveOverThumbnail();
+        QVERIFY(QTest::qWaitForWindowExposed(m_popup));
+        QVERIFY(QRect(QPoint(), screen).contains(m_popup->geometry()));
     }
 
     void withoutAPictureNothingPopsUp()
     {
-        Images images(0, 0);
-        QVERIFY(images.shown().isNull());
-        images.moveOverThumbnail();
-        EditorFixture::settle();
+        show(QSize(0, 0));
+        QVERIFY(shown().isNull());
+        moveOverThumbnail();
+        settle();
         QVERIFY(!QApplication::activePopupWidget());
-        EditorFixture::write(images.field("SFImage"), "1 1 4 0x11223300");
-        QCOMPARE(images.shown().pixelColor(0, 0).alpha(), 0);
+        write(field("SFImage"), "1 1 4 0x11223300");
+        QCOMPARE(shown().pixelColor(0, 0).alpha(), 0);
     }
+
+private:
+    /// Shows a picture in the editor.
+    void show(const QSize& size)
+    {
+        const auto bytes = pixels(size, 3);
+        node().SFImage.setValue(KbVec2s(size.width(), size.height()), 3, bytes.data());
+        select(field("SFImage"));
+        m_thumbnail = child<QLabel>("m_imageBox");
+        m_popup = child<QWidget>("pixmapLabel");
+    }
+    QImage shown() const { return m_thumbnail->pixmap().toImage(); }
+    void moveOverThumbnail()
+    {
+        for (const QPoint& point : { QPoint(2, 2), QPoint(5, 5) })
+            QTest::mouseMove(window().windowHandle(), m_thumbnail->mapTo(&window(), point));
+    }
+
+    QLabel* m_thumbnail = nullptr; // of the editor, as is the popup
+    QWidget* m_popup = nullptr;
 };
 
 QTEST_MAIN(TestImageEditor)

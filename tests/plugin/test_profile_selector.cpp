@@ -2,7 +2,7 @@
 #include "CrvPluginsManager.h"
 #include "CrvProfile.h"
 #include "CrvStrings.h"
-#include "TableInput.h"
+#include "EditorFixture.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -13,20 +13,18 @@
 using namespace Qt::StringLiterals;
 
 /// The selector in a real host with the built-in profiles.
-class TestProfileSelector : public QObject {
+class TestProfileSelector : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { qRegisterMetaType<CrvProfile*>("CrvProfile*"); } // for the spies
     void init()
     {
-        failOnWarnings();
         // A profile of the same name stays active when the host's are replaced.
         manager()->setActiveProfile(manager()->getProfilesList().front());
-        m_fixture = std::make_unique<EditorFixture>();
-        m_combo = m_fixture->shell().window().findChild<QComboBox*>(u"m_comboBox"_s);
+        EditorFixture::init();
+        m_combo = window().findChild<QComboBox*>(u"m_comboBox"_s);
         QVERIFY(m_combo);
     }
-    void cleanup() { m_fixture.reset(); }
 
     void choosingMakesActive()
     {
@@ -45,8 +43,8 @@ private Q_SLOTS:
 
     void theToolBarComesAndGoes()
     {
-        QStringList& calls = m_fixture->shell().calls();
-        CrvExtension* const selector = m_fixture->plugin().getExtensions().front();
+        QStringList& calls = shell().calls();
+        CrvExtension* const selector = plugin().getExtensions().front();
         auto* const toolBar = qobject_cast<QToolBar*>(m_combo->parent());
         QVERIFY(toolBar && toolBar->windowTitle() == u"Profile Selector"_s);
         QCOMPARE(m_combo->toolTip(), u"Select the active profile."_s);
@@ -59,7 +57,7 @@ private Q_SLOTS:
             u"removeToolBar Profile Selector|unregisterExtension Profile Selector|"
             "addToolBar Profile Selector 4|registerExtension Profile Selector 1"_s);
         QVERIFY(selector->isActive() && selector->isShown() && toolBar->isVisible());
-        QCOMPARE(m_fixture->shell().window().toolBarArea(toolBar), Qt::TopToolBarArea);
+        QCOMPARE(window().toolBarArea(toolBar), Qt::TopToolBarArea);
         QCOMPARE(state(), u"Everything|Fields|Console, 2, Console"_s);
         selector->hide();
         QVERIFY(!selector->isShown() && toolBar->isHidden());
@@ -85,17 +83,15 @@ private Q_SLOTS:
     /// Text that was typed and not yet committed when the profile, and with it the editor, goes.
     void typedTextIsWrittenWhenTheProfileChanges()
     {
-        KnField* const field = m_fixture->field("MFInt32");
-        field->set("[ 1, 2, 3 ]");
-        m_fixture->select(field);
-        TableInput(*m_fixture).type(1, 0, u"7"_s);
+        const KnField& field = show("MFInt32", "[ 1, 2, 3 ]");
+        table().type(1, 0, u"7"_s);
         const auto profiles = manager()->getProfilesList();
         for (CrvProfile* const profile : { profiles.back(), profiles.front() }) {
             manager()->setActiveProfile(profile);
-            EditorFixture::settle();
+            settle();
         }
-        QCOMPARE(EditorFixture::text(field), u"[ 1, 7, 3 ]"_s);
-        QCOMPARE(TableInput(*m_fixture).openEditor(), nullptr);
+        QCOMPARE(text(&field), u"[ 1, 7, 3 ]"_s);
+        QCOMPARE(table().openEditor(), nullptr);
     }
 
 private:
@@ -124,7 +120,6 @@ private:
         QTRY_VERIFY(!list->isVisible());
     }
 
-    std::unique_ptr<EditorFixture> m_fixture;
     QComboBox* m_combo = nullptr; // the tool bar's
 };
 

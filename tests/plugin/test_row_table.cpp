@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "ArrayFixture.h"
+#include "EditorFixture.h"
 #include "TextRows.h"
 #include "WindowInput.h"
 
@@ -23,14 +23,14 @@ const char Five[] = "[ 10, 11, 12, 13, 14 ]";
 } // namespace
 
 /// Rows that are shown, added, deleted, moved and jumped to, as a person does it.
-class TestRowTable : public ArrayTest {
+class TestRowTable : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        ArrayTest::init();
-        m_field = &m_fixture->node().MFInt32;
-        m_fixture->show("MFInt32", Five);
+        EditorFixture::init();
+        m_field = &node().MFInt32;
+        show("MFInt32", Five);
     }
 
     void rowsAreAddedDeletedAndMoved_data()
@@ -66,12 +66,13 @@ private Q_SLOTS:
         const auto [start, steps, end] = textRow<3>();
         QStringList ends;
         for (const bool isRefreshed : { false, true }) {
+            cleanup();
             init();
-            m_fixture->show(QStringLiteral("MFInt32"), start);
+            show(QStringLiteral("MFInt32"), start);
             for (const char step : steps.toLatin1()) {
                 take(step);
                 if (isRefreshed && step != '!')
-                    EditorFixture::settle();
+                    settle();
             }
             ends << state();
         }
@@ -80,16 +81,16 @@ private Q_SLOTS:
 
     void thePanelTellsWhatTheTableShows()
     {
-        const auto* const count = m_fixture->child<QLabel>("m_labelNumElement");
-        const auto* const ignore = m_fixture->child<QAbstractButton>("m_ignoreButton");
+        const auto* const count = child<QLabel>("m_labelNumElement");
+        const auto* const ignore = child<QAbstractButton>("m_ignoreButton");
         QCOMPARE(count->text(), QStringLiteral("<p align=\"center\">5 elements</p>"));
         // While a cell writes nothing is refreshed.
-        m_fixture->editor()->setFieldUpdateEnabled(false);
+        editor()->setFieldUpdateEnabled(false);
         m_field->setIgnored(true);
-        EditorFixture::write(m_field, "[]");
+        write(m_field, "[]");
         QVERIFY(!ignore->isChecked() && table()->rowCount() == 5 && count->text().contains(u'5'));
-        m_fixture->editor()->setFieldUpdateEnabled(true);
-        m_fixture->editor()->updateFromField();
+        editor()->setFieldUpdateEnabled(true);
+        editor()->updateFromField();
         QVERIFY(ignore->isChecked());
         QCOMPARE(count->text(), QStringLiteral("<p align=\"center\">0 elements</p>"));
         QCOMPARE(state(), QStringLiteral("[] 0-0 0"));
@@ -98,10 +99,10 @@ private Q_SLOTS:
     void addingTellsTheCurrentCell()
     {
         QSignalSpy told(table().operator->(), &QTableWidget::currentCellChanged);
-        m_fixture->clickButton("m_addButton");
+        clickButton("m_addButton");
         QCOMPARE(told.last(), QVariantList({ 0, 0, 0, 0 }));
         table().click(3, 0);
-        m_fixture->clickButton("m_addButton");
+        clickButton("m_addButton");
         QCOMPARE(told.last(), QVariantList({ 3, 0, 4, 0 }));
     }
 
@@ -135,7 +136,7 @@ private Q_SLOTS:
         QTest::keyRelease(widget, Qt::Key_Shift);
         QCOMPARE(state(), QStringLiteral("[ 10, 14 ] 1-2 1"));
         QCOMPARE(widget->selectionMode(), QAbstractItemView::NoSelection);
-        m_fixture->undo();
+        undo();
         QCOMPARE(text(), QLatin1String(Five));
     }
 
@@ -153,7 +154,7 @@ private Q_SLOTS:
         if (where.startsWith(u"released"))
             QTest::keyPress(table().operator->(), Qt::Key_Shift);
         if (where.endsWith(u"window")) {
-            inAnotherWindow(&m_fixture->shell().window());
+            inAnotherWindow(&window());
         } else if (where.endsWith(u"widget")) {
             box()->setFocus();
             QTest::keyRelease(box(), Qt::Key_Shift);
@@ -165,14 +166,14 @@ private Q_SLOTS:
                 QTest::keyRelease(line, Qt::Key_Shift);
         }
         QVERIFY(table()->selectionMode() != QAbstractItemView::ContiguousSelection);
-        m_fixture->clickButton("m_deleteButton");
+        clickButton("m_deleteButton");
         QCOMPARE(state(), QStringLiteral("[ 10, 11, 12, 14 ] 1-4 1"));
     }
 
     void theAccessBoxJumps()
     {
         m_field->setNum(1'000'000);
-        EditorFixture::settle();
+        settle();
         box()->selectAll();
         QTest::keyClicks(box(), QStringLiteral("654321"));
         QVERIFY(table()->viewport()->rect().contains(table().cell(654320, 0)));
@@ -202,15 +203,15 @@ private Q_SLOTS:
     {
         QTRY_VERIFY(!onScreen().isNull());
         const QImage before = onScreen();
-        EditorFixture::write(m_field, "[ 10, 98765, 12, 13, 14 ]");
+        write(m_field, "[ 10, 98765, 12, 13, 14 ]");
         QTRY_VERIFY(onScreen() != before);
-        EditorFixture::write(m_field, Five);
+        write(m_field, Five);
         QTRY_VERIFY(onScreen() == before);
     }
 
     void theColumnsShareTheWidthUntilOneIsSized()
     {
-        m_fixture->show("MFVec3f", "[ 1 2 3 ]");
+        show("MFVec3f", "[ 1 2 3 ]");
         const auto widths = [this] {
             return QList<int>(
                 { table()->columnWidth(0), table()->columnWidth(1), table()->columnWidth(2) });
@@ -231,9 +232,7 @@ private Q_SLOTS:
     }
 
 private:
-    TableInput table() const { return m_fixture->table(); }
-    QSpinBox* box() const { return m_fixture->child<QSpinBox>("m_accessBox"); }
-    QUndoStack& stack() const { return m_fixture->undoStack(); }
+    QSpinBox* box() const { return child<QSpinBox>("m_accessBox"); }
     QString text() const { return EditorFixture::text(m_field); }
     /// The values, the limits of the access box, which are those of the rows shown, and the count
     /// of commands.
@@ -243,16 +242,15 @@ private:
             return QStringLiteral("%1 rows").arg(table()->rowCount());
         return QStringLiteral("%1 %2-%3 %4")
             .arg(text(), QString::number(box()->minimum()), QString::number(box()->maximum()))
-            .arg(stack().count());
+            .arg(commands());
     }
     /// The table's width behind it.
     int widenDock()
     {
-        QMainWindow& window = m_fixture->shell().window();
-        auto* const dock = window.findChild<QDockWidget*>(QStringLiteral("Field Editor"));
-        window.resize(window.width() + 200, window.height());
-        window.resizeDocks({ dock }, { dock->width() + 150 }, Qt::Horizontal);
-        EditorFixture::settle();
+        auto* const dock = window().findChild<QDockWidget*>(QStringLiteral("Field Editor"));
+        window().resize(window().width() + 200, window().height());
+        window().resizeDocks({ dock }, { dock->width() + 150 }, Qt::Horizontal);
+        settle();
         return table()->viewport()->width();
     }
     /// A digit clicks a row, a capital goes to one with the access box, and the others stand for
@@ -266,9 +264,9 @@ private:
         if (keys.contains(step))
             QTest::keyClick(table().operator->(), keys[step]);
         else if (buttons.contains(step))
-            QTest::mouseClick(m_fixture->child<QWidget>(buttons[step]), Qt::LeftButton);
+            QTest::mouseClick(child<QWidget>(buttons[step]), Qt::LeftButton);
         else if (step == 'z')
-            m_fixture->undo();
+            undo();
         else if (step == '!') {
             m_field->set("[ 10, 11 ]"); // the sensors haven't run
             table()->viewport()->repaint();
@@ -281,7 +279,7 @@ private:
     void press(QWidget* widget, int key)
     {
         widget->setFocus();
-        m_fixture->press(key);
+        EditorFixture::press(key);
     }
 
     /// What the table looks like on the screen, without having it painted anew for the picture.

@@ -1,28 +1,19 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvStrings.h"
-#include "EditorCase.h"
+#include "EditorFixture.h"
 #include "KnDirectionalLight.h"
 #include "SliderInput.h"
 #include "TextRows.h"
 #include "WfRealSlider.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
-#include <QUndoStack>
 
 using namespace Qt::StringLiterals;
 
 /// The editors that are one slider or one line.
-class TestSingleValueEditors : public QObject {
+class TestSingleValueEditors : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        failOnWarnings();
-        m_fixture = std::make_unique<EditorFixture>();
-    }
-    void cleanup() { m_fixture.reset(); }
-
     void aDragAsCommands_data()
     {
         // The field, whether the check box is checked, the moves, and the field after all was
@@ -40,23 +31,23 @@ private Q_SLOTS:
         const bool notify = !notified.isEmpty();
         open(qPrintable(type), qPrintable(start));
         if (!notify)
-            QTest::mouseClick(m_fixture->child<QCheckBox>("m_notifyCheckBox"), Qt::LeftButton);
+            QTest::mouseClick(child<QCheckBox>("m_notifyCheckBox"), Qt::LeftButton);
         SliderInput mouse(scale());
         QStringList texts { undone };
         mouse.press();
         for (int i = 0; i < moves.toInt(); ++i) {
             mouse.moveBy(8);
-            EditorFixture::settle();
+            settle();
             if (notify)
                 texts << text();
         }
         mouse.release();
-        EditorFixture::settle();
+        settle();
         texts << text();
         QCOMPARE(QSet<QString>(texts.begin(), texts.end()).size(), notify ? 3 : 2);
         QCOMPARE(undoAll(), texts.first(texts.size() - 1));
-        while (m_fixture->undoStack().canRedo())
-            m_fixture->redo();
+        while (undoStack().canRedo())
+            redo();
         QCOMPARE(text(), texts.last());
     }
 
@@ -64,12 +55,12 @@ private Q_SLOTS:
     {
         auto* const light = new KnDirectionalLight; // lives while it is selected
         light->intensity.setValue(1.5F);
-        m_fixture->select(&light->intensity);
-        auto* const real = static_cast<WfRealSlider*>(m_fixture->child<WfSlider>("WfSliderFrame"));
+        select(&light->intensity);
+        auto* const real = static_cast<WfRealSlider*>(child<WfSlider>("WfSliderFrame"));
         const auto range
             = [real] { return u"%1 to %2"_s.arg(real->getMinimum()).arg(real->getMaximum()); };
         QCOMPARE(range(), u"0 to 1.5"_s);
-        EditorFixture::write(&light->intensity, "-0.5");
+        write(&light->intensity, "-0.5");
         QCOMPARE(range(), u"-0.5 to 1.5"_s);
 
         // Another node's field has its own range, and all numbers can be typed again.
@@ -84,9 +75,9 @@ private Q_SLOTS:
         open("SFInt32", "0");
         QTest::mouseDClick(line(), Qt::LeftButton);
         QTest::keyClicks(line(), u"777"_s);
-        m_fixture->select(m_fixture->otherField("SFInt32"));
+        select(otherField("SFInt32"));
         QCOMPARE(text(), u"777"_s);
-        QCOMPARE(m_fixture->otherNode().SFInt32.getValue(), 0);
+        QCOMPARE(otherNode().SFInt32.getValue(), 0);
         QCOMPARE(scale()->maximum(), 777); // one range for all fields
     }
 
@@ -96,7 +87,7 @@ private Q_SLOTS:
         line()->setFocus();
         line()->setCursorPosition(2);
         QTest::keyClick(line(), Qt::Key_0);
-        EditorFixture::settle();
+        settle();
         // Neither Return nor leaving the line adds anything.
         QTest::keyClick(line(), Qt::Key_Return);
         line()->clearFocus();
@@ -119,18 +110,18 @@ private Q_SLOTS:
     {
         QFETCH(QString, pasted);
         open("SFString", "\"before\"");
-        const auto value = [this] { return toQString(m_fixture->node().SFString.getValue()); };
+        const auto value = [this] { return toQString(node().SFString.getValue()); };
         // No key says most of these.
         line()->setFocus();
         line()->selectAll();
         line()->insert(pasted);
         QTest::keyClick(line(), Qt::Key_Return);
-        EditorFixture::settle();
+        settle();
         QCOMPARE(value(), pasted);
         QCOMPARE(line()->text(), pasted);
-        m_fixture->undo();
+        undo();
         QCOMPARE(line()->text(), u"before"_s);
-        m_fixture->redo();
+        redo();
         QCOMPARE(value(), pasted);
     }
 
@@ -138,27 +129,26 @@ private:
     /// Selects the field of that type, which holds `text` by then, with nothing to undo.
     void open(const char* type, const char* text)
     {
-        m_fixture->select(nullptr);
-        m_fixture->undoStack().clear();
-        m_field = m_fixture->field(type);
+        select(nullptr);
+        undoStack().clear();
+        m_field = field(type);
         m_field->set(text);
-        m_fixture->select(m_field);
+        select(m_field);
     }
     QString text() const { return EditorFixture::text(m_field); }
     /// What the field holds after each step that is undone, in the order of the edits.
     QStringList undoAll()
     {
         QStringList texts;
-        while (m_fixture->undoStack().canUndo()) {
-            m_fixture->undo();
+        while (undoStack().canUndo()) {
+            undo();
             texts.prepend(text());
         }
         return texts;
     }
-    QLineEdit* line() const { return m_fixture->editor()->getFrame()->findChild<QLineEdit*>(); }
-    QSlider* scale() const { return m_fixture->child<QSlider>("m_slider"); }
+    QLineEdit* line() const { return editor()->getFrame()->findChild<QLineEdit*>(); }
+    QSlider* scale() const { return child<QSlider>("m_slider"); }
 
-    std::unique_ptr<EditorFixture> m_fixture;
     KnField* m_field = nullptr; // the one opened
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvStrings.h"
-#include "EditorCase.h"
+#include "EditorFixture.h"
 #include "SliderInput.h"
 #include "TextRows.h"
 #include "WfIntSlider.h"
@@ -8,7 +8,6 @@
 #include "WfUIntSlider.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 

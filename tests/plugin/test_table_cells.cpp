@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "ArrayFixture.h"
 #include "CellText.h"
+#include "EditorFixture.h"
 #include "EditorKind.h"
 #include "TextRows.h"
 #include "WfUIntSlider.h"
@@ -56,7 +56,7 @@ public:
 } // namespace
 
 /// How a row table's delegate paints its cells, what it opens in them, and what it stores.
-class TestTableCells : public ArrayTest {
+class TestTableCells : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
     void kindsFixTheEditor_data()
@@ -80,8 +80,8 @@ private Q_SLOTS:
     {
         QFETCH(int, kind);
         QFETCH(QString, expected);
-        m_fixture->show("MFInt32", "[ 5 ]");
-        const TableInput table = m_fixture->table();
+        show("MFInt32", "[ 5 ]");
+        const TableInput table = this->table();
         table->setEditorKind(kind);
         const auto editor = [&table] {
             QWidget parent;
@@ -110,8 +110,8 @@ private Q_SLOTS:
         const QString text = shown;
         const int room = pixels.toInt(); // beside the text
         const bool isSelected = name == u"selected";
-        m_fixture->show(type, values);
-        const auto advance = [metrics = m_fixture->table()->fontMetrics()](
+        show(type, values);
+        const auto advance = [metrics = table()->fontMetrics()](
                                  const QString& part) { return metrics.horizontalAdvance(part); };
         QStyleOptionViewItem option;
         option.rect = QRect(0, 0, advance(text) + room, 24);
@@ -120,12 +120,11 @@ private Q_SLOTS:
         painted.fill(Qt::white);
         QImage expected = painted.copy();
         QPainter painter(&painted);
-        painter.setFont(m_fixture->table()->font());
-        m_fixture->table()->itemDelegate()->paint(
-            &painter, option, m_fixture->table()->model()->index(0, 0));
+        painter.setFont(table()->font());
+        table()->itemDelegate()->paint(&painter, option, table()->model()->index(0, 0));
         painter.end();
         painter.begin(&expected);
-        painter.setFont(m_fixture->table()->font());
+        painter.setFont(table()->font());
         if (isSelected)
             painter.fillRect(option.rect, option.palette.highlight());
         painter.setPen(
@@ -187,14 +186,14 @@ private Q_SLOTS:
     void theTypedTextIsStored()
     {
         const auto [type, values, typed, stored, after] = textRow<5>();
-        const KnField& field = m_fixture->show(type, values);
-        const TableInput table = m_fixture->table();
+        const KnField& field = show(type, values);
+        const TableInput table = this->table();
         const int column = table->columnCount() > 3 ? 1 : 0;
         RoleModel model(1, 4);
         table->itemDelegate()->setModelData(
             table.type(0, column, typed), &model, model.index(0, column));
         QCOMPARE(model.m_stored, QStringList(stored));
-        QCOMPARE(EditorFixture::text(&field), after);
+        QCOMPARE(text(&field), after);
     }
 };
 

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorCase.h"
 
-#include <QAbstractButton>
-#include <QLineEdit>
-#include <QUndoStack>
-
 namespace {
 
 /// Everything that has an editor write, as what a person left behind may do at any later time.
@@ -32,50 +28,43 @@ void pokeEverything(CrvFieldEditors& editor)
 
 /// What looks like an edit and must write nothing: the field isn't shown any more, and may be gone,
 /// or nothing was changed.
-class TestUnwantedWrites : public QObject {
+class TestUnwantedWrites : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { failOnWarnings(); }
-
-    void aFieldThatIsNotShownIsNotWritten_data()
-    {
-        addRows({ singleValueCases(), compoundCases(), arrayCases() });
-    }
+    void aFieldThatIsNotShownIsNotWritten_data() { addEditorRows(); }
     void aFieldThatIsNotShownIsNotWritten()
     {
         QFETCH(EditorCase, row);
-        EditorFixture fixture;
         auto* const node = new KnTestNode;
         node->ref();
         KnField* const field = node->getField(row.type);
         QVERIFY(field->set(row.start));
-        const QString start = EditorFixture::text(field);
-        fixture.select(field);
-        CrvFieldEditors& editor = *fixture.editor();
+        const QString start = text(field);
+        select(field);
+        CrvFieldEditors& editor = *this->editor();
         QVERIFY(editor.shows(field));
-        fixture.select(nullptr);
+        select(nullptr);
         pokeEverything(editor);
-        QCOMPARE(EditorFixture::text(field), start);
+        QCOMPARE(text(field), start);
         QVERIFY(!field->isIgnored() && !editor.shows(field));
         node->unref();
         pokeEverything(editor);
-        QCOMPARE(fixture.undoStack().count(), 0);
+        QCOMPARE(commands(), 0);
     }
 
     void anIgnoreButtonLetGoBesideItself()
     {
-        EditorFixture fixture;
-        KnField* const field = fixture.field("SFBool");
+        KnField* const field = this->field("SFBool");
         field->setIgnored(1);
-        fixture.select(field);
-        auto* const button = fixture.child<QAbstractButton>("m_ignoreButton");
+        select(field);
+        auto* const button = child<QAbstractButton>("m_ignoreButton");
         QTest::mousePress(button, Qt::LeftButton);
         QTest::mouseMove(button, QPoint(-50, 5));
         QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-50, 5));
-        EditorFixture::settle();
-        QVERIFY(field->isIgnored() && fixture.undoStack().count() == 0);
+        settle();
+        QVERIFY(field->isIgnored() && commands() == 0);
         QTest::mouseClick(button, Qt::LeftButton);
-        QVERIFY(!field->isIgnored() && fixture.undoStack().count() == 1);
+        QVERIFY(!field->isIgnored() && commands() == 1);
     }
 };
 

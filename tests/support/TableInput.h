@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "EditorFixture.h"
+#include "TestShell.h"
 #include "WfMFieldTable.h"
 #include "WfMFieldWidget.h"
 
 #include <QLineEdit>
+#include <QTest>
 
-/// A table, by default that of the array editor shown, used as a person does.
+/// A table, used as a person does.
 class TableInput {
 public:
-    explicit TableInput(const EditorFixture& fixture)
-        : TableInput(fixture.child<WfMFieldTable>("m_table"))
-    {
-    }
     explicit TableInput(WfMFieldTable* table)
         : m_table(table)
     {
@@ -74,7 +71,7 @@ public:
     void typeInto(int row, int column, const QString& text) const
     {
         QTest::keyClick(type(row, column, text), Qt::Key_Return);
-        EditorFixture::settle();
+        TestShell::settle();
     }
 
 private:
