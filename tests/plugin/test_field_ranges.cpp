@@ -2,6 +2,7 @@
 #include "FieldRangeTable.h"
 #include "KnComplexity.h"
 #include "KnMaterial.h"
+#include "KnNodePtr.h"
 #include "KnPointLight.h"
 
 #include <QTest>
@@ -21,14 +22,10 @@ QString toText(const FieldRange& range)
         .arg(QLatin1String(range.isBounded() ? "bounded" : "free"));
 }
 
-template <class Node>
-QString ofReal(KnField& (*field)(Node&))
+QString ofReal(KnFieldContainer* node, const char* field)
 {
-    auto* const node = new Node;
-    node->ref();
-    const QString text = toText(FieldRangeTable().getForRealField(field(*node), "doubleField"));
-    node->unref();
-    return text;
+    const KnNodePtr held(node);
+    return toText(FieldRangeTable().getForRealField(*node->getField(field), "doubleField"));
 }
 
 constexpr char none[] = "f 0 0 d 0 0 i 0 0 free";
@@ -71,11 +68,10 @@ private Q_SLOTS:
     void theNodeChoosesTheRow()
     {
         const auto bounded = QLatin1String(ratio);
-        QCOMPARE(
-            ofReal<KnComplexity>([](auto& n) -> KnField& { return n.textureQuality; }), bounded);
-        QCOMPARE(ofReal<KnMaterial>([](auto& n) -> KnField& { return n.shininess; }), bounded);
+        QCOMPARE(ofReal(new KnComplexity, "textureQuality"), bounded);
+        QCOMPARE(ofReal(new KnMaterial, "shininess"), bounded);
         const QString otherwise = u"f 0 0 d 0 10 i 0 0 free"_s;
-        QCOMPARE(ofReal<KnPointLight>([](auto& n) -> KnField& { return n.intensity; }), otherwise);
+        QCOMPARE(ofReal(new KnPointLight, "intensity"), otherwise);
         QCOMPARE(toText(FieldRangeTable().getForRealField(KnSFFloat(), "doubleField")), otherwise);
     }
 };

@@ -89,7 +89,7 @@ private Q_SLOTS:
 
     void withoutACurrentRowThereIsNothingToEdit()
     {
-        QVERIFY(open());
+        QVERIFY(openPopup());
         QVERIFY(!line(3, 3)->isEnabled());
         clickThroughWindow(line(0, 0));
         QTest::keyClick(line(0, 0), Qt::Key_7);
@@ -134,16 +134,11 @@ private Q_SLOTS:
     }
 
 private:
-    bool open()
-    {
-        clickThroughWindow(m_button);
-        return m_frame->isVisible() && QTest::qWaitForWindowExposed(m_frame);
-    }
     /// Jumps to a row, counted from 1, as a person does, and opens the popup.
     bool open(int row)
     {
         typeInto(child<QSpinBox>("m_accessBox"), QString::number(row));
-        return open();
+        return openPopup();
     }
     QLineEdit* line(int gridRow, int gridColumn) const
     {

@@ -28,7 +28,7 @@ private Q_SLOTS:
         const QPoint target = QPoint(screen.width(), screen.height()) * part.toDouble();
         window().move(window().pos() + target - m_button->mapToGlobal(QPoint()));
         QTRY_VERIFY((m_button->mapToGlobal(QPoint()) - target).manhattanLength() < 40);
-        QVERIFY(open());
+        QVERIFY(openPopup());
 
         QPoint expected = m_button->mapToGlobal(m_button->rect().bottomRight());
         const QSize room = m_frame->size() + m_button->size();
@@ -107,7 +107,7 @@ private Q_SLOTS:
         m_button->setFocusPolicy(Qt::NoFocus);
         if (QWidget* const focus = QApplication::focusWidget())
             focus->clearFocus();
-        QVERIFY(open());
+        QVERIFY(openPopup());
         clickThroughWindow(m_frame);
         QVERIFY(m_frame->isVisible());
         clickThroughWindow(m_lines[2]);
@@ -120,7 +120,7 @@ private Q_SLOTS:
         const int count = text.contains(u'7') ? 1 : 0;
         QCOMPARE(EditorFixture::text(field("SFBox2f")), text);
         QCOMPARE(commands(), count);
-        QVERIFY(open());
+        QVERIFY(openPopup());
         QCOMPARE(linesShown("m_lineEdits"), text);
         QCOMPARE(commands(), count);
     }
@@ -133,12 +133,6 @@ private:
         m_frame = child<QWidget>("m_popupFrame");
         m_button = child<QAbstractButton>("m_editButton");
         m_lines = m_frame->findChildren<QLineEdit*>();
-    }
-    /// Clicks the button with the grid closed and waits for the grid.
-    bool open()
-    {
-        clickThroughWindow(m_button);
-        return m_frame->isVisible() && QTest::qWaitForWindowExposed(m_frame);
     }
     /// A key for whatever has the focus, by way of the window system.
     void press(Qt::Key key) { QTest::keyClick(window().windowHandle(), key); }

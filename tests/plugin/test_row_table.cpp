@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorFixture.h"
+#include "StandardError.h"
 #include "TextRows.h"
 #include "WindowInput.h"
 
@@ -11,10 +12,6 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
-#include <QTemporaryFile>
-
-#include <cstdio>
-#include <unistd.h>
 
 namespace {
 
@@ -108,19 +105,12 @@ private Q_SLOTS:
 
     void movesAreToldOnStandardError()
     {
-        std::fflush(stderr);
-        QTemporaryFile file;
-        QVERIFY(file.open());
-        const int before = ::dup(STDERR_FILENO);
-        ::dup2(file.handle(), STDERR_FILENO);
         // From the first row up, from the last one down, and what does move.
-        for (const char step : QByteArray("AuEvBuAv"))
-            take(step);
-        std::fflush(stderr);
-        ::dup2(before, STDERR_FILENO);
-        ::close(before);
-        file.seek(0);
-        QCOMPARE(file.readAll(),
+        const QByteArray told = standardErrorOf([this] {
+            for (const char step : QByteArray("AuEvBuAv"))
+                take(step);
+        });
+        QCOMPARE(told,
             QByteArray("WfMFieldTable::swapUpRow() 0\nWfMFieldTable::swapDownRow() 4\n"
                        "WfMFieldTable::swapUpRow() 1\nWfMFieldTable::swapDownRow() 0\n"));
         QCOMPARE(state(), QStringLiteral("[ 10, 11, 12, 13, 14 ] 1-5 2"));

@@ -126,15 +126,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Selects the field of that type, which holds `text` by then, with nothing to undo.
-    void open(const char* type, const char* text)
-    {
-        select(nullptr);
-        undoStack().clear();
-        m_field = field(type);
-        m_field->set(text);
-        select(m_field);
-    }
+    void open(const char* type, const char* text) { m_field = &show(type, text); }
     QString text() const { return EditorFixture::text(m_field); }
     /// What the field holds after each step that is undone, in the order of the edits.
     QStringList undoAll()

@@ -5,6 +5,7 @@
 #include "CrvServices.h"
 #include "CrvStrings.h"
 #include "KnMField.h"
+#include "WindowInput.h"
 
 #include <QApplication>
 #include <QRegularExpression>
@@ -106,6 +107,13 @@ void EditorFixture::clickButton(const char* name)
 {
     QTest::mouseClick(child<QAbstractButton>(name), Qt::LeftButton);
     settle();
+}
+
+bool EditorFixture::openPopup()
+{
+    clickThroughWindow(child<QWidget>("m_editButton"));
+    auto* const popup = child<QWidget>("m_popupFrame");
+    return popup->isVisible() && QTest::qWaitForWindowExposed(popup);
 }
 
 void EditorFixture::press(int key)

@@ -63,6 +63,8 @@ public:
     static void change(KnField& field, const QString& change);
 
     void clickButton(const char* name);
+    /// Clicks the button of the editor's popup by way of the window, and waits for the popup.
+    bool openPopup();
     /// A key where the focus is.
     static void press(int key);
     /// Puts `text` into a line edit as a person would, in place of what it holds; Return follows.
