@@ -9,6 +9,27 @@ QString orText(const char* text, const char* fieldText)
     return QString::fromUtf8(text ? text : fieldText);
 }
 
+/// Everything that has an editor write, as what a person left behind may do at any later time.
+void pokeEverything(CrvFieldEditors& editor)
+{
+    const KbVec4f color(1, 1, 1, 1);
+    editor.applyChanges();
+    editor.setFieldValue(0, 0, QStringLiteral("7"));
+    editor.swapFieldValues(0, 1);
+    editor.setFieldColor(0, &color);
+    editor.updateFromField();
+    for (const char* name : { "m_defaultButton", "m_ignoreButton", "m_checkBoxes", "m_addButton",
+             "m_deleteButton", "m_downButton" }) {
+        if (auto* button = editor.getFrame()->findChild<QAbstractButton*>(QLatin1String(name)))
+            button->click();
+    }
+    for (QLineEdit* line : editor.getFrame()->findChildren<QLineEdit*>()) {
+        line->setModified(true);
+        Q_EMIT line->returnPressed();
+        Q_EMIT line->editingFinished();
+    }
+}
+
 } // namespace
 
 /// The road that every field editor passes.
@@ -59,8 +80,7 @@ private Q_SLOTS:
         QCOMPARE(row.shown(*this), orText(row.shownOutside, row.outside));
         QCOMPARE(stack.count(), row.commands);
 
-        QTest::mouseClick(child<QAbstractButton>("m_defaultButton"), Qt::LeftButton);
-        settle();
+        clickButton("m_defaultButton");
         QCOMPARE(text(field), defaultText);
         QCOMPARE(stack.count(), row.commands + 1);
         undo();
@@ -70,8 +90,7 @@ private Q_SLOTS:
         QCOMPARE(text(field), outside);
 
         auto* const ignore = child<QAbstractButton>("m_ignoreButton");
-        QTest::mouseClick(ignore, Qt::LeftButton);
-        settle();
+        clickButton("m_ignoreButton");
         QVERIFY(field->isIgnored() && ignore->isChecked());
         undo();
         QVERIFY(!field->isIgnored() && !ignore->isChecked());
@@ -89,8 +108,7 @@ private Q_SLOTS:
         QCOMPARE(text(field), outside);
         QCOMPARE(text(other), start);
         QCOMPARE(stack.index(), commands);
-        QTest::mouseClick(ignore, Qt::LeftButton);
-        settle();
+        clickButton("m_ignoreButton");
         QVERIFY(!other->isIgnored() && !ignore->isChecked());
         QCOMPARE(stack.index(), commands + 1);
     }
@@ -106,6 +124,43 @@ private Q_SLOTS:
         QTest::mousePress(ignore, Qt::LeftButton);
         QTest::mouseRelease(ignore, Qt::LeftButton);
         QVERIFY(wasIgnored); // before the button was clicked
+    }
+
+    /// The field isn't shown any more, and may be gone.
+    void aFieldThatIsNotShownIsNotWritten_data() { addEditorRows(); }
+    void aFieldThatIsNotShownIsNotWritten()
+    {
+        QFETCH(EditorCase, row);
+        auto* const node = new KnTestNode;
+        node->ref();
+        KnField* const field = node->getField(row.type);
+        QVERIFY(field->set(row.start));
+        const QString start = text(field);
+        select(field);
+        CrvFieldEditors& editor = *this->editor();
+        QVERIFY(editor.shows(field));
+        select(nullptr);
+        pokeEverything(editor);
+        QCOMPARE(text(field), start);
+        QVERIFY(!field->isIgnored() && !editor.shows(field));
+        node->unref();
+        pokeEverything(editor);
+        QCOMPARE(commands(), 0);
+    }
+
+    void anIgnoreButtonLetGoBesideItself()
+    {
+        KnField* const field = this->field("SFBool");
+        field->setIgnored(1);
+        select(field);
+        auto* const button = child<QAbstractButton>("m_ignoreButton");
+        QTest::mousePress(button, Qt::LeftButton);
+        QTest::mouseMove(button, QPoint(-50, 5));
+        QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-50, 5));
+        settle();
+        QVERIFY(field->isIgnored() && commands() == 0);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(!field->isIgnored() && commands() == 1);
     }
 };
 
