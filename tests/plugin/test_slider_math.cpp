@@ -20,17 +20,6 @@ constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 class TestSliderMath : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void unsignedValuesKeepTheirOrder()
-    {
-        using Limits = std::numeric_limits<int>;
-        const std::pair<unsigned int, int> rows[] = { { 0, Limits::min() }, { 0x7fffffff, -1 },
-            { 0x80000000, 0 }, { 0xffffffff, Limits::max() } };
-        for (const auto& [value, position] : rows) {
-            QCOMPARE(unsignedPosition(value), position);
-            QCOMPARE(unsignedValue(position), value);
-        }
-    }
-
     void positionsOfReals()
     {
         const std::tuple<double, double, double, int> rows[] = { { 0.5, 0, 100, 1 },

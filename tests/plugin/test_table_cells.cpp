@@ -6,7 +6,6 @@
 #include "WfUIntSlider.h"
 
 #include <QPainter>
-#include <QStandardItemModel>
 
 using namespace Qt::StringLiterals;
 
@@ -40,22 +39,9 @@ int tenACharacter(const QString& text)
     return width;
 }
 
-/// Notes what is stored, and under which role.
-class RoleModel : public QStandardItemModel {
-public:
-    using QStandardItemModel::QStandardItemModel;
-    bool setData(const QModelIndex&, const QVariant& value, int role) override
-    {
-        m_stored << value.toString() + QString::number(role);
-        return true;
-    }
-
-    QStringList m_stored;
-};
-
 } // namespace
 
-/// How a row table's delegate paints its cells, what it opens in them, and what it stores.
+/// How a row table's delegate paints its cells and what it opens in them.
 class TestTableCells : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
@@ -170,30 +156,6 @@ private Q_SLOTS:
         });
         QCOMPARE(shown, u"xxxxxx..."_s);
         QVERIFY(longest < 10'000);
-    }
-
-    void theTypedTextIsStored_data()
-    {
-        // The last are what is stored, with its role, and the values behind it.
-        addTextRows({
-            { "MFDouble", "[ 5 ]", "007", "0070", "[ 7 ]" },
-            { "MFVec2f", "[ 5 6 ]", "1e39", "1e390", "[ 5 6 ]" }, // refused
-            { "MFColor", "[ 0 1 0 ]", "0.50", "0.502", "[ 0.5 1 0 ]" },
-            { "MFColorRGBA", "[ 0 1 0 1 ]", "1.5", "1.52", "[ 0 1 0 1 ]" },
-        });
-    }
-
-    void theTypedTextIsStored()
-    {
-        const auto [type, values, typed, stored, after] = textRow<5>();
-        const KnField& field = show(type, values);
-        const TableInput table = this->table();
-        const int column = table->columnCount() > 3 ? 1 : 0;
-        RoleModel model(1, 4);
-        table->itemDelegate()->setModelData(
-            table.type(0, column, typed), &model, model.index(0, column));
-        QCOMPARE(model.m_stored, QStringList(stored));
-        QCOMPARE(text(&field), after);
     }
 };
 
