@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 // Threads print while another one captures and releases the stream: without Qt, so that the thread
 // sanitizer sees all of it.
+#include "Check.h"
 #include "OwnBuffer.h"
 #include "StreamCapture.h"
 
 #include <atomic>
-#include <cstdio>
-#include <cstdlib>
 #include <iostream>
 #include <memory>
 
@@ -14,14 +13,6 @@ namespace {
 
 constexpr int threadCount = 4;
 constexpr int messageCount = 20000; // of each thread
-
-#define CHECK(condition)                                                                           \
-    do {                                                                                           \
-        if (!(condition)) {                                                                        \
-            std::fprintf(stderr, "line %d: %s\n", __LINE__, #condition);                           \
-            std::abort();                                                                          \
-        }                                                                                          \
-    } while (false)
 
 /// The user data of one capture, gone after its release, so that a late call shows.
 struct Capture {
@@ -66,14 +57,14 @@ int main()
     do {
         const auto capture = std::make_unique<Capture>(Capture { &own, &calls });
         // One and the same all the time: captures don't pile up.
-        CHECK(captureStream(std::cout, &takeText, capture.get()) == redirector);
-        CHECK(std::cout.rdbuf() == redirector);
+        check(captureStream(std::cout, &takeText, capture.get()) == redirector, "the same again");
+        check(std::cout.rdbuf() == redirector, "the stream is captured");
         std::this_thread::yield();
         releaseStream(redirector);
-        CHECK(std::cout.rdbuf() == &own);
+        check(std::cout.rdbuf() == &own, "the stream has its own buffer again");
     } while (running > 0);
     threads.clear();
-    CHECK(calls > 0);
+    check(calls > 0, "some of it was captured");
 
     // Each block and each line once and whole, and the blocks of a thread in their order. A
     // captured line holds the characters of any thread.
@@ -83,12 +74,12 @@ int main()
         int thread = 0;
         int number = 0;
         if (std::sscanf(text.c_str(), "%d:%d", &thread, &number) == 2)
-            CHECK(next[thread]++ == number);
+            check(next[thread]++ == number, "blocks in their order");
         else
             lines += text.back() == '\n' ? 1 : 0;
     }
     for (const int count : next)
-        CHECK(count == messageCount);
-    CHECK(lines == threadCount * messageCount);
+        check(count == messageCount, "every block once");
+    check(lines == threadCount * messageCount, "every line once");
     return 0;
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 // Threads print while another one shows, stands still or goes away: without Qt, so that the thread
 // sanitizer sees all of it. A wait that doesn't end is seen by the test's time limit.
+#include "Check.h"
 #include "PrintBrake.h"
 
 #include <atomic>
-#include <cstdio>
-#include <cstdlib>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -45,14 +44,6 @@ std::vector<std::jthread> print(PrintBrake& brake, Way& way, int messageCount)
         });
     }
     return threads;
-}
-
-void check(bool condition, const char* what)
-{
-    if (condition)
-        return;
-    std::fprintf(stderr, "not so: %s\n", what);
-    std::abort();
 }
 
 void aViewThatShowsIsNeverFurtherBehindThanTheLimit()
