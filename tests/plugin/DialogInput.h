@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "EditorFixture.h"
+#include "TestShell.h"
 
+#include <QApplication>
 #include <QTimer>
 
 /// Runs `open`, which opens a modal `Dialog`, and lets `act` use it, as a person would, until it is
@@ -26,11 +27,4 @@ bool inDialogOpenedBy(Open open, Act act)
     open();
     TestShell::settle();
     return closed;
-}
-
-/// The same with a click on a button.
-template <class Dialog, class Act>
-bool inDialog(QWidget* button, Act act)
-{
-    return inDialogOpenedBy<Dialog>([button] { QTest::mouseClick(button, Qt::LeftButton); }, act);
 }

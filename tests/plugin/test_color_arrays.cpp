@@ -21,8 +21,6 @@ QColor swatch(const TableInput& table, int row)
 class TestColorArrays : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
-    static void initMain() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
-
     void theSwatchShowsTheColor_data()
     {
         addTextRows({

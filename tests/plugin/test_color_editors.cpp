@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "DialogInput.h"
+#include "EditorFixture.h"
 
 #include <QColorDialog>
 #include <QPushButton>
@@ -7,8 +8,6 @@
 class TestColorEditors : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
-
     void typingChangesTheDisplayAndNotTheField()
     {
         const KnField& field = show("SFColorRGBA", "1 0 0 1");
@@ -86,7 +85,7 @@ private:
             dialog->setCurrentColor(QColor(128, 0, 255, 51));
             QTest::keyClick(dialog, key);
         };
-        return inDialog<QColorDialog>(child<QPushButton>("m_colorDisp"), act);
+        return inDialogOpenedBy<QColorDialog>([this] { clickButton("m_colorDisp"); }, act);
     }
 };
 

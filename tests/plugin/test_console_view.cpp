@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ConsoleFixture.h"
+#include "DialogInput.h"
 #include "KnErrorStack.h"
 #include "KnMemoryError.h"
 #include "LayoutDump.h"
@@ -9,7 +10,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTemporaryDir>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -115,9 +115,9 @@ m_saveButton icon=16x16 toolTip=Saves the content of the console]])"_s;
         QFile file(u"out.txt"_s);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(5000));
         file.close();
-        saveAs(QString());
+        QVERIFY(saveAs(QString()));
         QCOMPARE(file.size(), 5000);
-        saveAs(file.fileName());
+        QVERIFY(saveAs(file.fileName()));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), plain.join(u'\n').toLatin1());
         QCOMPARE(QDir().entryList(QDir::Files), QStringList(file.fileName()));
@@ -175,11 +175,9 @@ private:
         return lines.join(u'\n');
     }
     /// Clicks the button and types a file's name into the dialog; an empty one cancels.
-    void saveAs(const QString& fileName)
+    bool saveAs(const QString& fileName)
     {
-        QTimer::singleShot(0, this, [fileName] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            QVERIFY(dialog);
+        const auto act = [fileName](QFileDialog* dialog) {
             QCOMPARE(dialog->windowTitle() + u'|' + dialog->nameFilters().join(u'|'),
                 u"Save the content of the console|Console outputs (*.txt)"_s);
             auto* const line = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
@@ -189,8 +187,8 @@ private:
             QTimer::singleShot(
                 0, dialog, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Y); });
             QTest::keyClick(dialog, fileName.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
-        });
-        click(m_console->m_saveButton);
+        };
+        return inDialogOpenedBy<QFileDialog>([this] { click(m_console->m_saveButton); }, act);
     }
 };
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "DialogInput.h"
+#include "EditorFixture.h"
 
 #include <QFileDialog>
-#include <QPushButton>
 #include <QTemporaryDir>
 
 class TestFilePathEditor : public EditorFixture {
@@ -10,7 +10,6 @@ class TestFilePathEditor : public EditorFixture {
 private Q_SLOTS:
     void initTestCase()
     {
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         QVERIFY(m_folder.isValid());
         m_path = m_folder.filePath(QStringLiteral("\u20AC \u4E2D.png"));
         QFile file(m_path);
@@ -43,7 +42,7 @@ private:
     template <class Act>
     bool inFileDialog(Act act)
     {
-        return inDialog<QFileDialog>(child<QPushButton>("openFileButton"), act);
+        return inDialogOpenedBy<QFileDialog>([this] { clickButton("openFileButton"); }, act);
     }
     void enterPath(QFileDialog* dialog)
     {

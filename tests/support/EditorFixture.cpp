@@ -18,6 +18,7 @@ void failOnWarnings()
 void EditorFixture::init()
 {
     failOnWarnings();
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     m_shell = std::make_unique<TestShell>();
     m_plugin = std::make_unique<CrvDefaults>();
     for (KnTestNode** node : { &m_node, &m_otherNode }) {
