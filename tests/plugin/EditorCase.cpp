@@ -126,7 +126,7 @@ const EditorCase singleCases[] {
         .edited = "\"say \\\"b\\\"\"", .outside = "\"\"", .shownAtStart = "a",
         .shownEdited = "say \"b\"", .shownOutside = "" },
     // No editor of its own: the line takes it, with two commands a keystroke.
-    { .type = "SFTime", .editor = "WfSFLineWidget", .start = "12.5", .line = "lineEdit",
+    { .type = "SFTime", .start = "12.5", .line = "lineEdit",
         .typed = "37", .edited = "37", .commands = 4, .outside = "1.0", .shownOutside = "1" },
     { .type = "SFUInt32", .start = "0xff", .line = "m_lineEdit", .typed = "fffffffe",
         .edited = "0xfffffffe", .commands = 2, .outside = "4294967295", .shownAtStart = "ff",
@@ -166,10 +166,10 @@ const EditorCase singleCases[] {
     { .type = "SFVec2f", .start = "1 2", .line = "SFVec2fBox", .typed = "-9.5",
         .edited = "1 -9.5", .commands = 2, .outside = "1e-20 1234567",
         .shownOutside = "1e-20 1.23457e+06" },
-    { .type = "SFVec2i32", .start = "-2147483648 2147483646", .line = "qt_spinbox_lineedit", .act = stepUp,
-        .edited = "-2147483648 2147483647", .outside = "0 1000000" },
-    { .type = "SFVec2s", .start = "-32768 32766", .line = "qt_spinbox_lineedit", .act = stepUp, .edited = "-32768 32767",
-        .outside = "0 10000" },
+    { .type = "SFVec2i32", .start = "-2147483648 2147483646", .line = "qt_spinbox_lineedit",
+        .act = stepUp, .edited = "-2147483648 2147483647", .outside = "0 1000000" },
+    { .type = "SFVec2s", .start = "-32768 32766", .line = "qt_spinbox_lineedit",
+        .act = stepUp, .edited = "-32768 32767", .outside = "0 10000" },
     { .type = "SFVec3f", .start = "1 2 3", .line = "SFVec3fLine", .typed = "9.5",
         .edited = "1 2 9.5", .commands = 2, .outside = "0 0.1 -0.1" },
     { .type = "SFVec4f", .start = "1 2 3 4", .line = "SF4fine", .typed = "9.5",
@@ -213,7 +213,7 @@ const EditorCase arrayCases[] {
     { .type = "MFString", .start = "[ \"a b\", \"c\" ]", .act = typeIntoRow1<Word>,
         .edited = "[ \"a b\", \"word\" ]", .outside = "[ \"d\" ]", .shownAtStart = "[ a b, c ]",
         .shownEdited = "[ a b, word ]", .shownOutside = "[ d ]" },
-    { .type = "MFTime", .editor = "WfMFDefaultFieldWidget", .start = "[ 1.5, 2 ]",
+    { .type = "MFTime", .start = "[ 1.5, 2 ]",
         .act = typeIntoRow1<Half>, .edited = "[ 1.5, 0.5 ]", .outside = "[ 3 ]" },
     { .type = "MFUInt32", .start = "[ 0x1, 0xfffffffe ]", .act = typeIntoRow1<Seven>,
         .edited = "[ 0x1, 0x7 ]", .commands = 0, .outside = "[ 0x3 ]" },
@@ -235,12 +235,6 @@ const EditorCase arrayCases[] {
 // clang-format on
 
 } // namespace
-
-QString EditorCase::editorName() const
-{
-    return editor ? QString::fromLatin1(editor)
-                  : QStringLiteral("Wf%1Widget").arg(QLatin1String(type));
-}
 
 void EditorCase::edit(EditorFixture& fixture) const
 {

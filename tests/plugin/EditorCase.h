@@ -7,7 +7,6 @@
 /// named after its type.
 struct EditorCase {
     const char* type; ///< of the field, such as "SFBool"
-    const char* editor = nullptr; ///< object name; null for the one named after the type
     const char* start; ///< text that the field gets first
     const char* line = nullptr; ///< object name of the lines, of which the last is edited
     const char* typed = nullptr; ///< into the line; Return follows
@@ -22,7 +21,6 @@ struct EditorCase {
     const char* shownEdited = nullptr;
     const char* shownOutside = nullptr;
 
-    QString editorName() const;
     /// Edits as a person would, with mouse and keys.
     void edit(EditorFixture& fixture) const;
     /// What a person reads in the inputs.

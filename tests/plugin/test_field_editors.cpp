@@ -32,7 +32,7 @@ void pokeEverything(CrvFieldEditors& editor)
 
 } // namespace
 
-/// The road that every field editor passes.
+/// The road that every field editor passes, and what looks like an edit and must write nothing.
 class TestFieldEditors : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
@@ -51,9 +51,8 @@ private Q_SLOTS:
         QVERIFY(field->set(row.start));
         const QString start = text(field);
         select(field);
-        QVERIFY(editor());
-        QCOMPARE(editor()->objectName(), row.editorName());
-        QVERIFY(editor()->getFrame()->isVisible());
+        const CrvFieldEditors* const shown = editor();
+        QVERIFY(shown && editor()->getFrame()->isVisible());
         QCOMPARE(row.shown(*this), shownAtStart);
         QCOMPARE(text(field), start);
         QCOMPARE(stack.count(), 0);
@@ -102,7 +101,7 @@ private Q_SLOTS:
         static const QSet<QByteArray> texts { "SFFilePathString", "SFName", "SFString" };
         const int commands = stack.index() + (texts.contains(row.type) ? 1 : 0);
         select(other);
-        QCOMPARE(editor()->objectName(), row.editorName());
+        QCOMPARE(editor(), shown);
         QCOMPARE(row.shown(*this), shownAtStart);
         QVERIFY(ignore->isChecked());
         QCOMPARE(text(field), outside);
