@@ -5,9 +5,16 @@
 #include "Pixmaps.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QGridLayout>
-#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMetaProperty>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTableWidget>
 #include <QValidator>
 
 #include <algorithm>
@@ -87,14 +94,20 @@ QString headersOf(const QTableWidget* table)
 
 } // namespace
 
+LayoutDump::LayoutDump()
+{
+    for (QWidget* each : std::initializer_list<QWidget*> { new QLabel, new QPushButton,
+             new QLineEdit, new QCheckBox, new QComboBox, new QSpinBox, new QSlider(Qt::Horizontal),
+             new QTableWidget, new QFrame })
+        m_fresh.emplace_back(each);
+}
+
 QString LayoutDump::widget(const QWidget* widget)
 {
     m_met << widget;
-    const QWidget* const all[]
-        = { &m_label, &m_button, &m_line, &m_check, &m_combo, &m_spin, &m_slider, &m_table };
-    const auto same = std::find_if(std::begin(all), std::end(all),
-        [widget](const QWidget* each) { return each->metaObject()->cast(widget); });
-    const QWidget* const fresh = same == std::end(all) ? &m_frame : *same;
+    const auto same = std::find_if(m_fresh.begin(), m_fresh.end() - 1,
+        [widget](const auto& each) { return each->metaObject()->cast(widget); });
+    const QWidget* const fresh = same->get();
 
     QStringList parts { className(widget), widget->objectName(),
         extent(u'w', widget->minimumWidth(), widget->maximumWidth()),

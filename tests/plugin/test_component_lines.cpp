@@ -111,11 +111,9 @@ private:
     /// What holds the lines of the editor shown: the popup, which it opens, or the editor's frame.
     QWidget* openGrid()
     {
-        auto* const button
-            = editor()->getFrame()->findChild<QPushButton*>(QStringLiteral("m_editButton"));
-        if (!button)
+        if (!editor()->getFrame()->findChild<QPushButton*>(QStringLiteral("m_editButton")))
             return editor()->getFrame();
-        QTest::mouseClick(button, Qt::LeftButton);
+        clickButton("m_editButton");
         return child<QWidget>("m_popupFrame");
     }
 };
