@@ -41,7 +41,7 @@ int tenACharacter(const QString& text)
 
 } // namespace
 
-/// How a row table's delegate paints its cells and what it opens in them.
+/// How a row table's delegate paints its cells, what it opens in them, and what it stores.
 class TestTableCells : public EditorFixture {
     Q_OBJECT
 private Q_SLOTS:
@@ -156,6 +156,25 @@ private Q_SLOTS:
         });
         QCOMPARE(shown, u"xxxxxx..."_s);
         QVERIFY(longest < 10'000);
+    }
+
+    void theTypedTextIsStored_data()
+    {
+        addTextRows({
+            { "MFDouble", "[ 5 ]", "007", "[ 7 ]" },
+            { "MFColor", "[ 0 1 0 ]", "0.50", "[ 0.5 1 0 ]" },
+        });
+    }
+
+    void theTypedTextIsStored()
+    {
+        const auto [type, values, typed, after] = textRow<4>();
+        const KnField& field = show(type, values);
+        const int column = table()->columnCount() > 2 ? 1 : 0;
+        table().type(0, column, typed);
+        press(Qt::Key_Return);
+        QCOMPARE(table()->model()->index(0, column).data().toString(), typed);
+        QCOMPARE(text(&field), after);
     }
 };
 
