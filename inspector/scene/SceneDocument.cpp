@@ -19,7 +19,11 @@ SceneDocument::SceneDocument(QObject* parent)
     connect(&m_changes, &SceneChanges::modifiedChanged, this, &SceneDocument::modifiedChanged);
 }
 
-SceneDocument::~SceneDocument() { release(); }
+SceneDocument::~SceneDocument()
+{
+    release();
+    CrvServices::getInstance()->setRoots({});
+}
 
 bool SceneDocument::isModified()
 {
@@ -85,8 +89,8 @@ void SceneDocument::release()
 void SceneDocument::replace(KnNodePtr root, const QString& fileName)
 {
     release();
-    std::swap(m_root, root); // the former one stays alive until the views have let go of it
+    m_root = std::move(root);
     m_fileName = fileName;
-    Q_EMIT sceneReplaced();
+    CrvServices::getInstance()->setRoots({ m_root });
     Q_EMIT fileNameChanged();
 }

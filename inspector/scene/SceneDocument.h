@@ -33,7 +33,6 @@ public:
     bool save(const QString& fileName, QString* error);
 
 Q_SIGNALS:
-    void sceneReplaced();
     void fileNameChanged();
     void modifiedChanged(bool modified);
 

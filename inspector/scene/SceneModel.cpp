@@ -6,8 +6,6 @@
 
 #include <QFont>
 
-#include <vector>
-
 /// One place in the tree.
 struct SceneModel::Item {
     Item(KnFieldContainer* itemNode, Item* itemParent, int itemRow)
@@ -41,7 +39,7 @@ struct SceneModel::Item {
     /// Below this place or at it; null if the node isn't there.
     Item* find(const KnFieldContainer* wanted)
     {
-        if (node.get() == wanted)
+        if (node && node.get() == wanted)
             return this;
         for (const auto& child : childItems()) {
             if (Item* found = child->find(wanted))
@@ -51,22 +49,27 @@ struct SceneModel::Item {
     }
 
     KnNodePtr node;
-    Item* parent; // null for the root
+    Item* parent; // null for the top
     int row;
     std::vector<std::unique_ptr<Item>> children; // made by childItems()
 };
 
 SceneModel::SceneModel(QObject* parent)
     : QAbstractItemModel(parent)
+    , m_top(std::make_unique<Item>(nullptr, nullptr, 0))
 {
 }
 
 SceneModel::~SceneModel() = default;
 
-void SceneModel::setRoot(const KnNodePtr& root)
+void SceneModel::setRoots(const std::vector<KnNodePtr>& roots)
 {
     beginResetModel();
-    m_root = root ? std::make_unique<Item>(root.get(), nullptr, 0) : nullptr;
+    m_top->children.clear();
+    for (const KnNodePtr& root : roots) {
+        const int row = static_cast<int>(m_top->children.size());
+        m_top->children.push_back(std::make_unique<Item>(root.get(), m_top.get(), row));
+    }
     endResetModel();
 }
 
@@ -77,7 +80,7 @@ KnFieldContainer* SceneModel::node(const QModelIndex& index) const
 
 QModelIndex SceneModel::indexOf(const KnFieldContainer* node) const
 {
-    Item* const item = m_root && node ? m_root->find(node) : nullptr;
+    Item* const item = node ? m_top->find(node) : nullptr;
     return item ? createIndex(item->row, NameColumn, item) : QModelIndex();
 }
 
@@ -85,8 +88,6 @@ QModelIndex SceneModel::index(int row, int column, const QModelIndex& parent) co
 {
     if (!hasIndex(row, column, parent))
         return QModelIndex();
-    if (!parent.isValid())
-        return createIndex(row, column, m_root.get());
     return createIndex(
         row, column, itemOf(parent)->childItems()[static_cast<std::size_t>(row)].get());
 }
@@ -94,14 +95,13 @@ QModelIndex SceneModel::index(int row, int column, const QModelIndex& parent) co
 QModelIndex SceneModel::parent(const QModelIndex& index) const
 {
     Item* const parentItem = index.isValid() ? itemOf(index)->parent : nullptr;
-    return parentItem ? createIndex(parentItem->row, NameColumn, parentItem) : QModelIndex();
+    return parentItem && parentItem->parent ? createIndex(parentItem->row, NameColumn, parentItem)
+                                            : QModelIndex();
 }
 
 int SceneModel::rowCount(const QModelIndex& parent) const
 {
-    if (!parent.isValid())
-        return m_root ? 1 : 0;
-    return parent.column() == NameColumn ? itemOf(parent)->childCount() : 0;
+    return parent.column() <= NameColumn ? itemOf(parent)->childCount() : 0;
 }
 
 int SceneModel::columnCount(const QModelIndex&) const { return ColumnCount; }
@@ -138,5 +138,5 @@ QVariant SceneModel::headerData(int section, Qt::Orientation orientation, int ro
 
 SceneModel::Item* SceneModel::itemOf(const QModelIndex& index) const
 {
-    return static_cast<Item*>(index.internalPointer());
+    return index.isValid() ? static_cast<Item*>(index.internalPointer()) : m_top.get();
 }

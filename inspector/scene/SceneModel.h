@@ -6,10 +6,11 @@
 #include <QAbstractItemModel>
 
 #include <memory>
+#include <vector>
 
-/// The scene as a tree: one row per place of a node, the root at the top. Rows are made when a view
-/// asks for them. A node that has several parents stands in several places. The kernel doesn't tell
-/// when a graph changes its shape: rows that were made stay as they are, and keep their nodes
+/// The scene as a tree: one row per place of a node, the roots at the top. Rows are made when a
+/// view asks for them. A node that has several parents stands in several places. The kernel doesn't
+/// tell when a graph changes its shape: rows that were made stay as they are, and keep their nodes
 /// alive.
 class SceneModel : public QAbstractItemModel {
     Q_OBJECT
@@ -19,8 +20,8 @@ public:
     explicit SceneModel(QObject* parent = nullptr);
     ~SceneModel() override;
 
-    /// Null for an empty tree. The model holds a reference.
-    void setRoot(const KnNodePtr& root);
+    /// None is null. The model holds a reference on each.
+    void setRoots(const std::vector<KnNodePtr>& roots);
 
     /// Null for an index that isn't one of this model.
     KnFieldContainer* node(const QModelIndex& index) const;
@@ -40,5 +41,5 @@ private:
 
     Item* itemOf(const QModelIndex& index) const;
 
-    std::unique_ptr<Item> m_root; // null for an empty tree
+    std::unique_ptr<Item> m_top; // has the roots as its children, and no node
 };

@@ -58,8 +58,6 @@ MainWindow::MainWindow(QSettings* settings, QWidget* parent)
     buildViewMenu();
     qApp->installEventFilter(new UndoKeys(this));
 
-    connect(&m_document, &SceneDocument::sceneReplaced, this,
-        [this] { m_scenePanel->setRoot(m_document.root()); });
     connect(&m_document, &SceneDocument::fileNameChanged, this, &MainWindow::showFileName);
     connect(&m_document, &SceneDocument::modifiedChanged, this, &QWidget::setWindowModified);
     showFileName();

@@ -60,15 +60,17 @@ ScenePanel::ScenePanel(QWidget* parent)
     connect(m_filterEdit, &QLineEdit::textChanged, this, &ScenePanel::setFilterText);
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &ScenePanel::currentChanged);
-    connect(CrvServices::getInstance(), &CrvServices::selectedNodeChanged, this,
-        &ScenePanel::showSelection);
+    CrvServices* const services = CrvServices::getInstance();
+    connect(services, &CrvServices::rootsChanged, this, &ScenePanel::showRoots);
+    connect(services, &CrvServices::selectedNodeChanged, this, &ScenePanel::showSelection);
+    showRoots();
 }
 
-void ScenePanel::setRoot(const KnNodePtr& root)
+void ScenePanel::showRoots()
 {
     const QScopedValueRollback following(m_following, true);
     m_filterEdit->clear();
-    m_model.setRoot(root);
+    m_model.setRoots(CrvServices::getInstance()->getRoots());
     m_tree->expandToDepth(0);
 }
 

@@ -16,11 +16,10 @@ class ScenePanel : public QWidget {
 public:
     explicit ScenePanel(QWidget* parent = nullptr);
 
-    /// Null for an empty tree.
-    void setRoot(const KnNodePtr& root);
     void focusFilter();
 
 private:
+    void showRoots();
     void setFilterText(const QString& text);
     void currentChanged(const QModelIndex& current);
     void showSelection();

@@ -2,13 +2,16 @@
 #include "CrvSensorPump.h"
 
 #include "KnSensorQueue.h"
+#include "KnWriteThread.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QEvent>
 #include <QThread>
 
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -23,6 +26,7 @@ QEvent::Type batchEvent()
 CrvSensorPump::CrvSensorPump(QObject* parent)
     : QObject(parent)
 {
+    KnWriteThread::setCurrent();
     KnSensorQueue& queue = KnSensorQueue::getInstance();
     queue.setWakeCallback(&CrvSensorPump::wake, this);
     // The queue only wakes when it stops being empty, which may have happened before.
@@ -30,7 +34,26 @@ CrvSensorPump::CrvSensorPump(QObject* parent)
         post();
 }
 
-CrvSensorPump::~CrvSensorPump() { KnSensorQueue::getInstance().setWakeCallback(nullptr, nullptr); }
+CrvSensorPump::~CrvSensorPump()
+{
+    KnSensorQueue::getInstance().setWakeCallback(nullptr, nullptr);
+    KnWriteThread::reset();
+}
+
+void CrvSensorPump::setPaused(bool paused)
+{
+    m_paused = paused;
+    if (!paused && !KnSensorQueue::getInstance().isEmpty())
+        post();
+}
+
+void CrvSensorPump::hurry(const KnField* field)
+{
+    m_hurried = true;
+    m_hurriedField = field;
+    if (!KnSensorQueue::getInstance().isEmpty())
+        post();
+}
 
 void CrvSensorPump::wake(void* data)
 {
@@ -51,11 +74,46 @@ void CrvSensorPump::post()
     QCoreApplication::postEvent(this, event.release(), Qt::LowEventPriority);
 }
 
+/// In milliseconds, until the next batch is due.
+int CrvSensorPump::timeToWait() const
+{
+    if (m_interval == 0 || !m_sinceRun.isValid())
+        return 0;
+    return std::clamp(m_interval - static_cast<int>(m_sinceRun.elapsed()), 0, m_interval);
+}
+
 void CrvSensorPump::customEvent(QEvent* event)
 {
     if (event->type() != batchEvent())
         return;
     // Cleared first: what a callback touches asks for the next event.
     m_posted = false;
+    const bool isHurried = std::exchange(m_hurried, false);
+    if (m_paused) {
+        if (const KnField* const field = std::exchange(m_hurriedField, nullptr))
+            KnSensorQueue::getInstance().processField(field);
+    } else if (const int wait = isHurried ? 0 : timeToWait()) {
+        m_timer.start(wait, Qt::PreciseTimer, this);
+    } else {
+        run();
+    }
+}
+
+void CrvSensorPump::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_timer.timerId()) {
+        QObject::timerEvent(event);
+        return;
+    }
+    if (m_paused)
+        m_timer.stop();
+    else
+        run();
+}
+
+void CrvSensorPump::run()
+{
+    m_timer.stop();
+    m_sinceRun.start();
     KnSensorQueue::getInstance().process();
 }

@@ -23,13 +23,23 @@ CrvServices* instance = nullptr; // owned, until the application object goes awa
 /// A command's place on the undo stack. It has no merge identity: two edits stay two steps.
 class UndoEntry : public QUndoCommand {
 public:
-    UndoEntry(std::unique_ptr<CrvCommand> command, const QString& text)
+    /// `field` is what the command most likely writes; null if nothing is known.
+    UndoEntry(std::unique_ptr<CrvCommand> command, const QString& text, KnFieldContainer* node,
+        KnField* field, CrvSensorPump& pump)
         : QUndoCommand(text)
+        , m_node(node)
+        , m_fieldNode(field ? field->getContainer() : nullptr)
+        , m_field(field)
+        , m_pump(pump)
         , m_command(std::move(command))
     {
     }
 
-    void undo() override { m_command->undo(); }
+    void undo() override
+    {
+        m_command->undo();
+        m_pump.hurry(m_field);
+    }
 
     void redo() override
     {
@@ -38,10 +48,15 @@ public:
             m_command->redo();
         else
             m_command->execute();
+        m_pump.hurry(m_field);
     }
 
 private:
-    std::unique_ptr<CrvCommand> m_command;
+    KnNodePtr m_node;
+    KnNodePtr m_fieldNode; // another one than m_node while a new selection is being announced
+    const KnField* m_field;
+    CrvSensorPump& m_pump; // outlives the stack
+    std::unique_ptr<CrvCommand> m_command; // names fields of the nodes, so it goes first
     bool m_executed = false;
 };
 
@@ -75,9 +90,9 @@ CrvServices* CrvServices::getInstance()
 
 CrvServices::CrvServices()
     : m_undoStack(new QUndoStack(this))
+    , m_pump(new CrvSensorPump(this))
 {
     KnDatabase::init();
-    new CrvSensorPump(this); // a child; it works by itself
 }
 
 CrvServices::~CrvServices()
@@ -96,6 +111,12 @@ CrvServices::SelectionHold::~SelectionHold()
 {
     --m_services.m_holds;
     m_services.applyRequests();
+}
+
+void CrvServices::setRoots(std::vector<KnNodePtr> roots)
+{
+    std::swap(m_roots, roots); // the former ones live until the views have let go of them
+    Q_EMIT rootsChanged();
 }
 
 void CrvServices::selectNode(KnFieldContainer* node) { request({ KnNodePtr(node), nullptr }); }
@@ -170,9 +191,21 @@ void CrvServices::executeCommand(CrvCommand* command)
 {
     if (!command)
         return;
-    auto entry
-        = std::make_unique<UndoEntry>(std::unique_ptr<CrvCommand>(command), undoText(m_shownField));
+    auto entry = std::make_unique<UndoEntry>(std::unique_ptr<CrvCommand>(command),
+        undoText(m_shownField), m_node.get(), m_shownField, *m_pump);
     m_undoStack->push(entry.release()); // which owns it
 }
 
 QUndoStack* CrvServices::getUndoStack() const { return m_undoStack; }
+
+void CrvServices::setRefreshInterval(int milliseconds) { m_pump->setInterval(milliseconds); }
+
+void CrvServices::setPaused(bool paused)
+{
+    if (paused == m_pump->isPaused())
+        return;
+    m_pump->setPaused(paused);
+    Q_EMIT pausedChanged(paused);
+}
+
+bool CrvServices::isPaused() const { return m_pump->isPaused(); }

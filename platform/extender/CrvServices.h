@@ -6,15 +6,17 @@
 #include <QObject>
 
 #include <optional>
+#include <vector>
 
 class CrvCommand;
+class CrvSensorPump;
 class KnField;
 class KnFieldContainer;
 class QUndoStack;
 
-/// The host's selection and its undo stack. There is one object, made at first use, also
-/// before the application object, and destroyed with the application object. It also runs the
-/// kernel's sensors from the event loop.
+/// The scene graph that the host shows, the selection in it, and the undo stack. There is one
+/// object, made at first use, also before the application object, and destroyed with the
+/// application object. It also runs the kernel's sensors from the event loop.
 ///
 /// One selection is announced at a time. What a listener selects meanwhile comes after: the last
 /// request wins, and until then the getters answer with what is being announced.
@@ -22,6 +24,11 @@ class CrvServices : public QObject {
     Q_OBJECT
 public:
     static CrvServices* getInstance();
+
+    /// The roots of the graph, for whoever shows more of it than the selection. None is null; this
+    /// object holds a reference on each. The selection is the caller's business.
+    void setRoots(std::vector<KnNodePtr> roots);
+    const std::vector<KnNodePtr>& getRoots() const { return m_roots; }
 
     /// Selects a node and none of its fields; null for no node. The selection holds a
     /// reference on the node. The field is given up first, and then the node changes; what is
@@ -50,13 +57,23 @@ public:
     /// Takes ownership, calls `execute` once and keeps the command for undo and redo, under the
     /// name of the selected field: "Edit Material.transparency". Null is ignored.
     virtual void executeCommand(CrvCommand* command);
-    /// Owned by this object. It must be emptied before a node whose fields it may name goes away:
-    /// commands hold plain pointers.
+    /// Owned by this object. A step keeps the node alive that was selected when it was made, and
+    /// that of the selected field; a command that names others must keep them itself.
     QUndoStack* getUndoStack() const;
+
+    /// Lets the kernel's sensors run at most once in this time, however often the program writes;
+    /// 0, the default, as soon as the event loop has nothing more urgent. What a command writes is
+    /// announced at once in any case.
+    void setRefreshInterval(int milliseconds);
+    /// Holds what is shown: no sensor runs but those of fields that a command writes.
+    void setPaused(bool paused);
+    bool isPaused() const;
 
 Q_SIGNALS:
     void selectedNodeChanged(KnFieldContainer* node);
     void selectedFieldChanged(KnField* field);
+    void rootsChanged();
+    void pausedChanged(bool paused);
 
 protected:
     CrvServices();
@@ -76,6 +93,7 @@ private:
     void apply(const Selection& selection);
     void announceField(KnField* field);
 
+    std::vector<KnNodePtr> m_roots;
     KnNodePtr m_node;
     KnField* m_field = nullptr; // lives in m_node, or stands alone
     std::optional<Selection> m_requested; // waits while another selection is announced
@@ -83,4 +101,5 @@ private:
     // What an editor may still show, and commit, while a new selection is being announced.
     KnField* m_shownField = nullptr;
     QUndoStack* m_undoStack; // child
+    CrvSensorPump* m_pump; // child
 };

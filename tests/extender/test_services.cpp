@@ -133,11 +133,9 @@ private Q_SLOTS:
 
     void commandText()
     {
-        Node unnamed("");
-        Node twoLines("two\nlines %2");
         QString texts;
         for (KnSFFloat* field :
-            { &unnamed.transparency, &twoLines.transparency, &m_loose, &m_number }) {
+            { &m_unnamed.transparency, &m_twoLines.transparency, &m_loose, &m_number }) {
             m_services->selectField(field);
             m_services->executeCommand(new NotingCommand);
             texts += m_services->getUndoStack()->undoText() + u';';
@@ -177,6 +175,8 @@ private:
     CrvServices* m_services = nullptr; // gone with the application object
     Node m_a { "A" };
     Node m_b { "B" };
+    Node m_unnamed { "" };
+    Node m_twoLines { "two\nlines %2" };
     KnSFFloat& m_number = m_a.transparency;
     KnSFFloat m_loose;
     int m_events = 0;

@@ -47,7 +47,7 @@ private Q_SLOTS:
         filter.setSourceModel(&model);
         const QAbstractItemModelTester modelTester(&model, FailureMode::QtTest);
         const QAbstractItemModelTester filterTester(&filter, FailureMode::QtTest);
-        model.setRoot(m_sample);
+        model.setRoots({ m_sample });
         const auto shown = [&filter](const QString& text) {
             filter.setFilterText(text);
             return leaves(filter).join(u", "_s);
@@ -61,7 +61,7 @@ private Q_SLOTS:
         auto* const root = new KnGroup;
         root->addChild(new KnMaterial);
         root->addChild(root->getChild(0));
-        model.setRoot(KnNodePtr(root));
+        model.setRoots({ KnNodePtr(root) });
         QCOMPARE(shown(QString()), u"Material, Material"_s);
     }
 

@@ -4,6 +4,7 @@
 #include "KnFieldOwner.h"
 #include "KnFieldSensor.h"
 #include "KnSensorQueue.h"
+#include "KnWriteThread.h"
 
 KnType KnField::getClassTypeId()
 {
@@ -35,6 +36,7 @@ KnFieldContainer* KnField::getContainer() const
 
 void KnField::touch()
 {
+    KnWriteThread::check();
     for (KnFieldSensor* sensor : m_sensors)
         KnSensorQueue::getInstance().schedule(sensor);
 }

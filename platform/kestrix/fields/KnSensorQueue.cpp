@@ -46,12 +46,27 @@ void KnSensorQueue::remove(KnSensor* sensor)
     m_sensors.erase(place);
 }
 
-void KnSensorQueue::process()
+void KnSensorQueue::process() { run(m_sensors.size()); }
+
+void KnSensorQueue::processField(const KnField* field)
+{
+    if (m_processing)
+        return;
+    const auto end
+        = std::stable_partition(m_sensors.begin(), m_sensors.end(), [field](KnSensor* sensor) {
+              const auto* const watching = dynamic_cast<const KnFieldSensor*>(sensor);
+              return watching && watching->getAttachedField() == field;
+          });
+    run(static_cast<std::size_t>(end - m_sensors.begin()));
+}
+
+/// Runs the sensors at the front.
+void KnSensorQueue::run(std::size_t count)
 {
     if (m_processing)
         return;
     m_processing = true;
-    for (m_remaining = m_sensors.size(); m_remaining > 0;) {
+    for (m_remaining = count; m_remaining > 0;) {
         KnSensor* sensor = m_sensors.front();
         m_sensors.pop_front();
         --m_remaining;

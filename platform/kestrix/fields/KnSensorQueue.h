@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <deque>
 
+class KnField;
 class KnSensor;
 
 /// The queue of sensors that wait to run, in the order in which they were touched. User interface
@@ -27,9 +28,13 @@ public:
     /// Runs the sensors that wait now, in order. What a callback touches waits for the next run,
     /// for which the host is woken. Called from within a callback, it does nothing.
     void process();
+    /// The same, but runs the sensors of this field alone. The others go on waiting.
+    void processField(const KnField* field);
 
 private:
     KnSensorQueue() = default;
+
+    void run(std::size_t count);
 
     void wake() const;
 

@@ -2,8 +2,10 @@
 #include "KnGroup.h"
 
 #include "KnDebugError.h"
+#include "KnWriteThread.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <unordered_set>
 #include <utility>
 
@@ -18,6 +20,12 @@ KnGroup::KnGroup(KnFieldData& data)
 {
     addField(data, "visible", visible);
     visible.setValue(true);
+}
+
+KnGroup::~KnGroup()
+{
+    while (!m_sensors.empty())
+        m_sensors.back()->detach();
 }
 
 KnFieldContainer* KnGroup::getChild(int index) const
@@ -44,8 +52,9 @@ bool KnGroup::insertChild(KnFieldContainer* child, int index)
                   : "A null child was given to a group");
         return false;
     }
-    m_children.insert(
-        m_children.begin() + std::clamp(index, 0, getNumChildren()), KnNodePtr(child));
+    index = std::clamp(index, 0, getNumChildren());
+    m_children.insert(m_children.begin() + index, KnNodePtr(child));
+    report({ index, 0, 1 });
     return true;
 }
 
@@ -56,10 +65,32 @@ bool KnGroup::removeChild(int index)
     const auto place = m_children.begin() + index;
     const KnNodePtr child = std::move(*place); // released only once the list is in order
     m_children.erase(place);
+    report({ index, 1, 0 });
     return true;
 }
 
 bool KnGroup::removeChild(const KnFieldContainer* child) { return removeChild(findChild(child)); }
+
+bool KnGroup::moveChild(int from, int to)
+{
+    if (!getChild(from) || !getChild(to))
+        return false;
+    const auto begin = m_children.begin();
+    if (from < to)
+        std::rotate(begin + from, begin + from + 1, begin + to + 1);
+    else
+        std::rotate(begin + to, begin + from, begin + from + 1);
+    const int count = std::abs(to - from) + 1;
+    report({ std::min(from, to), count, count });
+    return true;
+}
+
+void KnGroup::report(const KnGroupSensor::Change& change) const
+{
+    KnWriteThread::check();
+    for (KnGroupSensor* sensor : m_sensors)
+        sensor->childrenReplaced(change);
+}
 
 /// Whether this group is `root` or one of its descendants.
 bool KnGroup::isBelow(KnFieldContainer* root) const

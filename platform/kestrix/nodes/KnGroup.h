@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "KnGroupSensor.h"
 #include "KnNode.h"
 #include "KnNodePtr.h"
 #include "KnSFields.h"
@@ -31,15 +32,22 @@ class KnGroup : public KnNode {
     /// is no such child.
     bool removeChild(int index);
     bool removeChild(const KnFieldContainer* child);
+    /// Moves a child so that it stands at index `to` afterwards. False if either isn't an index of
+    /// a child.
+    bool moveChild(int from, int to);
 
 protected:
     /// For a derived class; `data` is its table.
     explicit KnGroup(KnFieldData& data);
-    ~KnGroup() override = default;
+    ~KnGroup() override;
     static KnFieldData& fieldData();
 
 private:
+    friend class KnGroupSensor;
+
     bool isBelow(KnFieldContainer* root) const;
+    void report(const KnGroupSensor::Change& change) const;
 
     std::vector<KnNodePtr> m_children; // none is null
+    std::vector<KnGroupSensor*> m_sensors; // not owned
 };
