@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvSensorPump.h"
 #include "CrvServices.h"
+#include "KnDebugError.h"
 #include "KnFieldSensor.h"
 #include "KnMaterial.h"
 #include "RecordingPlugin.h"
@@ -156,10 +157,65 @@ private Q_SLOTS:
         QCOMPARE(runs, 1);
         QTest::ignoreMessage(
             QtCriticalMsg, "A watched field was written outside the user interface thread");
+        int complaints = 0;
+        KnDebugError::setHandlerCallback(
+            [](const KnError*, void* all) { ++*static_cast<int*>(all); }, &complaints);
         std::thread([this] { m_number.setValue(1); }).join();
+        KnDebugError::setHandlerCallback(nullptr, nullptr);
+#ifdef NDEBUG
+        QCOMPARE(complaints, 0);
+#else
+        QCOMPARE(complaints, 1);
+#endif
         QCoreApplication::processEvents();
         QCOMPARE(runs, 1);
         QCOMPARE(m_events, 1);
+    }
+
+    void sensorsAreHeld_data()
+    {
+        QTest::addColumn<bool>("paused");
+        QTest::newRow("paused") << true;
+        QTest::newRow("within the interval") << false;
+    }
+    /// What a command writes is announced nevertheless.
+    void sensorsAreHeld()
+    {
+        QFETCH(bool, paused);
+        QByteArray runs;
+        const auto note = [](void* log, KnSensor*) { *static_cast<QByteArray*>(log) += 'n'; };
+        const auto noteOther = [](void* log, KnSensor*) { *static_cast<QByteArray*>(log) += 'o'; };
+        KnFieldSensor number(note, &runs);
+        KnFieldSensor other(noteOther, &runs);
+        m_services->selectField(&m_number);
+        m_services->setPaused(paused);
+        m_services->setRefreshInterval(paused ? 0 : 1000000);
+        number.attach(&m_number);
+        other.attach(&m_b.transparency);
+        m_number.touch();
+        QCoreApplication::processEvents();
+        runs.clear(); // before the first batch there is no interval
+        m_b.transparency.touch();
+        m_number.touch();
+        QCoreApplication::processEvents();
+        QCOMPARE(runs, "");
+        m_services->executeCommand(new NotingCommand);
+        QCoreApplication::processEvents();
+        QCOMPARE(runs, paused ? "n" : "on");
+        m_services->setPaused(false);
+        QCoreApplication::processEvents();
+        QCOMPARE(runs, paused ? "no" : "on");
+    }
+
+    void aStepKeepsItsNode()
+    {
+        auto* const node = new Node("short-lived");
+        m_services->selectField(&node->transparency);
+        m_services->executeCommand(new NotingCommand);
+        m_services->selectNode(nullptr);
+        node->unref();
+        QCOMPARE(node->getReferenceCount(), 2);
+        m_services->getUndoStack()->undo();
     }
 
 private:
