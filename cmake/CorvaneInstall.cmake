@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: BSD-3-Clause
 
-# What a plug-in author needs: the libraries, their headers and a CMake package. The plug-in and the
-# program have their rules beside their targets.
+# What the author of a plug-in, or of a program with the inspector in it, needs: the libraries, their
+# headers and a CMake package. The plug-in and the program have their rules beside their targets.
 include(CMakePackageConfigHelpers)
 
-set(libraries ubn_kestrix_base ubn_kestrix ubn_kestrix_gl ubn_corvane_extender)
+set(libraries ubn_kestrix_base ubn_kestrix ubn_kestrix_gl ubn_corvane_extender corvane_inspector)
 set_target_properties(${libraries} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
 install(TARGETS ${libraries} EXPORT corvaneTargets
@@ -23,6 +23,8 @@ install(DIRECTORY platform/kestrix_base platform/kestrix platform/kestrix_gl pla
         PATTERN CrvProfileActivation.h EXCLUDE
         PATTERN CrvProfileReader.h EXCLUDE
         PATTERN CrvProfileResolution.h EXCLUDE)
+install(FILES inspector/CrvInspector.h
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/corvane/inspector")
 
 write_basic_package_version_file("${CMAKE_BINARY_DIR}/corvaneConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)

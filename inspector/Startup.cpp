@@ -5,28 +5,13 @@
 #include "CrvPluginsManager.h"
 #include "CrvProfile.h"
 #include "CrvServices.h"
+#include "DefaultPlugin.h"
 #include "MainWindow.h"
 #include "Messages.h"
 #include "SceneSearch.h"
 #include "SceneText.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QStringList>
-
-namespace {
-
-// Where it lies, seen from the program: in the build tree, or in an installed one.
-QString defaultPlugin()
-{
-    const QDir directory(QCoreApplication::applicationDirPath());
-    const QString built = directory.filePath(QStringLiteral(CORVANE_BUILT_PLUGIN));
-    return QDir::cleanPath(QFileInfo::exists(built)
-            ? built
-            : directory.filePath(QStringLiteral(CORVANE_INSTALLED_PLUGIN)));
-}
-
-} // namespace
 
 Startup::Startup(MainWindow& window)
     : m_window(window)
@@ -70,7 +55,7 @@ bool Startup::loadPlugins(const CommandLine& commandLine)
     }
     // Without its editors the program still shows a scene.
     QString error;
-    if (commandLine.plugins.isEmpty() && !manager->loadPlugin(defaultPlugin(), &error))
+    if (commandLine.plugins.isEmpty() && !manager->loadPlugin(defaultPluginFile(), &error))
         complain(error);
     return true;
 }

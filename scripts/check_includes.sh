@@ -18,8 +18,10 @@ function layer(folder, below,    names, count, i) {
 }
 
 # The layer of a file. In platform and in the inspector each folder is one, elsewhere the outermost
-# folder is.
+# folder is. The header of the inspector that programs include is a layer by itself.
 function layerOf(path,    folder) {
+    if (path == published)
+        return path
     folder = path
     sub(/\/[^\/]*$/, "", folder)
     if (folder !~ /^(platform|inspector)\//)
@@ -47,8 +49,12 @@ BEGIN {
     layer("inspector/text", platform)
     layer("inspector/scene", platform " inspector/text")
     layer("inspector/window", platform " inspector/text inspector/scene")
-    layer("inspector", platform " inspector/text inspector/scene inspector/window")
-    layer("examples", platform) # written as if by somebody else
+    layer("inspector/process", platform " inspector/text")
+    published = "inspector/CrvInspector.h"
+    layer(published, "")
+    layer("inspector", platform " " published \
+        " inspector/text inspector/scene inspector/window inspector/process")
+    layer("examples", platform " " published) # written as if by somebody else
 }
 
 $1 == "file" {

@@ -1,32 +1,14 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FileMenu.h"
 
+#include "FileDialogs.h"
 #include "Messages.h"
 #include "RecentFilesMenu.h"
 #include "SceneDocument.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPointer>
-
-namespace {
-
-// A line or a cell writes what was typed when it loses the focus, so it loses it for a moment.
-void commitTyping()
-{
-    const QPointer<QWidget> focus = QApplication::focusWidget();
-    if (!focus)
-        return;
-    focus->clearFocus();
-    if (focus)
-        focus->setFocus(Qt::OtherFocusReason);
-}
-
-QString sceneFilter() { return FileMenu::tr("Scenes (*.json);;All files (*)"); }
-
-} // namespace
 
 FileMenu::FileMenu(SceneDocument* document, QSettings* settings, QWidget* parent)
     : QMenu(tr("&File"), parent)
@@ -61,7 +43,7 @@ void FileMenu::openFile(const QString& fileName)
 
 bool FileMenu::mayDropScene()
 {
-    commitTyping();
+    FileDialogs::commitTyping(parentWidget());
     if (!m_document->isModified())
         return true;
     const QMessageBox::StandardButton answer = QMessageBox::question(parentWidget(), tr("Save"),
@@ -74,8 +56,8 @@ bool FileMenu::mayDropScene()
 
 void FileMenu::chooseFile()
 {
-    const QString fileName
-        = QFileDialog::getOpenFileName(parentWidget(), tr("Open"), startDirectory(), sceneFilter());
+    const QString fileName = QFileDialog::getOpenFileName(
+        parentWidget(), tr("Open"), startDirectory(), FileDialogs::sceneFilter());
     if (!fileName.isEmpty())
         openFile(fileName);
 }
@@ -87,23 +69,18 @@ bool FileMenu::save()
 
 bool FileMenu::saveAs()
 {
-    QFileDialog dialog(parentWidget(), tr("Save As"), startDirectory(), sceneFilter());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("json"));
-    if (!m_document->fileName().isEmpty())
-        dialog.selectFile(QFileInfo(m_document->fileName()).fileName());
-    return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
+    const QString fileName
+        = FileDialogs::askWhereToSave(parentWidget(), tr("Save As"), m_document->fileName());
+    return !fileName.isEmpty() && saveTo(fileName);
 }
 
 bool FileMenu::saveTo(const QString& fileName)
 {
-    commitTyping();
+    FileDialogs::commitTyping(parentWidget());
     QString error;
     if (m_document->save(fileName, &error))
         return true;
-    complain(error);
-    QMessageBox::warning(
-        parentWidget(), tr("Save"), tr("The file was not saved.") + QLatin1Char('\n') + error);
+    FileDialogs::reportUnsaved(parentWidget(), error);
     return false;
 }
 

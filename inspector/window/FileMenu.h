@@ -3,7 +3,6 @@
 
 #include <QMenu>
 
-class QFileDialog;
 class QSettings;
 class RecentFilesMenu;
 class SceneDocument;

@@ -3,17 +3,19 @@
 
 #include "CrvServices.h"
 #include "FieldPanel.h"
+#include "FileDialogs.h"
 #include "FileMenu.h"
+#include "GuestFileMenu.h"
 #include "ProfileMenu.h"
 #include "ScenePanel.h"
 #include "UndoKeys.h"
 #include "ViewMenu.h"
 #include "WindowLayout.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QToolBar>
@@ -40,11 +42,15 @@ QString draggedFile(const QMimeData* data)
 
 } // namespace
 
-MainWindow::MainWindow(QSettings* settings, QWidget* parent)
+MainWindow::MainWindow(QSettings* settings, Role role, QWidget* parent)
     : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("mainWindow"));
-    setAcceptDrops(true);
+    if (role == Role::Program)
+        m_document = std::make_unique<SceneDocument>();
+    setAcceptDrops(role == Role::Program);
+    // A guest's process lives on without it, and doesn't wait for it either.
+    setAttribute(Qt::WA_QuitOnClose, role == Role::Program);
     if (settings)
         m_layout = new WindowLayout(this, settings, layoutVersion);
     // Both columns are as high as the window; what docks below stands between them.
@@ -52,15 +58,11 @@ MainWindow::MainWindow(QSettings* settings, QWidget* parent)
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
 
     buildPanels();
-    m_fileMenu = new FileMenu(&m_document, settings, this);
-    menuBar()->addMenu(m_fileMenu);
+    buildFileMenu(settings);
     buildEditMenu();
     buildViewMenu();
-    qApp->installEventFilter(new UndoKeys(this));
+    new UndoKeys(this);
 
-    connect(&m_document, &SceneDocument::fileNameChanged, this, &MainWindow::showFileName);
-    connect(&m_document, &SceneDocument::modifiedChanged, this, &QWidget::setWindowModified);
-    showFileName();
     resize(windowSize);
     resizeDocks({ m_sceneDock }, { sceneWidth }, Qt::Horizontal);
     resizeDocks({ m_sceneDock, m_historyDock },
@@ -76,7 +78,7 @@ void MainWindow::buildPanels()
     m_sceneDock = addPanelDock(m_scenePanel, QStringLiteral("sceneDock"), tr("Scene"));
     auto* const history = new QUndoView(CrvServices::getInstance()->getUndoStack());
     history->setObjectName(QStringLiteral("historyView"));
-    history->setEmptyLabel(tr("Scene as opened"));
+    history->setEmptyLabel(m_document ? tr("Scene as opened") : tr("Before the first edit"));
     m_historyDock = addPanelDock(history, QStringLiteral("historyDock"), tr("History"));
     setCentralWidget(new FieldPanel(this));
 }
@@ -88,6 +90,20 @@ QDockWidget* MainWindow::addPanelDock(QWidget* panel, const QString& name, const
     dock->setWidget(panel);
     QMainWindow::addDockWidget(Qt::LeftDockWidgetArea, dock);
     return dock;
+}
+
+void MainWindow::buildFileMenu(QSettings* settings)
+{
+    if (!m_document) {
+        menuBar()->addMenu(new GuestFileMenu(this));
+        showProgramName();
+        return;
+    }
+    m_fileMenu = new FileMenu(m_document.get(), settings, this);
+    menuBar()->addMenu(m_fileMenu);
+    connect(m_document.get(), &SceneDocument::fileNameChanged, this, &MainWindow::showFileName);
+    connect(m_document.get(), &SceneDocument::modifiedChanged, this, &QWidget::setWindowModified);
+    showFileName();
 }
 
 void MainWindow::buildEditMenu()
@@ -128,13 +144,24 @@ void MainWindow::buildViewMenu()
 
 void MainWindow::showFileName()
 {
-    const QString name = m_document.fileName().isEmpty()
+    const QString name = m_document->fileName().isEmpty()
         ? tr("Untitled")
-        : QFileInfo(m_document.fileName()).fileName();
+        : QFileInfo(m_document->fileName()).fileName();
     // A file name may hold the two signs that stand for "modified".
     QString shown = name;
     shown.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     setWindowTitle(QStringLiteral("%1[*] %2 Corvane").arg(shown, QChar(0x2013)));
+}
+
+// The platform appends the program's name to every title that doesn't end with it.
+void MainWindow::showProgramName()
+{
+    const QString own = QStringLiteral("Corvane");
+    const QString program = QGuiApplication::applicationDisplayName();
+    QString title = own;
+    if (!program.isEmpty() && program != own)
+        title = QStringLiteral("%1 %2 %3").arg(own, QChar(0x2013), program);
+    setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
 }
 
 // Which docks are shown follows from the profile and the selection. From last time only their
@@ -207,13 +234,20 @@ void MainWindow::removeToolBar(QToolBar* toolBar)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!m_fileMenu->mayDropScene()) {
+    if (m_fileMenu && !m_fileMenu->mayDropScene()) {
         event->ignore();
         return;
     }
+    event->accept();
+    if (!m_document && isHidden())
+        return;
     if (m_layout)
         m_layout->save();
-    event->accept();
+    if (m_document)
+        return;
+    FileDialogs::commitTyping(this);
+    hide();
+    Q_EMIT closed();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -6,6 +6,8 @@
 
 #include <QMainWindow>
 
+#include <memory>
+
 class FileMenu;
 class QSettings;
 class ScenePanel;
@@ -18,12 +20,19 @@ class WindowLayout;
 class MainWindow : public QMainWindow, public CrvShell {
     Q_OBJECT
 public:
+    enum class Role {
+        Program, ///< opens and saves scene files, and asks before edits are lost
+        Guest, ///< shows the scene of the process that it lives in, and keeps nothing alive
+    };
+
     /// `settings` outlives the window; null keeps nothing from one start to the next.
-    explicit MainWindow(QSettings* settings, QWidget* parent = nullptr);
+    explicit MainWindow(QSettings* settings, Role role = Role::Program, QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    SceneDocument& document() { return m_document; }
-    /// Puts the docks where they stood last time; called when all of them are there.
+    /// The program's; a guest has none.
+    SceneDocument& document() { return *m_document; }
+    /// Puts the docks where they stood last time; called before the window is shown, when all of
+    /// them are there.
     void restoreLayout();
 
     void addDockWidget(QDockWidget* dock, int area) override;
@@ -33,6 +42,10 @@ public:
     void addToolBar(QToolBar* toolBar, int area) override;
     void removeToolBar(QToolBar* toolBar) override;
 
+Q_SIGNALS:
+    /// A guest was closed, by the person or the program, and is hidden by now.
+    void closed();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -40,6 +53,7 @@ protected:
 
 private:
     void buildPanels();
+    void buildFileMenu(QSettings* settings);
     void buildEditMenu();
     void buildViewMenu();
     /// The dock owns the panel, and the window the dock.
@@ -47,11 +61,12 @@ private:
     void findNode();
     void giveFirstSize(QDockWidget* dock);
     void showFileName();
+    void showProgramName();
 
     WindowLayout* m_layout = nullptr; // child; null if nothing is kept
-    SceneDocument m_document;
+    std::unique_ptr<SceneDocument> m_document; // null for a guest
     ScenePanel* m_scenePanel = nullptr; // child
-    FileMenu* m_fileMenu = nullptr; // child
+    FileMenu* m_fileMenu = nullptr; // child; null for a guest
     ViewMenu* m_viewMenu = nullptr; // child
     QDockWidget* m_sceneDock = nullptr; // child
     QDockWidget* m_historyDock = nullptr; // child

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "UndoKeys.h"
 
+#include "WindowFamily.h"
+
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -16,6 +19,23 @@ const QLineEdit* lineEditOf(QObject* widget)
 }
 
 } // namespace
+
+UndoKeys::UndoKeys(QWidget* window)
+    : QObject(window)
+    , m_window(window)
+{
+    connect(qApp, &QApplication::focusChanged, this, &UndoKeys::followFocus);
+    followFocus(nullptr, QApplication::focusWidget());
+}
+
+void UndoKeys::followFocus(QWidget*, QWidget* focus)
+{
+    if (m_watched)
+        m_watched->removeEventFilter(this);
+    m_watched = isInFamily(focus, m_window) ? focus : nullptr;
+    if (m_watched)
+        m_watched->installEventFilter(this);
+}
 
 bool UndoKeys::eventFilter(QObject* watched, QEvent* event)
 {

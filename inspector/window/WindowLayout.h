@@ -17,7 +17,7 @@ public:
     /// isn't owned.
     WindowLayout(QMainWindow* window, QSettings* settings, int version);
 
-    /// Called once, when all docks are there and before the window is shown. False if the window
+    /// Called each time before the window is shown, when all docks are there. False if the window
     /// was left as it is.
     bool restore();
     void save();

@@ -33,14 +33,16 @@ BEGIN {
     gap = 3 # before an arrow's head
     between = 46 # targets
     upper = 5 * pitch + 10
-    target("program", 20, 20, 210, upper, "corvane")
+    target("program", 20, 20, 210, upper, "corvane_inspector")
     room("inspector", "program", 105, 0, "inspector/")
     room("inspector/window", "program", 105, 1, "window/")
     room("inspector/scene", "program", 105, 2, "scene/")
-    room("inspector/text", "program", 105, 3, "text/")
+    room("inspector/process", "program", 105, 3, "process/")
+    room("inspector/text", "program", 105, 4, "text/")
 
-    target("example", 245, 20, 150, upper, "example plug-in")
+    target("example", 245, 20, 150, upper, "examples")
     room("examples", "example", 75, 0, "examples/")
+    room("examples/loop", "example", 75, 1, "loop/")
 
     target("defaults", 410, 20, 750, upper, "ubn_corvane_extender_base")
     room("plugin", "defaults", 380, 0, "plugin/")

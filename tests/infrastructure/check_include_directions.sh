@@ -12,6 +12,8 @@ trap 'rm -rf "$tree"' EXIT
 
 mkdir -p "$tree/platform/other"
 touch "$tree/platform/other/Other.cpp"
+mkdir "$tree/inspector"
+touch "$tree/inspector/CrvInspector.h"
 echo "platform/other/Other.cpp:1" >"$tree/expected" # a folder that has no layer
 while read -r folder own allowed; do
     mkdir -p "$tree/$folder"
@@ -19,7 +21,7 @@ while read -r folder own allowed; do
     source=$folder/${own%.h}.cpp
     line=0
     for target in Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h Plugin.h Wording.h \
-        Scene.h Window.h Program.h Example.h QString QtCore/QString qglobal.h vector; do
+        Scene.h Window.h Process.h Program.h CrvInspector.h Example.h QString QtCore/QString qglobal.h vector; do
         line=$((line + 1))
         echo "#include <$target>" >>"$tree/$source"
         [[ " $own $allowed vector " = *" ${target##*/} "* ]] ||
@@ -38,8 +40,9 @@ plugin/src/Deep          Plugin.h  Base.h Types.h Errors.h Text.h Fields.h Nodes
 inspector/text           Wording.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h
 inspector/scene          Scene.h   Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h Wording.h
 inspector/window         Window.h  Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h Wording.h Scene.h
-inspector                Program.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h Wording.h Scene.h Window.h
-examples                 Example.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h
+inspector/process        Process.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h Wording.h
+inspector                Program.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h Wording.h Scene.h Window.h Process.h CrvInspector.h
+examples                 Example.h Base.h Types.h Errors.h Text.h Fields.h Nodes.h Gl.h Host.h QString qglobal.h CrvInspector.h
 END
 
 if "$check" "$tree" >"$tree/found"; then

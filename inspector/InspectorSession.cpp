@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "InspectorSession.h"
+
+#include "CrvPluginsManager.h"
+#include "CrvServices.h"
+#include "DefaultPlugin.h"
+#include "EventFiber.h"
+#include "Messages.h"
+#include "SceneRoots.h"
+#include "WindowFamily.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QPointer>
+#include <QThread>
+#include <QTimer>
+#include <QUndoStack>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+InspectorSession* instance = nullptr; // owned, until it is ended or the application object goes
+
+// In milliseconds: what a person can follow.
+constexpr int refreshInterval = 33;
+
+int loopLevel() { return QThread::currentThread()->loopLevel(); }
+
+// Those with a question wait in an event loop of their own.
+bool endDialog(QWidget* widget)
+{
+    if (auto* const dialog = qobject_cast<QDialog*>(widget))
+        dialog->reject();
+    else if (widget->windowType() == Qt::Popup)
+        widget->close();
+    else
+        return false;
+    return true;
+}
+
+} // namespace
+
+InspectorSession::InspectorSession()
+    : m_settings(QStringLiteral("Orbel"), QStringLiteral("Corvane"))
+    , m_window(&m_settings, MainWindow::Role::Guest)
+    , m_profile(CrvPluginsManager::getInstance()->getActiveProfile())
+    , m_level(std::max(loopLevel(), 1))
+{
+    connect(&m_window, &MainWindow::closed, this, &InspectorSession::putAway);
+    CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
+    manager->setActiveProfile(nullptr);
+    // Without its editors it still shows a scene.
+    QString error;
+    if (!manager->loadPlugin(defaultPluginFile(), &error))
+        complain(error);
+}
+
+InspectorSession::~InspectorSession()
+{
+    close();
+    CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
+    manager->unloadAll();
+    manager->setActiveProfile(m_profile);
+}
+
+InspectorSession* InspectorSession::getInstance() { return instance; }
+
+InspectorSession* InspectorSession::make()
+{
+    // Made first, they end after the session.
+    CrvPluginsManager::getInstance();
+    instance = new InspectorSession;
+    qAddPostRoutine(destroy);
+    return instance;
+}
+
+void InspectorSession::end()
+{
+    if (!instance)
+        return;
+    const bool hadDialogs = instance->endDialogs();
+    const bool unwound = EventFiber::unwind();
+    instance->close();
+    CrvServices::getInstance()->getUndoStack()->clear();
+    instance->m_ending = true;
+    if (hadDialogs && !unwound)
+        destroyLater();
+    else
+        destroy();
+}
+
+void InspectorSession::destroy()
+{
+    qRemovePostRoutine(destroy);
+    delete std::exchange(instance, nullptr);
+}
+
+// An editor that asked something in a dialog stands on the stack below the dialog's loop.
+void InspectorSession::destroyLater()
+{
+    if (!instance || !instance->m_ending)
+        return;
+    if (loopLevel() <= instance->m_level)
+        destroy();
+    else
+        QTimer::singleShot(0, qApp, &InspectorSession::destroyLater);
+}
+
+void InspectorSession::open(const std::vector<KnNodePtr>& roots)
+{
+    m_ending = false;
+    if (!m_open) {
+        m_open = true;
+        CrvServices* const services = CrvServices::getInstance();
+        services->setRefreshInterval(refreshInterval);
+        services->setRoots(roots);
+        CrvPluginsManager::getInstance()->setActiveProfile(m_profile);
+        m_window.restoreLayout();
+    }
+    m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
+    m_window.show();
+    m_window.raise();
+    m_window.activateWindow();
+}
+
+void InspectorSession::close()
+{
+    if (!m_open)
+        return;
+    endDialogs();
+    EventFiber::unwind();
+    m_window.close();
+}
+
+/// Whether there were any.
+bool InspectorSession::endDialogs()
+{
+    std::vector<QPointer<QWidget>> family;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && isInFamily(widget, &m_window))
+            family.emplace_back(widget);
+    }
+    bool any = false;
+    for (const QPointer<QWidget>& widget : family)
+        any = (widget && endDialog(widget)) || any;
+    return any;
+}
+
+// In answer to the selection, a listener may select something else.
+void InspectorSession::putAway()
+{
+    m_open = false;
+    CrvServices* const services = CrvServices::getInstance();
+    services->selectNode(nullptr);
+    if (services->getSelectedNode())
+        services->selectNode(nullptr);
+    services->setRoots({});
+    CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
+    m_profile = manager->getActiveProfile();
+    manager->setActiveProfile(nullptr);
+    services->setPaused(false);
+    services->setRefreshInterval(0);
+    m_settings.sync();
+}
+
+void InspectorSession::showRoots(const std::vector<KnNodePtr>& roots)
+{
+    if (!m_open)
+        return;
+    CrvServices* const services = CrvServices::getInstance();
+    const KnFieldContainer* const selected = services->getSelectedNode();
+    if (findRoot(services->getRoots(), selected) && !findRoot(roots, selected))
+        services->selectNode(nullptr);
+    services->setRoots(roots);
+}
+
+bool InspectorSession::loadPlugin(const QString& fileName, QString* error)
+{
+    return CrvPluginsManager::getInstance()->loadPlugin(fileName, error) != nullptr;
+}
