@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvPlugin.h"
+#include "SceneViewDock.h"
 #include "TransformEditor.h"
 
 #include <QtGlobal>
@@ -8,13 +9,14 @@
 
 namespace {
 
-/// What the host loads. The built-in profiles place every editor under both editor docks.
+/// What the host loads. The built-in profiles place every editor under both editor docks, and the
+/// profile "Everything" shows whatever else a plug-in brings.
 class ExamplePlugin : public CrvPlugin {
 public:
     ExamplePlugin()
     {
         m_name = "Example";
-        m_description = "Adds one node editor.";
+        m_description = "Adds one node editor, and a view of the scene.";
         m_author = "Orbel";
         m_version = "1.0.0";
     }
@@ -22,11 +24,13 @@ public:
     void load() override
     {
         addExtension(&m_transformEditor);
+        addExtension(&m_sceneView);
         CrvPlugin::load();
     }
 
 private:
     TransformEditor m_transformEditor;
+    SceneViewDock m_sceneView;
 };
 
 std::unique_ptr<ExamplePlugin> plugin;

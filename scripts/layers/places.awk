@@ -43,6 +43,8 @@ BEGIN {
     target("example", 245, 20, 150, upper, "examples")
     room("examples", "example", 75, 0, "examples/")
     room("examples/loop", "example", 75, 1, "loop/")
+    room("examples/viewer", "example", 75, 2, "viewer/")
+    room("examples/view", "example", 75, 3, "view/")
 
     target("defaults", 410, 20, 750, upper, "ubn_corvane_extender_base")
     room("plugin", "defaults", 380, 0, "plugin/")
