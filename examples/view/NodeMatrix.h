@@ -2,7 +2,7 @@
 #pragma once
 
 #include "HalfSpace.h"
-#include "KbGeometry.h"
+#include "KnSFields.h"
 
 #include <QMatrix4x4>
 #include <QQuaternion>

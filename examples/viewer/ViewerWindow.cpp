@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "ViewerWindow.h"
+
+#include "SceneView.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenuBar>
+#include <QPixmap>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int frameTime = 16; // milliseconds
+
+/// The sky is dark, whatever the desktop looks like.
+QPalette nightSky()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, QColor(8, 10, 22));
+    palette.setColor(QPalette::Text, QColor(214, 222, 240));
+    palette.setColor(QPalette::Highlight, QColor(255, 168, 40));
+    return palette;
+}
+
+} // namespace
+
+ViewerWindow::ViewerWindow()
+    : m_view(new SceneView(this, SceneView::Updates::ByCall))
+{
+    setObjectName(u"viewerWindow"_s);
+    setWindowTitle(tr("Orrery"));
+    resize(960, 640);
+    m_view->setPalette(nightSky());
+    m_view->setRoots({ KnNodePtr(m_orrery.root()) });
+    setCentralWidget(m_view);
+    makeMenu();
+    m_timer.setTimerType(Qt::PreciseTimer);
+    m_timer.setInterval(frameTime);
+    connect(&m_timer, &QTimer::timeout, this, &ViewerWindow::nextFrame);
+    m_clock.start();
+    m_timer.start();
+}
+
+void ViewerWindow::makeMenu()
+{
+    QMenu* const menu = menuBar()->addMenu(tr("&Scene"));
+    menu->setObjectName(u"sceneMenu"_s);
+    QAction* const run = menu->addAction(tr("&Move"), Qt::Key_Space);
+    run->setObjectName(u"moveAction"_s);
+    run->setCheckable(true);
+    run->setChecked(true);
+    connect(run, &QAction::toggled, this, &ViewerWindow::setRunning);
+    QAction* const fit = menu->addAction(tr("&Show Everything"));
+    fit->setObjectName(u"fitAction"_s);
+    connect(fit, &QAction::triggered, m_view, &SceneView::fitAll);
+    QAction* const inspect = menu->addAction(tr("&Inspector"), Qt::Key_F12);
+    inspect->setObjectName(u"inspectorAction"_s);
+    connect(inspect, &QAction::triggered, this, &ViewerWindow::showInspector);
+    menu->addSeparator();
+    QAction* const quit = menu->addAction(tr("&Quit"), QKeySequence::Quit);
+    quit->setObjectName(u"quitAction"_s);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void ViewerWindow::showInspector() { m_inspector.show(); }
+
+void ViewerWindow::setRunning(bool isRunning)
+{
+    if (isRunning) {
+        m_clock.start();
+    } else {
+        m_time += double(m_clock.nsecsElapsed()) * 1e-9;
+        m_clock.invalidate();
+    }
+}
+
+void ViewerWindow::nextFrame()
+{
+    if (m_clock.isValid())
+        m_orrery.moveTo(m_time + double(m_clock.nsecsElapsed()) * 1e-9);
+    // Drawn also while the scene stands still: somebody may edit it.
+    m_view->refresh();
+    if (m_framesLeft > 0 && --m_framesLeft == 0)
+        QApplication::quit();
+}
+
+bool ViewerWindow::takePicture(const QString& fileName)
+{
+    m_timer.stop();
+    m_orrery.moveTo(6.0); // with a comet close to the sun
+    m_view->refresh();
+    show();
+    QApplication::processEvents();
+    return grab().save(fileName, "PNG");
+}
