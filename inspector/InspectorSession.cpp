@@ -16,7 +16,6 @@
 #include <QTimer>
 #include <QUndoStack>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -46,7 +45,6 @@ InspectorSession::InspectorSession()
     : m_settings(QStringLiteral("Orbel"), QStringLiteral("Corvane"))
     , m_window(&m_settings, MainWindow::Role::Guest)
     , m_profile(CrvPluginsManager::getInstance()->getActiveProfile())
-    , m_level(std::max(loopLevel(), 1))
 {
     connect(&m_window, &MainWindow::closed, this, &InspectorSession::putAway);
     CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
@@ -84,9 +82,8 @@ void InspectorSession::end()
     const bool unwound = EventFiber::unwind();
     instance->close();
     CrvServices::getInstance()->getUndoStack()->clear();
-    instance->m_ending = true;
     if (hadDialogs && !unwound)
-        destroyLater();
+        destroyBelow(loopLevel());
     else
         destroy();
 }
@@ -98,14 +95,18 @@ void InspectorSession::destroy()
 }
 
 // An editor that asked something in a dialog stands on the stack below the dialog's loop.
-void InspectorSession::destroyLater()
+void InspectorSession::destroyBelow(int level)
 {
-    if (!instance || !instance->m_ending)
-        return;
-    if (loopLevel() <= instance->m_level)
-        destroy();
-    else
-        QTimer::singleShot(0, qApp, &InspectorSession::destroyLater);
+    instance->m_ending = true;
+    QTimer::singleShot(0, qApp, [level] {
+        // It may have been opened again, or destroyed with the application object.
+        if (!instance || !instance->m_ending)
+            return;
+        if (loopLevel() >= level)
+            destroyBelow(level);
+        else
+            destroy();
+    });
 }
 
 void InspectorSession::open(const std::vector<KnNodePtr>& roots)
@@ -162,7 +163,6 @@ void InspectorSession::putAway()
     manager->setActiveProfile(nullptr);
     services->setPaused(false);
     services->setRefreshInterval(0);
-    m_settings.sync();
 }
 
 void InspectorSession::showRoots(const std::vector<KnNodePtr>& roots)

@@ -42,14 +42,13 @@ private:
     ~InspectorSession() override;
 
     static void destroy();
-    static void destroyLater();
+    static void destroyBelow(int level);
     bool endDialogs();
     void putAway();
 
     QSettings m_settings;
     MainWindow m_window;
     CrvProfile* m_profile; // the manager's; active while the window is open
-    const int m_level; // of event loops, below any dialog of the window
     bool m_open = false;
-    bool m_ending = false;
+    bool m_ending = false; // destroyed as soon as its dialogs have returned
 };

@@ -71,11 +71,9 @@ void EventFiber::poll(int milliseconds)
 
 bool EventFiber::unwind()
 {
-    if (!instance || instance->m_fiber->isRunning())
-        return false;
-    if (instance->m_level > 1 && mayRun())
+    if (instance && instance->m_level > 1 && mayRun())
         instance->run(Goal::OnlyOuterLoop, patientRounds, 0);
-    return instance->m_level <= 1;
+    return loopLevel() <= 1;
 }
 
 void EventFiber::run(Goal goal, int rounds, int milliseconds)

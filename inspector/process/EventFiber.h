@@ -22,8 +22,9 @@ public:
     /// while an event loop runs already: this one, in one of whose handlers the caller stands then,
     /// or the program's own.
     static void poll(int milliseconds);
-    /// Lets dialogs, menus and drags that were told to end return. False if any is left, if the
-    /// caller stands in a handler, and if nothing was polled so far.
+    /// Lets dialogs, menus and drags that were told to end return, if they run here and the caller
+    /// doesn't stand in one of their handlers. False if any loop but the outermost one is left,
+    /// whoever runs it.
     static bool unwind();
 
     Q_DISABLE_COPY_MOVE(EventFiber)

@@ -14,8 +14,9 @@ GuestFileMenu::GuestFileMenu(QWidget* parent)
     : QMenu(tr("&File"), parent)
 {
     setObjectName(QStringLiteral("fileMenu"));
-    QAction* const save
-        = addAction(tr("Save a Copy &As..."), QKeySequence::SaveAs, this, &GuestFileMenu::saveCopy);
+    // Not every desktop has a standard key for either.
+    QAction* const save = addAction(tr("Save a Copy &As..."),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this, &GuestFileMenu::saveCopy);
     save->setObjectName(QStringLiteral("saveCopyAction"));
     addSeparator();
     QAction* const close

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 
 class QMainWindow;
@@ -18,7 +19,7 @@ public:
     WindowLayout(QMainWindow* window, QSettings* settings, int version);
 
     /// Called each time before the window is shown, when all docks are there. False if the window
-    /// was left as it is.
+    /// was left as it is. A layout that this object has saved comes back without those precautions.
     bool restore();
     void save();
 
@@ -31,4 +32,5 @@ private:
     QMainWindow* const m_window;
     QSettings* const m_settings;
     const int m_version;
+    QByteArray m_saved; // by this object; empty if none was
 };

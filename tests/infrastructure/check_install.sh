@@ -1,7 +1,8 @@
 #!/bin/bash
 # SPDX-License-Identifier: BSD-3-Clause
 # Installs a build tree into a folder of its own and fails unless the program found there runs with
-# the plug-in found there, and a plug-in written against the installed headers is built and loaded.
+# the plug-in found there, a plug-in written against the installed headers is built and loaded, and
+# so is each example program that has the inspector in its process.
 # Usage: check_install.sh CMAKE BUILD_DIR SOURCE_DIR
 set -eu
 cmake=$1
@@ -36,7 +37,23 @@ for name in libubn_kestrix_base libubn_kestrix libubn_corvane_extender ubn_corva
     }
 done
 
-"$cmake" -S "$source/tests/infrastructure/consumer" -B "$work/consumer" -G Ninja \
-    -DCMAKE_PREFIX_PATH="$prefix" >>"$work/log"
-"$cmake" --build "$work/consumer" >>"$work/log"
+# build FOLDER NAME: against nothing but the installed tree.
+build() {
+    "$cmake" -S "$1" -B "$work/$2" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >>"$work/log"
+    "$cmake" --build "$work/$2" >>"$work/log"
+}
+
+build "$source/tests/infrastructure/consumer" consumer
 draw consumer --plugin "$work/consumer/consumer.so"
+
+for name in loop viewer; do
+    [ -d "$source/examples/$name" ] || continue
+    build "$source/examples/$name" "$name"
+    LD_DEBUG=files LD_DEBUG_OUTPUT=$work/$name.trace \
+        "$work/$name/corvane_$name" --frames 30 >>"$work/log" 2>"$work/errors"
+    grep -q "calling init: $prefix/.*/ubn_corvane_extender_base\.so" "$work/$name".trace.* || {
+        echo "the example $name runs without the installed plug-in" >&2
+        cat "$work/errors" >&2
+        exit 1
+    }
+done

@@ -5,6 +5,7 @@
 #include "CrvPluginsManager.h"
 #include "KnField.h"
 #include "MainWindow.h"
+#include "RowInput.h"
 #include "SceneReader.h"
 #include "SceneSearch.h"
 #include "SceneText.h"
@@ -60,11 +61,11 @@ public:
     }
 
     /// Clicks a row of the tree or of the list.
-    void clickNode(const QString& name) { clickRow(u"sceneTree"_s, name); }
+    void clickNode(const QString& name) { clickRow(view(u"sceneTree"_s), name); }
     void clickField(const QString& node, const QString& name)
     {
         clickNode(node);
-        clickRow(u"fieldList"_s, name);
+        clickRow(view(u"fieldList"_s), name);
     }
 
     /// The entries of a menu by object name, a star behind those that are checked.
@@ -130,17 +131,6 @@ private:
         field->get(text);
         return toQString(text);
     }
-    void clickRow(const QString& viewName, const QString& name)
-    {
-        auto* const tree = view(viewName);
-        const QModelIndex top = tree->model()->index(0, 0);
-        const auto how = Qt::MatchExactly | Qt::MatchRecursive;
-        const QModelIndex found = tree->model()->match(top, Qt::DisplayRole, name, 1, how).value(0);
-        tree->scrollTo(found);
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(found).center());
-        QCoreApplication::processEvents();
-    }
-
     QSettings m_settings;
 
 public:
