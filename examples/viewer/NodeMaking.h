@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "KbVec.h"
+#include "KnSFields.h"
 
 #include <string>
 
