@@ -85,6 +85,7 @@ Rasterizer::Vertex SceneRenderer::toPixels(const QVector3D& seen) const
 
 QRgb SceneRenderer::colorOf(const DrawList::Face& face) const
 {
+    // All triangles of a face begin at the same corner, and so get the same colour.
     const QVector3D toEye = m_eye - face.corners[0];
     const float slope = QVector3D::dotProduct(face.normal, toEye) / toEye.length();
     const QRgb lit = slope >= 0.0F ? face.front : face.back;
