@@ -7,17 +7,28 @@
 
 namespace {
 
-/// The first pixel whose middle isn't before `edge`, kept between 0 and `count`.
+/// The first pixel whose middle isn't before `edge`, kept between 0 and `count`. Rounds up by hand,
+/// since std::ceil is a call on a plain x86-64.
 int firstPixel(float edge, int count)
 {
-    return static_cast<int>(std::ceil(std::clamp(edge - 0.5F, 0.0F, static_cast<float>(count))));
+    const float kept = std::clamp(edge - 0.5F, 0.0F, static_cast<float>(count));
+    const int whole = static_cast<int>(kept);
+    return static_cast<float>(whole) < kept ? whole + 1 : whole;
 }
 
-/// Where the line from `a` to `b` is at height `y`.
-float xAt(const Rasterizer::Vertex& a, const Rasterizer::Vertex& b, float y)
-{
-    return a.x + (b.x - a.x) * ((y - a.y) / (b.y - a.y));
-}
+/// The side of a triangle from its upper end to its lower one. Triangles that share a side get the
+/// same numbers for it, and so meet without gaps.
+struct Side {
+    Side(const Rasterizer::Vertex& from, const Rasterizer::Vertex& to)
+        : start(from)
+        , slope((to.x - from.x) / (to.y - from.y))
+    {
+    }
+    float xAt(float y) const { return start.x + (y - start.y) * slope; }
+
+    Rasterizer::Vertex start;
+    float slope; // not finite for a level side, which no row asks for
+};
 
 int mixed(int over, int under, int alpha) { return (over * alpha + under * (255 - alpha)) / 255; }
 
@@ -38,7 +49,7 @@ void Rasterizer::start(const QImage& background)
     const auto count = static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height);
     m_nearness.assign(count, 0.0F);
     m_marks.assign(count, noMark);
-    m_image.detach(); // once, and not in each span
+    m_pixels = reinterpret_cast<QRgb*>(m_image.bits());
 }
 
 void Rasterizer::fillTriangle(Vertex a, Vertex b, Vertex c, QRgb color, int mark)
@@ -57,11 +68,14 @@ void Rasterizer::fillTriangle(Vertex a, Vertex b, Vertex c, QRgb color, int mark
     const float alongX = (toB * (c.y - a.y) - toC * (b.y - a.y)) / area;
     const float alongY = (toC * (b.x - a.x) - toB * (c.x - a.x)) / area;
 
+    const Side whole(a, c);
+    const Side upper(a, b);
+    const Side lower(b, c);
     const int bottom = firstPixel(c.y, m_height);
     for (int y = firstPixel(a.y, m_height); y < bottom; ++y) {
         const float middle = static_cast<float>(y) + 0.5F;
-        const float x1 = xAt(a, c, middle);
-        const float x2 = middle < b.y ? xAt(a, b, middle) : xAt(b, c, middle);
+        const float x1 = whole.xAt(middle);
+        const float x2 = middle < b.y ? upper.xAt(middle) : lower.xAt(middle);
         const int first = firstPixel(std::min(x1, x2), m_width);
         const int last = firstPixel(std::max(x1, x2), m_width);
         const float nearness = a.nearness + (static_cast<float>(first) + 0.5F - a.x) * alongX
@@ -76,7 +90,7 @@ void Rasterizer::fillSpan(
     const auto row = static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width);
     float* const depths = m_nearness.data() + row;
     int* const marks = m_marks.data() + row;
-    auto* const pixels = reinterpret_cast<QRgb*>(m_image.scanLine(y));
+    QRgb* const pixels = m_pixels + row;
     const bool isOpaque = qAlpha(color) == 255;
     for (int x = first; x < last; ++x, nearness += step) {
         if (nearness <= depths[x])
@@ -125,7 +139,7 @@ void Rasterizer::outline(const std::vector<bool>& isInside, QRgb color)
         return mark != noMark && isInside[static_cast<std::size_t>(mark)];
     };
     for (int y = 0; y < m_height; ++y) {
-        auto* const pixels = reinterpret_cast<QRgb*>(m_image.scanLine(y));
+        QRgb* const pixels = m_pixels + static_cast<std::ptrdiff_t>(y) * m_width;
         for (int x = 0; x < m_width; ++x) {
             const bool own = inside(x, y);
             // One pixel on each side of the edge.

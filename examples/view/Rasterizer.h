@@ -40,6 +40,7 @@ private:
     void fillSpan(int y, int first, int last, float nearness, float step, QRgb color, int mark);
 
     QImage m_image;
+    QRgb* m_pixels = nullptr; // those of the image, row after row; RGB32 needs no padding
     int m_width = 0;
     int m_height = 0;
     std::vector<float> m_nearness; // of each pixel; 0 for the background

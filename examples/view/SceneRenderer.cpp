@@ -70,6 +70,12 @@ void SceneRenderer::setCamera(const OrbitCamera& camera, const QSize& size)
     } };
 }
 
+bool SceneRenderer::isInView(const QVector3D& seen) const
+{
+    return std::all_of(m_frustum.begin(), m_frustum.end(),
+        [&seen](const HalfSpace& half) { return half.holds(seen); });
+}
+
 void SceneRenderer::cutToView()
 {
     for (const HalfSpace& half : m_frustum)

@@ -36,6 +36,7 @@ private:
     void setCamera(const OrbitCamera& camera, const QSize& size);
     void drawFace(const DrawList::Face& face);
     void drawSegment(const DrawList::Segment& segment, float scale);
+    bool isInView(const QVector3D& seen) const;
     void cutToView();
     Rasterizer::Vertex toPixels(const QVector3D& seen) const;
     QRgb colorOf(const DrawList::Face& face) const;
