@@ -1,26 +1,44 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "SceneFilterModel.h"
 
+#include <QElapsedTimer>
+#include <QTimerEvent>
+
 SceneFilterModel::SceneFilterModel(QObject* parent)
-    : QSortFilterProxyModel(parent)
+    : SceneModel(&m_filter, parent)
+    , m_filter(graphChanged, this)
 {
-    setRecursiveFilteringEnabled(true);
 }
 
 void SceneFilterModel::setFilterText(const QString& text)
 {
-    m_text = text.trimmed();
-    invalidateFilter();
+    m_filter.setText(text);
+    lookThrough();
 }
 
-bool SceneFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
+void SceneFilterModel::graphChanged(void* data, KnSensor*)
 {
-    if (m_text.isEmpty())
-        return true;
-    for (int column = 0; column < sourceModel()->columnCount(sourceParent); ++column) {
-        const QModelIndex index = sourceModel()->index(sourceRow, column, sourceParent);
-        if (index.data().toString().contains(m_text, Qt::CaseInsensitive))
-            return true;
-    }
-    return false;
+    auto* const model = static_cast<SceneFilterModel*>(data);
+    if (!model->m_timer.isActive())
+        model->m_timer.start(model->m_pause, model);
+}
+
+void SceneFilterModel::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_timer.timerId())
+        lookThrough();
+    else
+        SceneModel::timerEvent(event);
+}
+
+void SceneFilterModel::lookThrough()
+{
+    constexpr int pauseFactor = 9;
+    m_timer.stop();
+    QElapsedTimer time;
+    time.start();
+    m_filter.begin();
+    followAll();
+    m_filter.end();
+    m_pause = pauseFactor * static_cast<int>(time.elapsed());
 }

@@ -2,106 +2,113 @@
 #include "SceneModel.h"
 
 #include "KnGroup.h"
+#include "ListDiff.h"
+#include "NodeFinder.h"
+#include "SceneBranch.h"
 #include "SceneText.h"
 
 #include <QFont>
 
-/// One place in the tree.
-struct SceneModel::Item {
-    Item(KnFieldContainer* itemNode, Item* itemParent, int itemRow)
-        : node(itemNode)
-        , parent(itemParent)
-        , row(itemRow)
-    {
-    }
-
-    // Rows that a view knows about stay, whatever becomes of the group.
-    int childCount() const
-    {
-        if (!children.empty())
-            return static_cast<int>(children.size());
-        const auto* group = dynamic_cast<const KnGroup*>(node.get());
-        return group ? group->getNumChildren() : 0;
-    }
-
-    const std::vector<std::unique_ptr<Item>>& childItems()
-    {
-        if (children.empty() && childCount() > 0) {
-            const auto* group = static_cast<const KnGroup*>(node.get());
-            const int count = childCount();
-            children.reserve(static_cast<std::size_t>(count));
-            for (int i = 0; i < count; ++i)
-                children.push_back(std::make_unique<Item>(group->getChild(i), this, i));
-        }
-        return children;
-    }
-
-    /// Below this place or at it; null if the node isn't there.
-    Item* find(const KnFieldContainer* wanted)
-    {
-        if (node && node.get() == wanted)
-            return this;
-        for (const auto& child : childItems()) {
-            if (Item* found = child->find(wanted))
-                return found;
-        }
-        return nullptr;
-    }
-
-    KnNodePtr node;
-    Item* parent; // null for the top
-    int row;
-    std::vector<std::unique_ptr<Item>> children; // made by childItems()
-};
+#include <algorithm>
+#include <utility>
 
 SceneModel::SceneModel(QObject* parent)
-    : QAbstractItemModel(parent)
-    , m_top(std::make_unique<Item>(nullptr, nullptr, 0))
+    : SceneModel(nullptr, parent)
 {
+}
+
+SceneModel::SceneModel(NodeFilter* filter, QObject* parent)
+    : QAbstractItemModel(parent)
+    , m_filter(filter)
+    , m_top(std::make_unique<SceneItem>(nullptr, nullptr, 0))
+{
+    m_top->branch = std::make_unique<SceneBranch>(*this, *m_top, nullptr);
+    m_top->opened = true;
 }
 
 SceneModel::~SceneModel() = default;
 
-void SceneModel::setRoots(const std::vector<KnNodePtr>& roots)
+void SceneModel::setRoots(std::vector<KnNodePtr> roots)
 {
-    beginResetModel();
-    m_top->children.clear();
-    for (const KnNodePtr& root : roots) {
-        const int row = static_cast<int>(m_top->children.size());
-        m_top->children.push_back(std::make_unique<Item>(root.get(), m_top.get(), row));
-    }
-    endResetModel();
+    std::swap(m_roots, roots); // the former ones live until their rows have gone
+    m_top->branch->rootsReplaced(static_cast<int>(roots.size()));
+    follow(*m_top->branch);
 }
 
 KnFieldContainer* SceneModel::node(const QModelIndex& index) const
 {
-    return index.isValid() && index.model() == this ? itemOf(index)->node.get() : nullptr;
+    return index.isValid() && index.model() == this ? itemOf(index).node.get() : nullptr;
 }
 
 QModelIndex SceneModel::indexOf(const KnFieldContainer* node) const
 {
-    Item* const item = node ? m_top->find(node) : nullptr;
-    return item ? createIndex(item->row, NameColumn, item) : QModelIndex();
+    NodeFinder finder(node);
+    SceneItem* const item = node ? find(*m_top, finder) : nullptr;
+    return item ? indexOf(*item) : QModelIndex();
+}
+
+QModelIndex SceneModel::counterpart(const QModelIndex& foreign) const
+{
+    const auto* const model = qobject_cast<const SceneModel*>(foreign.model());
+    SceneItem* const item = model ? counterpart(model->itemOf(foreign)) : nullptr;
+    return item ? indexOf(*item) : QModelIndex();
+}
+
+SceneItem* SceneModel::counterpart(const SceneItem& foreign) const
+{
+    if (!foreign.parent)
+        return m_top.get();
+    SceneItem* const parent = counterpart(*foreign.parent);
+    SceneBranch* const branch = parent ? branchOf(*parent) : nullptr;
+    for (int row = 0; branch && row < branch->count(); ++row) {
+        if (branch->node(row) == foreign.node.get())
+            return &branch->item(row);
+    }
+    return nullptr;
+}
+
+bool SceneModel::isInGraph(const KnFieldContainer* node) const
+{
+    NodeFinder finder(node);
+    return std::any_of(m_roots.begin(), m_roots.end(),
+        [&finder](const KnNodePtr& root) { return finder.isAtOrBelow(root.get()); });
+}
+
+/// Makes no rows but those on the way.
+SceneItem* SceneModel::find(SceneItem& item, NodeFinder& finder)
+{
+    if (item.node && item.node.get() == finder.wanted())
+        return &item;
+    if (!item.opened && !finder.isAtOrBelow(item.node.get()))
+        return nullptr;
+    SceneBranch* const branch = branchOf(item);
+    for (int row = 0; branch && row < branch->count(); ++row) {
+        SceneItem* const known = branch->knownItem(row);
+        if (!known && !finder.isAtOrBelow(branch->node(row)))
+            continue;
+        if (SceneItem* const found = find(known ? *known : branch->item(row), finder))
+            return found;
+    }
+    return nullptr;
 }
 
 QModelIndex SceneModel::index(int row, int column, const QModelIndex& parent) const
 {
-    if (!hasIndex(row, column, parent))
+    if (row < 0 || column < 0 || column >= ColumnCount || row >= rowCount(parent))
         return QModelIndex();
-    return createIndex(
-        row, column, itemOf(parent)->childItems()[static_cast<std::size_t>(row)].get());
+    return createIndex(row, column, &branchOf(itemOf(parent))->item(row));
 }
 
 QModelIndex SceneModel::parent(const QModelIndex& index) const
 {
-    Item* const parentItem = index.isValid() ? itemOf(index)->parent : nullptr;
-    return parentItem && parentItem->parent ? createIndex(parentItem->row, NameColumn, parentItem)
-                                            : QModelIndex();
+    return index.isValid() ? indexOf(*itemOf(index).parent) : QModelIndex();
 }
 
 int SceneModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.column() <= NameColumn ? itemOf(parent)->childCount() : 0;
+    const SceneBranch* const branch
+        = parent.column() <= NameColumn ? branchOf(itemOf(parent)) : nullptr;
+    return branch ? branch->count() : 0;
 }
 
 int SceneModel::columnCount(const QModelIndex&) const { return ColumnCount; }
@@ -110,18 +117,18 @@ bool SceneModel::hasChildren(const QModelIndex& parent) const { return rowCount(
 
 QVariant SceneModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid())
+    const KnFieldContainer* const shown = node(index);
+    if (!shown)
         return QVariant();
-    const KnFieldContainer& shown = *itemOf(index)->node.get();
     const auto text = [&] {
-        return index.column() == NameColumn ? nodeLabel(shown) : typeName(shown.getObjectType());
+        return index.column() == NameColumn ? nodeLabel(*shown) : typeName(shown->getObjectType());
     };
     if (role == Qt::DisplayRole)
         return text();
     if (role == Qt::ToolTipRole)
         return toolTipText(text());
     // A node without a name stands under its type's.
-    if (role == Qt::FontRole && index.column() == NameColumn && shown.getName().isEmpty()) {
+    if (role == Qt::FontRole && index.column() == NameColumn && shown->getName().isEmpty()) {
         QFont font;
         font.setItalic(true);
         return font;
@@ -136,7 +143,104 @@ QVariant SceneModel::headerData(int section, Qt::Orientation orientation, int ro
     return section == NameColumn ? tr("Node") : tr("Type");
 }
 
-SceneModel::Item* SceneModel::itemOf(const QModelIndex& index) const
+/// Null if nothing can stand below.
+SceneBranch* SceneModel::branchOf(SceneItem& item)
 {
-    return index.isValid() ? static_cast<Item*>(index.internalPointer()) : m_top.get();
+    if (!item.opened) {
+        item.opened = true;
+        if (auto* const group = dynamic_cast<KnGroup*>(item.node.get()))
+            item.branch = std::make_unique<SceneBranch>(item.parent->branch->model(), item, group);
+    }
+    return item.branch.get();
+}
+
+SceneItem& SceneModel::itemOf(const QModelIndex& index) const
+{
+    return index.isValid() ? *static_cast<SceneItem*>(index.internalPointer()) : *m_top;
+}
+
+QModelIndex SceneModel::indexOf(SceneItem& item) const
+{
+    return item.parent ? createIndex(item.parent->branch->rowOf(item), NameColumn, &item)
+                       : QModelIndex();
+}
+
+/// Brings the rows in line with the group.
+void SceneModel::follow(SceneBranch& branch)
+{
+    const SceneBranch::Change change = branch.findChange();
+    if (change.removed == 0 && change.inserted == 0) {
+        branch.finish();
+        return;
+    }
+    std::vector<const void*> before;
+    for (int i = 0; i < change.removed; ++i) {
+        const SceneItem* const known = branch.knownItem(change.first + i);
+        before.push_back(known ? known->node.get() : nullptr);
+    }
+    const std::vector<KnFieldContainer*> nodes = branch.groupNodes(change.first, change.inserted);
+    const ListDiff diff(before, { nodes.begin(), nodes.end() });
+
+    Q_EMIT structureAboutToChange();
+    for (const ListDiff::Run& run : diff.removals())
+        announceRemoval(branch, change.first + run.first, run.count);
+    for (const ListDiff::Move& move : diff.moves())
+        announceMove(branch, change.first + move.from, change.first + move.to);
+    if (!diff.arrangement().empty())
+        announceArrangement(branch, change.first, diff.arrangement());
+    for (const ListDiff::Run& run : diff.insertions())
+        announceInsertion(branch, change.first + run.first, nodes, run.first, run.count);
+    branch.finish();
+    Q_EMIT structureChanged();
+}
+
+void SceneModel::followAll() { followBelow(*m_top); }
+
+void SceneModel::followBelow(SceneItem& item)
+{
+    if (!item.branch)
+        return;
+    follow(*item.branch);
+    for (int row = 0; row < item.branch->count(); ++row) {
+        if (SceneItem* const known = item.branch->knownItem(row))
+            followBelow(*known);
+    }
+}
+
+void SceneModel::announceRemoval(SceneBranch& branch, int row, int count)
+{
+    beginRemoveRows(indexOf(branch.place()), row, row + count - 1);
+    // Destroyed at the end, since what a node does when it dies should find sound rows.
+    const SceneBranch::Items gone = branch.remove(row, count);
+    endRemoveRows();
+}
+
+void SceneModel::announceMove(SceneBranch& branch, int from, int to)
+{
+    const QModelIndex parent = indexOf(branch.place());
+    beginMoveRows(parent, from, from, parent, to > from ? to + 1 : to);
+    branch.move(from, to);
+    endMoveRows();
+}
+
+void SceneModel::announceArrangement(SceneBranch& branch, int first, const std::vector<int>& order)
+{
+    const QList<QPersistentModelIndex> parents { indexOf(branch.place()) };
+    Q_EMIT layoutAboutToBeChanged(parents);
+    branch.arrange(first, order);
+    const QModelIndexList before = persistentIndexList();
+    for (const QModelIndex& index : before) {
+        SceneItem& item = itemOf(index);
+        if (item.parent == &branch.place())
+            changePersistentIndex(index, createIndex(branch.rowOf(item), index.column(), &item));
+    }
+    Q_EMIT layoutChanged(parents);
+}
+
+void SceneModel::announceInsertion(
+    SceneBranch& branch, int row, const std::vector<KnFieldContainer*>& nodes, int first, int count)
+{
+    beginInsertRows(indexOf(branch.place()), row, row + count - 1);
+    branch.insert(row, nodes, first, count);
+    endInsertRows();
 }

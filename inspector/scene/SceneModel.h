@@ -8,10 +8,15 @@
 #include <memory>
 #include <vector>
 
-/// The scene as a tree: one row per place of a node, the roots at the top. Rows are made when a
-/// view asks for them. A node that has several parents stands in several places. The kernel doesn't
-/// tell when a graph changes its shape: rows that were made stay as they are, and keep their nodes
-/// alive.
+class NodeFilter;
+class NodeFinder;
+class SceneBranch;
+struct SceneItem;
+
+/// The scene as a tree: one row per place of a node, the roots at the top. A node that has several
+/// parents stands in several places. Rows are made, and groups are watched, where a view has asked
+/// what stands there; the rest of the graph costs nothing. What comes, goes and moves in a group
+/// arrives as rows that do, once the kernel's queue runs. Until then a row holds its node.
 class SceneModel : public QAbstractItemModel {
     Q_OBJECT
 public:
@@ -20,13 +25,19 @@ public:
     explicit SceneModel(QObject* parent = nullptr);
     ~SceneModel() override;
 
-    /// None is null. The model holds a reference on each.
-    void setRoots(const std::vector<KnNodePtr>& roots);
+    /// None is null. The model holds a reference on each. The rows of those that were roots before
+    /// stay.
+    void setRoots(std::vector<KnNodePtr> roots);
 
-    /// Null for an index that isn't one of this model.
+    /// Null for an index that isn't one of this model, or whose node went before anybody looked.
     KnFieldContainer* node(const QModelIndex& index) const;
-    /// The first place of the node in the tree; invalid if it has none.
+    /// The first place of the node in the tree; invalid if it has none. Looks through the graph.
     QModelIndex indexOf(const KnFieldContainer* node) const;
+    /// The place in this tree that stands below the same nodes as one in another tree; invalid if
+    /// there is none.
+    QModelIndex counterpart(const QModelIndex& foreign) const;
+    /// Whether the graph has the node at this moment, which may be ahead of the rows.
+    bool isInGraph(const KnFieldContainer* node) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
@@ -36,10 +47,35 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+Q_SIGNALS:
+    // Around all that is announced of one group.
+    void structureAboutToChange();
+    void structureChanged();
+
+protected:
+    /// Shows only what the filter accepts; the filter outlives the last use of the model.
+    SceneModel(NodeFilter* filter, QObject* parent);
+    /// Brings all rows in line with graph and filter.
+    void followAll();
+
 private:
-    struct Item;
+    friend class SceneBranch;
 
-    Item* itemOf(const QModelIndex& index) const;
+    static SceneBranch* branchOf(SceneItem& item);
+    static SceneItem* find(SceneItem& item, NodeFinder& finder);
+    SceneItem* counterpart(const SceneItem& foreign) const;
+    SceneItem& itemOf(const QModelIndex& index) const;
+    QModelIndex indexOf(SceneItem& item) const;
 
-    std::unique_ptr<Item> m_top; // has the roots as its children, and no node
+    void follow(SceneBranch& branch);
+    void followBelow(SceneItem& item);
+    void announceRemoval(SceneBranch& branch, int row, int count);
+    void announceMove(SceneBranch& branch, int from, int to);
+    void announceArrangement(SceneBranch& branch, int first, const std::vector<int>& order);
+    void announceInsertion(SceneBranch& branch, int row,
+        const std::vector<KnFieldContainer*>& nodes, int first, int count);
+
+    NodeFilter* m_filter; // not owned; null lets everything through
+    std::vector<KnNodePtr> m_roots;
+    std::unique_ptr<SceneItem> m_top; // has the roots below it, and no node
 };

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "PaneTree.h"
 
+#include <QScrollBar>
+
+#include <utility>
+
 void PaneTree::focusInEvent(QFocusEvent* event)
 {
     if (currentIndex().isValid()) {
@@ -9,4 +13,28 @@ void PaneTree::focusInEvent(QFocusEvent* event)
     }
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
+}
+
+void PaneTree::holdPlace()
+{
+    // What was held before the last layout is what the person still sees.
+    if (!m_held.isEmpty() || verticalScrollBar()->value() == 0)
+        return;
+    // All that are in sight, since the first may be among those that go.
+    const int bottom = viewport()->height();
+    for (QModelIndex index = indexAt(QPoint()); index.isValid() && visualRect(index).top() < bottom;
+         index = indexBelow(index))
+        m_held.append(QPersistentModelIndex(index));
+}
+
+void PaneTree::doItemsLayout()
+{
+    QTreeView::doItemsLayout();
+    const QList<QPersistentModelIndex> held = std::exchange(m_held, {});
+    for (const QPersistentModelIndex& index : held) {
+        if (!index.isValid())
+            continue;
+        scrollTo(index, PositionAtTop);
+        break;
+    }
 }

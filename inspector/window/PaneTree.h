@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QPersistentModelIndex>
 #include <QTreeView>
 
 /// The tree of a panel whose current row is the host's selection. Getting the focus selects
@@ -10,6 +11,15 @@ class PaneTree : public QTreeView {
 public:
     using QTreeView::QTreeView;
 
+    /// To be called before rows come and go: what is at the top of the view stays there. A view
+    /// that stands at its very beginning goes on showing the beginning.
+    void holdPlace();
+
+    void doItemsLayout() override;
+
 protected:
     void focusInEvent(QFocusEvent* event) override;
+
+private:
+    QList<QPersistentModelIndex> m_held; // from the top of the view on; empty if nothing is held
 };

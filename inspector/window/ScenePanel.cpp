@@ -9,6 +9,11 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <memory>
+#include <unordered_set>
+#include <utility>
+
 namespace {
 
 // A view that opens everything lays everything out; with more rows than this nobody looks through
@@ -29,6 +34,26 @@ void expandSome(QTreeView& tree, const QModelIndex& parent, int& budget)
     }
 }
 
+void addExpandedRows(
+    const QTreeView& tree, const QModelIndex& parent, QList<QPersistentModelIndex>& rows)
+{
+    const QAbstractItemModel& model = *tree.model();
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        if (!tree.isExpanded(index))
+            continue;
+        rows.append(QPersistentModelIndex(index));
+        addExpandedRows(tree, index, rows);
+    }
+}
+
+QList<QPersistentModelIndex> expandedRows(const QTreeView& tree)
+{
+    QList<QPersistentModelIndex> rows;
+    addExpandedRows(tree, QModelIndex(), rows);
+    return rows;
+}
+
 } // namespace
 
 ScenePanel::ScenePanel(QWidget* parent)
@@ -41,9 +66,8 @@ ScenePanel::ScenePanel(QWidget* parent)
     m_filterEdit->setPlaceholderText(tr("Filter by name or type"));
     m_filterEdit->setClearButtonEnabled(true);
 
-    m_filter.setSourceModel(&m_model);
     m_tree->setObjectName(QStringLiteral("sceneTree"));
-    m_tree->setModel(&m_filter);
+    setTreeModel(&m_model);
     m_tree->setUniformRowHeights(true);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_tree->header()->setStretchLastSection(false);
@@ -58,8 +82,11 @@ ScenePanel::ScenePanel(QWidget* parent)
     layout->addWidget(m_tree);
 
     connect(m_filterEdit, &QLineEdit::textChanged, this, &ScenePanel::setFilterText);
-    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-        &ScenePanel::currentChanged);
+    for (const SceneModel* model : { &m_model, static_cast<SceneModel*>(&m_filter) }) {
+        connect(
+            model, &SceneModel::structureAboutToChange, this, &ScenePanel::structureAboutToChange);
+        connect(model, &SceneModel::structureChanged, this, &ScenePanel::structureChanged);
+    }
     CrvServices* const services = CrvServices::getInstance();
     connect(services, &CrvServices::rootsChanged, this, &ScenePanel::showRoots);
     connect(services, &CrvServices::selectedNodeChanged, this, &ScenePanel::showSelection);
@@ -68,10 +95,22 @@ ScenePanel::ScenePanel(QWidget* parent)
 
 void ScenePanel::showRoots()
 {
-    const QScopedValueRollback following(m_following, true);
-    m_filterEdit->clear();
-    m_model.setRoots(CrvServices::getInstance()->getRoots());
-    m_tree->expandToDepth(0);
+    std::unordered_set<const KnFieldContainer*> former;
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        former.insert(m_model.node(m_model.index(row, SceneModel::NameColumn)));
+    const std::vector<KnNodePtr>& roots = CrvServices::getInstance()->getRoots();
+    // Another scene: what was looked for in the last one is of no use here.
+    if (std::none_of(roots.begin(), roots.end(),
+            [&former](const KnNodePtr& root) { return former.contains(root.get()); }))
+        m_filterEdit->clear();
+    m_model.setRoots(roots);
+    if (m_filter.isFiltering())
+        m_filter.setRoots(roots);
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const QModelIndex index = m_model.index(row, SceneModel::NameColumn);
+        if (!former.contains(m_model.node(index)))
+            m_tree->expand(toTree(index));
+    }
 }
 
 void ScenePanel::focusFilter()
@@ -85,34 +124,116 @@ void ScenePanel::setFilterText(const QString& text)
 {
     {
         const QScopedValueRollback following(m_following, true);
+        const bool wasFiltering = m_filter.isFiltering();
+        if (!wasFiltering)
+            m_expanded = expandedRows(*m_tree);
         m_filter.setFilterText(text);
         if (m_filter.isFiltering()) {
+            if (!wasFiltering) {
+                m_filter.setRoots(CrvServices::getInstance()->getRoots());
+                setTreeModel(&m_filter);
+            }
             int budget = maxExpandedRows;
             expandSome(*m_tree, QModelIndex(), budget);
+        } else if (wasFiltering) {
+            setTreeModel(&m_model);
+            m_filter.setRoots({});
+            const QList<QPersistentModelIndex> expanded = std::exchange(m_expanded, {});
+            for (const QPersistentModelIndex& index : expanded)
+                m_tree->expand(index);
         }
     }
     showSelection();
 }
 
+void ScenePanel::setTreeModel(SceneModel* model)
+{
+    const std::unique_ptr<QItemSelectionModel> former(m_tree->selectionModel());
+    m_tree->setModel(model);
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
+        &ScenePanel::currentChanged);
+}
+
+SceneModel& ScenePanel::treeModel() { return m_filter.isFiltering() ? m_filter : m_model; }
+
+QModelIndex ScenePanel::toTree(const QModelIndex& index)
+{
+    return m_filter.isFiltering() ? m_filter.counterpart(index) : index;
+}
+
 void ScenePanel::currentChanged(const QModelIndex& current)
 {
-    if (!m_following)
-        CrvServices::getInstance()->selectNode(m_model.node(m_filter.mapToSource(current)));
+    if (m_following)
+        return;
+    m_place = m_filter.isFiltering() ? m_model.counterpart(current) : current;
+    CrvServices::getInstance()->selectNode(m_model.node(m_place));
 }
 
 void ScenePanel::showSelection()
 {
-    const QScopedValueRollback following(m_following, true);
+    m_placeLost = false;
+    findPlace();
+    showPlace();
+    const QModelIndex index = toTree(m_place);
+    if (index.isValid())
+        m_tree->scrollTo(index);
+}
+
+// A node may stand in several places: the one that the person chose is kept.
+void ScenePanel::findPlace()
+{
     KnFieldContainer* const node = CrvServices::getInstance()->getSelectedNode();
-    QModelIndex index = m_tree->currentIndex();
-    // A node may stand in several places: the one that the person chose is kept.
-    if (!node || m_model.node(m_filter.mapToSource(index)) != node)
-        index = m_filter.mapFromSource(m_model.indexOf(node));
-    if (!index.isValid()) {
+    if (!node || m_model.node(m_place) != node)
+        m_place = m_model.indexOf(node);
+}
+
+void ScenePanel::showPlace()
+{
+    const QScopedValueRollback following(m_following, true);
+    const QModelIndex index = toTree(m_place);
+    if (index.isValid()) {
+        m_tree->selectionModel()->setCurrentIndex(
+            index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    } else {
         m_tree->selectionModel()->clear();
+    }
+}
+
+// When the current row goes, a view moves on to a neighbour and scrolls there, which is no person's
+// choice either.
+void ScenePanel::structureAboutToChange()
+{
+    m_following = true;
+    m_placed = m_place.isValid();
+    m_tree->holdPlace();
+    m_tree->setAutoScroll(false);
+}
+
+void ScenePanel::structureChanged()
+{
+    m_placeLost = m_placeLost || (m_placed && !m_place.isValid());
+    if (treeModel().node(m_tree->currentIndex()) != m_model.node(m_place))
+        showPlace();
+    m_tree->setAutoScroll(true);
+    m_following = false;
+    // Later, when all groups have told: a node may have gone from one of them to another.
+    if (m_placeLost)
+        QMetaObject::invokeMethod(this, &ScenePanel::lookForSelection, Qt::QueuedConnection);
+}
+
+void ScenePanel::lookForSelection()
+{
+    if (!m_placeLost)
+        return;
+    CrvServices* const services = CrvServices::getInstance();
+    if (!m_model.isInGraph(services->getSelectedNode())) {
+        services->selectNode(nullptr);
         return;
     }
-    m_tree->selectionModel()->setCurrentIndex(
-        index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    m_tree->scrollTo(index);
+    // The person may be looking at something else by now, so nothing is scrolled.
+    m_tree->setAutoScroll(false);
+    findPlace();
+    showPlace();
+    m_tree->setAutoScroll(true);
+    m_placeLost = !m_place.isValid(); // it may have to be announced yet
 }

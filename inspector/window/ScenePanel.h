@@ -4,13 +4,14 @@
 #include "SceneFilterModel.h"
 #include "SceneModel.h"
 
+#include <QPersistentModelIndex>
 #include <QWidget>
 
 class QLineEdit;
 class PaneTree;
 
 /// The scene as a tree below a filter line. A person's choice becomes the host's selection, and
-/// the host's selection is shown in the tree.
+/// the host's selection is shown in the tree. A selected node that leaves the scene is given up.
 class ScenePanel : public QWidget {
     Q_OBJECT
 public:
@@ -21,12 +22,25 @@ public:
 private:
     void showRoots();
     void setFilterText(const QString& text);
+    void setTreeModel(SceneModel* model);
+    SceneModel& treeModel();
+    QModelIndex toTree(const QModelIndex& index);
+
     void currentChanged(const QModelIndex& current);
     void showSelection();
+    void findPlace();
+    void showPlace();
+    void structureAboutToChange();
+    void structureChanged();
+    void lookForSelection();
 
     SceneModel m_model;
-    SceneFilterModel m_filter;
+    SceneFilterModel m_filter; // what the tree shows instead while there is a filter text
     QLineEdit* m_filterEdit; // child
     PaneTree* m_tree; // child
-    bool m_following = false; // the tree is being brought in line with the host's selection
+    QPersistentModelIndex m_place; // of the selected node, in m_model
+    bool m_placed = false; // whether there was a place before the structure changed
+    bool m_placeLost = false; // the place went while its node was selected
+    QList<QPersistentModelIndex> m_expanded; // in m_model, from before there was a filter text
+    bool m_following = false; // the tree is being brought in line with scene or selection
 };

@@ -12,8 +12,12 @@
 #include "SceneText.h"
 
 #include <QAbstractItemModelTester>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <map>
+#include <string>
 
 using namespace Qt::StringLiterals;
 using FailureMode = QAbstractItemModelTester::FailureReportingMode;
@@ -32,6 +36,92 @@ QStringList leaves(const QAbstractItemModel& model, const QModelIndex& parent = 
     return names;
 }
 
+// The whole tree as a model shows it, in brackets what stands below.
+QString shape(const QAbstractItemModel& model, const QModelIndex& parent = {})
+{
+    QString text;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        text += index.data().toString() + u'(' + shape(model, index) + u')';
+    }
+    return text;
+}
+
+/// A graph of a few shared groups that changes at random, never into a circle.
+class RandomScene {
+public:
+    explicit RandomScene(quint32 seed)
+        : m_random(seed)
+    {
+        for (int i = 0; i < 6; ++i)
+            m_groups.push_back(newNode(true));
+    }
+
+    std::vector<KnNodePtr> roots() const { return { m_groups[0], m_groups[1] }; }
+    int below(int bound) { return m_random.bounded(bound); }
+
+    void change()
+    {
+        // A group stands only below those in front of it.
+        const int place = below(1 + below(static_cast<int>(m_groups.size())));
+        const int others = static_cast<int>(m_groups.size()) - place - 1;
+        auto* const group = static_cast<KnGroup*>(m_groups[std::size_t(place)].get());
+        const int count = group->getNumChildren();
+        switch (below(9)) {
+        case 0: // a group that has something already
+            m_groups.push_back(newNode(true));
+            static_cast<KnGroup*>(m_groups.back().get())->addChild(newNode(false).get());
+            group->insertChild(m_groups.back().get(), below(count + 1));
+            break;
+        case 1: // now and then, or the places of a node become more and more
+            if (others > 0 && below(5) == 0)
+                group->insertChild(
+                    m_groups[std::size_t(place + 1 + below(others))].get(), below(count + 1));
+            break;
+        case 2: // sometimes to empty it
+            for (int i = below(4) == 0 ? count : below(3); i > 0 && i <= count; --i)
+                group->removeChild(below(i));
+            break;
+        case 3:
+            for (int i = below(30); i > 0 && count > 0; --i)
+                group->moveChild(below(count), below(count));
+            break;
+        case 4:
+            group->moveChild(below(count + 1), below(count + 1));
+            break;
+        default:
+            group->insertChild(newNode(false).get(), below(count + 1));
+        }
+    }
+
+private:
+    KnNodePtr newNode(bool isGroup)
+    {
+        KnNodePtr node(isGroup ? static_cast<KnFieldContainer*>(new KnGroup) : new KnMaterial);
+        node->setName(KbName(std::to_string(++m_count).c_str()));
+        return node;
+    }
+
+    QRandomGenerator m_random;
+    int m_count = 0;
+    std::vector<KnNodePtr> m_groups;
+};
+
+/// Says when it dies.
+class MortalGroup : public KnGroup {
+public:
+    explicit MortalGroup(bool* dead)
+        : m_dead(dead)
+    {
+    }
+
+protected:
+    ~MortalGroup() override { *m_dead = true; }
+
+private:
+    bool* m_dead;
+};
+
 } // namespace
 
 class TestSceneModels : public QObject {
@@ -44,10 +134,10 @@ private Q_SLOTS:
     {
         SceneModel model;
         SceneFilterModel filter;
-        filter.setSourceModel(&model);
         const QAbstractItemModelTester modelTester(&model, FailureMode::QtTest);
         const QAbstractItemModelTester filterTester(&filter, FailureMode::QtTest);
         model.setRoots({ m_sample });
+        filter.setRoots({ m_sample });
         const auto shown = [&filter](const QString& text) {
             filter.setFilterText(text);
             return leaves(filter).join(u", "_s);
@@ -61,8 +151,122 @@ private Q_SLOTS:
         auto* const root = new KnGroup;
         root->addChild(new KnMaterial);
         root->addChild(root->getChild(0));
-        model.setRoots({ KnNodePtr(root) });
+        filter.setRoots({ KnNodePtr(root) });
         QCOMPARE(shown(QString()), u"Material, Material"_s);
+    }
+
+    void treeFollowsTheGraph_data()
+    {
+        QTest::addColumn<QString>("filterText");
+        QTest::newRow("bare") << QString();
+        QTest::newRow("filter") << u"1"_s;
+    }
+    void treeFollowsTheGraph()
+    {
+        QFETCH(QString, filterText);
+        const quint32 seed = QRandomGenerator::global()->generate();
+        RandomScene scene(seed);
+        SceneFilterModel filtering;
+        SceneModel bare;
+        filtering.setFilterText(filterText);
+        SceneModel& model = filterText.isEmpty() ? bare : filtering;
+        const QAbstractItemModelTester tester(&model, FailureMode::QtTest);
+        const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        model.setRoots(scene.roots());
+        std::vector<std::pair<QPersistentModelIndex, KnNodePtr>> held;
+        for (int batch = 0; batch < 300; ++batch) {
+            for (int change = scene.below(5); change >= 0; --change) {
+                scene.change();
+                // Somebody looks while the rows are behind the graph.
+                const QModelIndex top = model.index(scene.below(2), 0);
+                const QModelIndex row = model.index(scene.below(4), 0, top);
+                if (KnFieldContainer* const node = model.node(row))
+                    held.emplace_back(row, KnNodePtr(node));
+            }
+            KnSensorQueue::getInstance().process();
+            const QByteArray where
+                = "seed " + QByteArray::number(seed) + ", batch " + QByteArray::number(batch);
+            for (const auto& [index, node] : held)
+                QVERIFY2(!index.isValid() || model.node(index) == node.get(), where);
+            if (batch % 4 != 0) // so that some groups stay unseen for a while
+                continue;
+            SceneFilterModel fresh;
+            fresh.setFilterText(filterText);
+            fresh.setRoots(scene.roots());
+            QTRY_VERIFY2(shape(model) == shape(fresh), where);
+            QVERIFY2(!QTest::currentTestFailed(), where);
+        }
+        QCOMPARE(resets.size(), 0);
+    }
+
+    void whatHappensToRows_data()
+    {
+        QTest::addColumn<QString>("children"); // of a group that has "abcdef"
+        QTest::addColumn<QString>("told"); // signals by their first letters, and rows
+        QTest::newRow("insert") << u"abxycdef"_s << u"i2-3"_s;
+        QTest::newRow("remove") << u"aef"_s << u"r1-3"_s;
+        QTest::newRow("two places") << u"xbcdefy"_s << u"r0-0 i0-0 i6-6"_s;
+        QTest::newRow("down") << u"bcdefa"_s << u"m0>6"_s;
+        QTest::newRow("up") << u"afbcde"_s << u"m5>1"_s;
+        QTest::newRow("exchange") << u"ebcdaf"_s << u"m4>0 m1>5"_s;
+        QTest::newRow("all at once") << u"xfbcd"_s << u"r4-4 r0-0 m3>0 i0-0"_s;
+        QTest::newRow("the same") << u"abcdef"_s << QString();
+        QTest::newRow("twice") << u"abcdefa"_s << u"i6-6"_s;
+        QTest::newRow("empty") << QString() << u"r0-5"_s;
+    }
+    void whatHappensToRows()
+    {
+        QFETCH(const QString, children);
+        QFETCH(QString, told);
+        std::map<QChar, KnNodePtr> nodes;
+        auto* const group = new KnGroup;
+        const auto fill = [&](const QString& names) {
+            for (const QChar name : names) {
+                nodes.try_emplace(name, new KnMaterial);
+                group->addChild(nodes[name].get());
+            }
+        };
+        fill(u"abcdef"_s);
+        SceneModel model;
+        model.setRoots({ KnNodePtr(group) });
+        const QModelIndex parent = model.index(0, 0);
+        shape(model);
+        QStringList heard;
+        const auto range = [&](const QString& what, int first, int last) {
+            heard += what + QString::number(first) + (what == u"m" ? u'>' : u'-')
+                + QString::number(last);
+        };
+        connect(&model, &QAbstractItemModel::rowsInserted, this,
+            [&](const QModelIndex&, int first, int last) { range(u"i"_s, first, last); });
+        connect(&model, &QAbstractItemModel::rowsRemoved, this,
+            [&](const QModelIndex&, int first, int last) { range(u"r"_s, first, last); });
+        connect(&model, &QAbstractItemModel::rowsMoved, this,
+            [&](const QModelIndex&, int first, int, const QModelIndex&, int to) {
+                range(u"m"_s, first, to);
+            });
+        while (group->removeChild(0)) { }
+        fill(children);
+        QCOMPARE(model.rowCount(parent), 6);
+        KnSensorQueue::getInstance().process();
+        QCOMPARE(heard.join(u' '), told);
+    }
+
+    void aDroppedNodeIsGone()
+    {
+        bool dead[3] = {};
+        auto* const root = new KnGroup;
+        auto* const group = new MortalGroup(&dead[0]);
+        group->addChild(new MortalGroup(&dead[1]));
+        root->addChild(group);
+        SceneModel model;
+        model.setRoots({ KnNodePtr(root) });
+        shape(model);
+        // Its own sensor waits in the queue when it goes.
+        group->addChild(new MortalGroup(&dead[2]));
+        root->removeChild(0);
+        KnSensorQueue::getInstance().process();
+        QVERIFY(dead[0] && dead[1] && dead[2]);
+        QCOMPARE(shape(model), u"Group()"_s);
     }
 
     void fieldListFollowsTheFields()
