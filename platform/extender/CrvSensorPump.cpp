@@ -53,6 +53,7 @@ void CrvSensorPump::hurry(const KnField* field)
     m_hurriedField = field;
     if (!KnSensorQueue::getInstance().isEmpty())
         post();
+    Q_EMIT hurried(field);
 }
 
 void CrvSensorPump::wake(void* data)

@@ -26,6 +26,10 @@ public:
     /// the sensors of this one field run; it may be null, and be gone by the time.
     void hurry(const KnField* field);
 
+Q_SIGNALS:
+    /// With the field that `hurry` was told.
+    void hurried(const KnField* field);
+
 protected:
     void customEvent(QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;

@@ -93,6 +93,7 @@ CrvServices::CrvServices()
     , m_pump(new CrvSensorPump(this))
 {
     KnDatabase::init();
+    connect(m_pump, &CrvSensorPump::hurried, this, &CrvServices::fieldEdited);
 }
 
 CrvServices::~CrvServices()

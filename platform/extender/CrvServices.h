@@ -74,6 +74,9 @@ Q_SIGNALS:
     void selectedFieldChanged(KnField* field);
     void rootsChanged();
     void pausedChanged(bool paused);
+    /// A command was executed, undone or redone a moment ago; no sensor has run since. `field` is
+    /// what it most likely wrote, null if nothing is known; it is only to be compared with others.
+    void fieldEdited(const KnField* field);
 
 protected:
     CrvServices();
