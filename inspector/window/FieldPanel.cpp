@@ -2,13 +2,16 @@
 #include "FieldPanel.h"
 
 #include "CrvServices.h"
+#include "FieldDrag.h"
 #include "KnField.h"
 #include "PaneTree.h"
 #include "SceneText.h"
+#include "WatchMenu.h"
 
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
@@ -40,6 +43,10 @@ FieldPanel::FieldPanel(QWidget* parent)
     header.resizeSection(FieldListModel::NameColumn, character * 20);
     header.resizeSection(FieldListModel::TypeColumn, character * 20);
     header.resizeSection(FieldListModel::IgnoredColumn, character * 11);
+
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_list, &QWidget::customContextMenuRequested, this, &FieldPanel::showMenu);
+    new FieldDrag(m_list, [this](const QModelIndex& index) { return m_model.field(index); });
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -91,4 +98,18 @@ void FieldPanel::currentChanged(const QModelIndex& current)
 {
     if (!m_following)
         CrvServices::getInstance()->selectField(m_model.field(current));
+}
+
+void FieldPanel::showMenu(const QPoint& position)
+{
+
+    KnField* const field = m_model.field(m_list->indexAt(position));
+    if (!field)
+        return;
+    auto* const menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("fieldMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    addWatchEntries(*menu, *field,
+        [this](KnField& watched, int component) { Q_EMIT watchRequested(&watched, component); });
+    menu->popup(m_list->viewport()->mapToGlobal(position));
 }

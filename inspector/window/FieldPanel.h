@@ -15,10 +15,15 @@ class FieldPanel : public QWidget {
 public:
     explicit FieldPanel(QWidget* parent = nullptr);
 
+Q_SIGNALS:
+    /// A person wants to see a number of a field over time.
+    void watchRequested(KnField* field, int component);
+
 private:
     void showNode(KnFieldContainer* node);
     void showField(KnField* field);
     void currentChanged(const QModelIndex& current);
+    void showMenu(const QPoint& position);
 
     FieldListModel m_model;
     QLabel* m_heading; // child

@@ -6,10 +6,12 @@
 #include "FileDialogs.h"
 #include "FileMenu.h"
 #include "GuestFileMenu.h"
+#include "KnField.h"
 #include "ProfileMenu.h"
 #include "ScenePanel.h"
 #include "UndoKeys.h"
 #include "ViewMenu.h"
+#include "WatchPanel.h"
 #include "WindowLayout.h"
 
 #include <QCloseEvent>
@@ -25,7 +27,7 @@
 namespace {
 
 // Changes with the set of the window's own docks.
-constexpr int layoutVersion = 1;
+constexpr int layoutVersion = 2;
 
 // In pixels: the sizes in a fresh layout.
 constexpr int sceneWidth = 320;
@@ -80,7 +82,27 @@ void MainWindow::buildPanels()
     history->setObjectName(QStringLiteral("historyView"));
     history->setEmptyLabel(m_document ? tr("Scene as opened") : tr("Before the first edit"));
     m_historyDock = addPanelDock(history, QStringLiteral("historyDock"), tr("History"));
-    setCentralWidget(new FieldPanel(this));
+    auto* const fields = new FieldPanel(this);
+    setCentralWidget(fields);
+    buildWatch(fields);
+}
+
+// Closed until somebody wants to watch something.
+void MainWindow::buildWatch(FieldPanel* fields)
+{
+    auto* const panel = new WatchPanel;
+    m_watchDock = addPanelDock(panel, QStringLiteral("watchDock"), tr("Watch"));
+    QMainWindow::addDockWidget(Qt::BottomDockWidgetArea, m_watchDock);
+    m_watchDock->hide();
+    connect(
+        fields, &FieldPanel::watchRequested, panel, [this, panel](KnField* field, int component) {
+            m_watchDock->show();
+            m_watchDock->raise();
+            panel->watch(field, component);
+        });
+    connect(
+        m_watchDock, &QDockWidget::visibilityChanged, this, [this] { giveFirstSize(m_watchDock); },
+        Qt::SingleShotConnection);
 }
 
 QDockWidget* MainWindow::addPanelDock(QWidget* panel, const QString& name, const QString& title)
@@ -136,7 +158,8 @@ void MainWindow::buildViewMenu()
 {
     m_viewMenu = new ViewMenu(this);
     m_viewMenu->insertActions(m_viewMenu->endOfExtensions(),
-        { m_sceneDock->toggleViewAction(), m_historyDock->toggleViewAction() });
+        { m_sceneDock->toggleViewAction(), m_historyDock->toggleViewAction(),
+            m_watchDock->toggleViewAction() });
     m_viewMenu->insertSeparator(m_viewMenu->endOfExtensions());
     m_viewMenu->addMenu(new ProfileMenu(m_viewMenu));
     menuBar()->addMenu(m_viewMenu);
@@ -184,7 +207,8 @@ void MainWindow::restoreLayout()
 
 void MainWindow::addDockWidget(QDockWidget* dock, int area)
 {
-    QMainWindow::addDockWidget(static_cast<Qt::DockWidgetArea>(area), dock);
+    // Also at the bottom one above the other: curves and messages need the width.
+    QMainWindow::addDockWidget(static_cast<Qt::DockWidgetArea>(area), dock, Qt::Vertical);
     m_viewMenu->addPane(dock);
     connect(
         dock, &QDockWidget::visibilityChanged, this, [this, dock] { giveFirstSize(dock); },

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class FieldPanel;
 class FileMenu;
 class QSettings;
 class ScenePanel;
@@ -58,6 +59,7 @@ private:
     void buildViewMenu();
     /// The dock owns the panel, and the window the dock.
     QDockWidget* addPanelDock(QWidget* panel, const QString& name, const QString& title);
+    void buildWatch(FieldPanel* fields);
     void findNode();
     void giveFirstSize(QDockWidget* dock);
     void showFileName();
@@ -70,5 +72,6 @@ private:
     ViewMenu* m_viewMenu = nullptr; // child
     QDockWidget* m_sceneDock = nullptr; // child
     QDockWidget* m_historyDock = nullptr; // child
+    QDockWidget* m_watchDock = nullptr; // child
     bool m_layoutRestored = false;
 };

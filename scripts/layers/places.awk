@@ -36,7 +36,8 @@ BEGIN {
     target("program", 20, 20, 210, upper, "corvane_inspector")
     room("inspector", "program", 105, 0, "inspector/")
     room("inspector/window", "program", 105, 1, "window/")
-    room("inspector/scene", "program", 105, 2, "scene/")
+    room("inspector/scene", "program", 55, 2, "scene/")
+    room("inspector/watch", "program", 155, 2, "watch/")
     room("inspector/process", "program", 105, 3, "process/")
     room("inspector/text", "program", 105, 4, "text/")
 
