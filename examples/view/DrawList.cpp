@@ -42,12 +42,22 @@ std::optional<DrawList::Bounds> DrawList::bounds() const
     return bounds;
 }
 
-std::vector<bool> DrawList::placesBelow(const KnFieldContainer* node) const
+std::vector<bool> DrawList::placesOf(const KnFieldContainer* node) const
 {
-    std::vector<bool> below(places.size());
+    std::vector<bool> isOf(places.size());
+    // By parent, from -1 on: whether what comes next in the group is in the reach of the node.
+    std::vector<bool> isReached(places.size() + 1);
+    NodeKind kind = NodeKind::NotDrawn;
     for (std::size_t i = 0; i < places.size(); ++i) {
-        const int parent = places[i].parent;
-        below[i] = places[i].node == node || (parent >= 0 && below[std::size_t(parent)]);
+        const Place& place = places[i];
+        const auto group = static_cast<std::size_t>(place.parent + 1);
+        if (place.node == node) {
+            kind = place.kind;
+            isReached[group] = place.reach != Reach::Itself;
+        } else if (place.kind == kind && place.reach == Reach::RestToNext) {
+            isReached[group] = false;
+        }
+        isOf[i] = place.node == node || isReached[group] || (group > 0 && isOf[group - 1]);
     }
-    return below;
+    return isOf;
 }

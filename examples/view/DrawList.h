@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "NodeKind.h"
+
 #include <QColor>
 #include <QQuaternion>
 #include <QStringList>
@@ -17,11 +19,18 @@ class KnFieldContainer;
 /// more, since they may be gone by the time.
 class DrawList {
 public:
-    /// Where a group or a shape stands in the scene; a node that stands in several places has
-    /// several.
+    /// How far a place reaches beyond what stands below it.
+    enum class Reach {
+        Itself,
+        Rest, // what follows in its group, as a transform does
+        RestToNext, // the same up to the next of its kind, as a material does
+    };
+    /// Where a node stands in the scene; one that stands in several places has several.
     struct Place {
         KnFieldContainer* node;
         int parent; // index of the place above; -1 at a root
+        NodeKind kind;
+        Reach reach;
     };
     /// A triangle of one colour. The alpha of `front` counts for all of them.
     struct Face {
@@ -82,6 +91,6 @@ public:
     bool isEmpty() const;
     /// None for an empty list.
     std::optional<Bounds> bounds() const;
-    /// For each place, whether it is one of the node or stands below one.
-    std::vector<bool> placesBelow(const KnFieldContainer* node) const;
+    /// For each place, whether it is one of the node, stands below one or is in its reach.
+    std::vector<bool> placesOf(const KnFieldContainer* node) const;
 };

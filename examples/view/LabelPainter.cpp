@@ -13,6 +13,7 @@
 namespace {
 
 constexpr qreal margin = 3.0; // around the text, in pixels
+constexpr int leastContrast = 140; // of 255 steps of gray
 constexpr float largestSize = 200.0F; // points
 
 QColor mixed(const QColor& a, const QColor& b, float part)
@@ -31,7 +32,7 @@ QColor readable(const std::optional<QColor>& color, const QPalette& palette)
     const int ground = qGray(palette.color(QPalette::Base).rgb());
     for (const float part : { 0.0F, 0.25F, 0.5F, 0.75F }) {
         const QColor candidate = mixed(*color, text, part);
-        if (std::abs(qGray(candidate.rgb()) - ground) >= 110)
+        if (std::abs(qGray(candidate.rgb()) - ground) >= leastContrast)
             return candidate;
     }
     return text;

@@ -68,22 +68,27 @@ void SceneTraversal::visit(KnFieldContainer& node, int parent)
         return;
     }
     m_nodes.push_back(&node);
-    switch (kindOf(node)) {
+    const NodeKind kind = kindOf(node);
+    switch (kind) {
     case NodeKind::Group:
         visitGroup(static_cast<KnGroup&>(node), parent);
         break;
     case NodeKind::Transform:
         m_state.toWorld *= matrixOf(static_cast<KnTransform&>(node));
+        addPlace(node, parent, kind, DrawList::Reach::Rest);
         break;
     case NodeKind::MatrixTransform:
         m_state.toWorld *= matrixOf(static_cast<KnMatrixTransform&>(node));
+        addPlace(node, parent, kind, DrawList::Reach::Rest);
         break;
     case NodeKind::Material:
         m_state.material = &static_cast<KnMaterial&>(node);
+        addPlace(node, parent, kind, DrawList::Reach::RestToNext);
         break;
     case NodeKind::Coordinates:
         m_state.points = static_cast<int>(m_points.size());
         m_points.push_back({ &static_cast<KnCoordinates&>(node), m_state, false });
+        addPlace(node, parent, kind, DrawList::Reach::RestToNext);
         break;
     case NodeKind::IndexedFaceSet:
         addFaces(static_cast<KnIndexedFaceSet&>(node), parent);
@@ -93,6 +98,7 @@ void SceneTraversal::visit(KnFieldContainer& node, int parent)
         break;
     case NodeKind::DrawStyle:
         m_state.style = &static_cast<KnDrawStyle&>(node);
+        addPlace(node, parent, kind, DrawList::Reach::RestToNext);
         break;
     case NodeKind::DirectionalLight:
         addLight(static_cast<KnLight&>(node), false);
@@ -128,7 +134,7 @@ void SceneTraversal::visitGroup(KnGroup& group, int parent)
     const std::size_t lights = m_lights.size();
     const std::size_t clipPlanes = m_clipPlanes.size();
     const std::size_t points = m_points.size();
-    const int place = addPlace(group, parent);
+    const int place = addPlace(group, parent, NodeKind::Group);
     for (int i = 0; i < group.getNumChildren(); ++i)
         visit(*group.getChild(i), place);
     for (std::size_t i = points; i < m_points.size(); ++i)
@@ -139,9 +145,10 @@ void SceneTraversal::visitGroup(KnGroup& group, int parent)
     m_state = state;
 }
 
-int SceneTraversal::addPlace(KnFieldContainer& node, int parent)
+int SceneTraversal::addPlace(
+    KnFieldContainer& node, int parent, NodeKind kind, DrawList::Reach reach)
 {
-    m_list.places.push_back({ &node, parent });
+    m_list.places.push_back({ &node, parent, kind, reach });
     return static_cast<int>(m_list.places.size()) - 1;
 }
 
@@ -200,7 +207,7 @@ void SceneTraversal::addFaces(KnIndexedFaceSet& node, int parent)
     for (int i = 0; i < rowsOf(points.node->point); ++i)
         m_corners.push_back(m_state.toWorld.map(toVector(points.node->point[i])));
 
-    const int place = addPlace(node, parent);
+    const int place = addPlace(node, parent, NodeKind::IndexedFaceSet);
     const int indexCount = rowsOf(node.coordIndex);
     int faceNumber = 0;
     bool isWhole = true;
@@ -289,7 +296,7 @@ void SceneTraversal::addDots(const Points& points, int parent)
     const KnDrawStyle* const style = points.state.style;
     if (points.isUsed || styleOf(style) == Invisible)
         return;
-    const int place = addPlace(*points.node, parent);
+    const int place = addPlace(*points.node, parent, NodeKind::Coordinates);
     for (int i = 0; i < rowsOf(points.node->point); ++i) {
         const QVector3D at = points.state.toWorld.map(toVector(points.node->point[i]));
         if (isDrawable(at))
@@ -315,6 +322,6 @@ void SceneTraversal::addLabel(KnText& node, int parent)
         std::clamp(valueOf(node.justification, 0), 0, 2)); // in the order of the node's values
     if (m_state.material)
         label.color = QColor(plainColor(surfaceOf(m_state.material, 0)));
-    label.place = addPlace(node, parent);
+    label.place = addPlace(node, parent, NodeKind::Text);
     m_list.labels.push_back(std::move(label));
 }

@@ -59,7 +59,8 @@ private:
     void addDots(const Points& points, int parent);
     void addLabel(KnText& node, int parent);
 
-    int addPlace(KnFieldContainer& node, int parent);
+    int addPlace(KnFieldContainer& node, int parent, NodeKind kind,
+        DrawList::Reach reach = DrawList::Reach::Itself);
     bool isCutOff(const QVector3D& point) const;
 
     DrawList m_list;

@@ -140,7 +140,7 @@ void SceneView::draw()
     m_labels.layOut(m_list, m_renderer, scale);
     KnFieldContainer* const selected = CrvServices::getInstance()->getSelectedNode();
     if (selected)
-        m_isOutlined = m_list.placesBelow(selected);
+        m_isOutlined = m_list.placesOf(selected);
     else
         m_isOutlined.assign(m_list.places.size(), false);
     if (selected)

@@ -16,7 +16,8 @@
 /// A viewfinder: draws scene graphs in flat colours, and lets a person look at them from all sides
 /// and select what they see. Drags turn, with Shift or the middle button they move, the wheel and
 /// "+" and "-" zoom, the arrow keys turn, a double click and Home show everything, a click selects
-/// the node under it with CrvServices. The selected node, with what is below it, is outlined.
+/// the node under it with CrvServices. The selected node is outlined: what is below it, and of a
+/// transform or a material what it acts on.
 ///
 /// It starts at the first viewpoint of the scene and stays with it until a person moves; without
 /// one it shows everything. It writes no field. Hidden, it watches nothing and costs nothing.

@@ -7,12 +7,17 @@
 #include <QApplication>
 #include <QMenuBar>
 #include <QPixmap>
+#include <QScreen>
+#include <QStyle>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int frameTime = 16; // milliseconds
+constexpr int leastWidth = 500; // of a window beside this one, in pixels
 
 /// The sky is dark, whatever the desktop looks like.
 QPalette nightSky()
@@ -32,6 +37,7 @@ ViewerWindow::ViewerWindow()
     setObjectName(u"viewerWindow"_s);
     setWindowTitle(tr("Orrery"));
     resize(960, 640);
+    move(screen()->availableGeometry().topLeft()); // which leaves room beside it
     m_view->setPalette(nightSky());
     m_view->setRoots({ KnNodePtr(m_orrery.root()) });
     setCentralWidget(m_view);
@@ -64,7 +70,27 @@ void ViewerWindow::makeMenu()
     connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
-void ViewerWindow::showInspector() { m_inspector.show(); }
+void ViewerWindow::showInspector()
+{
+    const bool isFirst = !m_inspector.window();
+    m_inspector.show();
+    if (isFirst && m_inspector.window())
+        placeBeside(*m_inspector.window());
+}
+
+void ViewerWindow::placeBeside(QWidget& other) const
+{
+    const QRect room = screen()->availableGeometry();
+    const int left = frameGeometry().right() + 1;
+    // Window managers put the titles on a little later.
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const int top = std::max(geometry().top(), room.top() + title);
+    const int width = room.right() - left;
+    if (width < leastWidth || !other.geometry().intersects(geometry()))
+        return;
+    other.resize(std::min(width, other.width()), other.height());
+    other.move(left, top);
+}
 
 void ViewerWindow::setRunning(bool isRunning)
 {

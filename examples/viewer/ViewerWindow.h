@@ -26,6 +26,8 @@ private:
     void makeMenu();
     void setRunning(bool isRunning);
     void nextFrame();
+    /// Puts a window that covers this one beside it, if the screen is wide enough.
+    void placeBeside(QWidget& other) const;
 
     Orrery m_orrery;
     CrvInspector m_inspector { m_orrery.root() };

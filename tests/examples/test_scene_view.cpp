@@ -26,6 +26,7 @@ Group right
   MatrixTransform matrix: matrix=1 0 0 0 0 1 0 0 0 0 1 0 1.5 0 0 1
   Coordinates points: point=[-1 -1 0, 1 -1 0, 1 1 0, -1 1 0]
   IndexedFaceSet rightSquare: coordIndex=[0, 1, 2, 3, -1]
+Material next
 Group sign
   Transform: translation=0 -2 0
   Text label: string=["Text"]; justification=CENTER
@@ -90,6 +91,7 @@ private Q_SLOTS:
         row("points.point", "[-1 -1 0, 1 -1 0, 1 1.5 0, -1 1 0]");
         row("rightSquare.coordIndex", "[0, 1, 2]");
         row("rightSquare.packedColor", "[0x00ff00ff]");
+        row("next.diffuseColor", "[0 1 0]");
         row("label.string", "[\"More\"]");
     }
     void aChangeIsSeen()
@@ -201,6 +203,10 @@ private Q_SLOTS:
         QTest::newRow("leftSquare") << true << false;
         QTest::newRow("right") << false << true;
         QTest::newRow("sign") << false << false;
+        QTest::newRow("paint") << true << true;
+        QTest::newRow("move") << true << false;
+        QTest::newRow("points") << false << true;
+        QTest::newRow("next") << false << false;
     }
     void whatIsSelectedIsOutlined()
     {
