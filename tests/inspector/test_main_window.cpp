@@ -136,13 +136,15 @@ private Q_SLOTS:
         InspectorFixture inspector(*m_folder);
         const auto entries = [&inspector] { return inspector.entries(u"viewMenu"_s); };
         inspector.clickField(u"Desk lamp"_s, u"on"_s);
-        QCOMPARE(entries(), u"Profile Selector*, Console*, Field Editor*, Node Editor"_s);
+        QCOMPARE(
+            entries(), u"Profile Selector*, Console*, Field Editor*, Node Editor, Scene View*"_s);
         const QDockWidget* const console = inspector.dock(u"Console"_s);
         const QString closeButton = u"qt_dockwidget_closebutton"_s;
         QTest::mouseClick(console->findChild<QAbstractButton*>(closeButton), Qt::LeftButton);
         inspector.choose(u"viewMenu"_s, u"Profile Selector"_s);
         QVERIFY(inspector.window.findChild<QToolBar*>()->isHidden());
-        QCOMPARE(entries(), u"Profile Selector, Console, Field Editor*, Node Editor"_s);
+        QCOMPARE(
+            entries(), u"Profile Selector, Console, Field Editor*, Node Editor, Scene View*"_s);
         inspector.choose(u"viewMenu"_s, u"Console"_s);
         QVERIFY(console->isVisible());
 
@@ -156,8 +158,11 @@ private Q_SLOTS:
         InspectorFixture inspector(*m_folder);
         inspector.clickNode(u"Table place"_s);
         const QDockWidget* const dock = inspector.dock(u"Node Editor"_s);
+        QWidget* const view = inspector.dock(u"Scene View"_s)->widget();
+        const QImage before = view->grab().toImage();
         QTest::mouseClick(dock->findChild<QAbstractButton*>(u"moveBack"_s), Qt::LeftButton);
         QTRY_VERIFY(dock->findChild<QLabel*>(u"distance"_s)->text().contains(u"by 0 "_s));
+        QTRY_VERIFY(view->grab().toImage() != before);
         inspector.press(QKeySequence::Undo);
         QCOMPARE(inspector.text(u"Table place.translation"_s), u"0 0.74 0"_s);
         inspector.clickNode(u"Oak"_s);
