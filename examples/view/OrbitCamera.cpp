@@ -28,7 +28,7 @@ QVector3D nearestAxis(const QVector3D& direction)
 void OrbitCamera::place(const DrawList::Viewpoint& viewpoint, const DrawList::Bounds& bounds)
 {
     m_orientation = viewpoint.orientation;
-    m_heightAngle = std::clamp(viewpoint.heightAngle, 0.01F, 3.0F);
+    m_heightAngle = viewpoint.heightAngle > 0.01F ? std::min(viewpoint.heightAngle, 3.0F) : 0.01F;
     m_up = nearestAxis(m_orientation.rotatedVector({ 0.0F, 1.0F, 0.0F }));
     const QVector3D forward = m_orientation.rotatedVector({ 0.0F, 0.0F, -1.0F });
     const float depth = QVector3D::dotProduct(bounds.center() - viewpoint.position, forward);

@@ -7,11 +7,13 @@
 
 namespace {
 
-/// The first pixel whose middle isn't before `edge`, kept between 0 and `count`. Rounds up by hand,
-/// since std::ceil is a call on a plain x86-64.
+constexpr float largestDot = 64.0F;
+
+/// The first pixel whose middle isn't before `edge`, kept between 0 and `count`; 0 for what is no
+/// number. Rounds up by hand, since std::ceil is a call on a plain x86-64.
 int firstPixel(float edge, int count)
 {
-    const float kept = std::clamp(edge - 0.5F, 0.0F, static_cast<float>(count));
+    const float kept = edge > 0.5F ? std::min(edge - 0.5F, static_cast<float>(count)) : 0.0F;
     const int whole = static_cast<int>(kept);
     return static_cast<float>(whole) < kept ? whole + 1 : whole;
 }
@@ -116,7 +118,7 @@ void Rasterizer::drawLine(const Vertex& from, const Vertex& to, QRgb color, floa
 
 void Rasterizer::drawDot(const Vertex& at, QRgb color, float size, int mark)
 {
-    const float half = std::clamp(size, 1.0F, 64.0F) / 2.0F;
+    const float half = size > 1.0F ? std::min(size, largestDot) / 2.0F : 0.5F;
     const int first = firstPixel(at.x - half, m_width);
     const int last = firstPixel(at.x + half, m_width);
     const int bottom = firstPixel(at.y + half, m_height);

@@ -24,6 +24,7 @@ namespace {
 
 // A node below many shared groups stands in more places than anybody can draw.
 constexpr std::size_t maxNodes = 1'000'000;
+constexpr int maxDepth = 2000; // of groups in groups, which the stack has room for
 // Points without a style of their own would be hard to see as single pixels.
 constexpr float defaultDotSize = 2.0F;
 
@@ -130,6 +131,11 @@ void SceneTraversal::visitGroup(KnGroup& group, int parent)
 {
     if (!valueOf(group.visible, true))
         return;
+    if (m_depth >= maxDepth) {
+        m_list.isCut = true;
+        return;
+    }
+    ++m_depth;
     const State state = m_state;
     const std::size_t lights = m_lights.size();
     const std::size_t clipPlanes = m_clipPlanes.size();
@@ -143,6 +149,7 @@ void SceneTraversal::visitGroup(KnGroup& group, int parent)
     m_clipPlanes.resize(clipPlanes);
     m_lights.resize(lights);
     m_state = state;
+    --m_depth;
 }
 
 int SceneTraversal::addPlace(
@@ -190,11 +197,12 @@ void SceneTraversal::addViewpoint(const KnFieldContainer& node)
     const auto& viewpoint = static_cast<const KnViewpoint&>(node);
     const QVector3D at = toVector(valueOf(viewpoint.position, { 0.0F, 0.0F, 1.0F }));
     const QVector3D inWorld = m_state.toWorld.map(at);
-    const QQuaternion turned
-        = QQuaternion::fromRotationMatrix(m_state.toWorld.normalMatrix()).normalized();
     const QQuaternion own = toQuaternion(valueOf(viewpoint.orientation, {}));
-    if (isDrawable(inWorld))
-        m_list.viewpoint = { inWorld, turned * own, valueOf(viewpoint.heightAngle, 0.785398F) };
+    const QVector3D back = m_state.toWorld.mapVector(own.rotatedVector({ 0.0F, 0.0F, 1.0F }));
+    const QVector3D up = m_state.toWorld.mapVector(own.rotatedVector({ 0.0F, 1.0F, 0.0F }));
+    if (isDrawable(inWorld) && isDrawable(back) && isDrawable(up))
+        m_list.viewpoint = { inWorld, QQuaternion::fromDirection(back, up),
+            valueOf(viewpoint.heightAngle, 0.785398F) };
 }
 
 void SceneTraversal::addFaces(KnIndexedFaceSet& node, int parent)

@@ -66,6 +66,7 @@ private:
     DrawList m_list;
     std::vector<KnFieldContainer*> m_nodes;
     State m_state;
+    int m_depth = 0; // of groups
     // Each group cuts these back to what it found.
     std::vector<Points> m_points;
     std::vector<SceneLight> m_lights;

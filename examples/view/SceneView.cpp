@@ -13,6 +13,7 @@
 #include <QStylePainter>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -44,11 +45,18 @@ QSize SceneView::sizeHint() const { return { 480, 360 }; }
 
 void SceneView::setRoots(std::vector<KnNodePtr> roots)
 {
+    const auto isShown = [this](const KnNodePtr& root) {
+        return std::any_of(m_roots.begin(), m_roots.end(),
+            [&root](const KnNodePtr& shown) { return shown.get() == root.get(); });
+    };
+    // A root more or less isn't another scene, and leaves the person where they are.
+    if (std::none_of(roots.begin(), roots.end(), isShown)) {
+        m_camera.reset();
+        m_isPlaced = false;
+        m_isMoved = false;
+    }
     m_roots = std::move(roots);
     forgetScene();
-    m_camera.reset();
-    m_isPlaced = false;
-    m_isMoved = false;
     update();
 }
 
@@ -93,10 +101,12 @@ void SceneView::readScene()
     for (const KnNodePtr& root : m_roots)
         traversal.walk(*root.get());
     m_list = traversal.takeList();
-    if (m_updates == Updates::BySensors && m_nodesChanged)
-        m_watch.setNodes(traversal.nodes());
+    // A hidden view may be asked for a picture, but isn't told of changes.
+    m_isRead = isVisible();
+    if (!m_isRead || !m_nodesChanged || m_updates == Updates::ByCall)
+        return;
+    m_watch.setNodes(traversal.nodes());
     m_nodesChanged = false;
-    m_isRead = true;
 }
 
 void SceneView::placeCamera()
@@ -245,6 +255,10 @@ void SceneView::mouseDoubleClickEvent(QMouseEvent* event)
 
 void SceneView::wheelEvent(QWheelEvent* event)
 {
+    if (event->angleDelta().y() == 0) {
+        event->ignore();
+        return;
+    }
     m_camera.zoom(std::pow(keyZoom, float(event->angleDelta().y()) / 120.0F));
     cameraMoved();
     event->accept();

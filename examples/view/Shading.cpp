@@ -13,7 +13,11 @@ constexpr float ambientLight = 0.5F;
 constexpr float onlyHeadLamp = 0.9F;
 constexpr float weakHeadLamp = 0.15F;
 
-int channel(float value) { return static_cast<int>(std::clamp(value, 0.0F, 1.0F) * 255.0F + 0.5F); }
+/// 0 for what is no number.
+int channel(float value)
+{
+    return value > 0.0F ? static_cast<int>(std::min(value, 1.0F) * 255.0F + 0.5F) : 0;
+}
 
 QRgb toRgb(const QVector3D& color, float opacity = 1.0F)
 {

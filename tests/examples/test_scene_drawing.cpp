@@ -100,6 +100,17 @@ private Q_SLOTS:
         QCOMPARE(boxOf(scene), u"-1 -1 0, 1 1 0"_s);
     }
 
+    // A viewpoint stands where it is put, and looks where it is turned, in whatever scale.
+    void theViewpointIsTransformed()
+    {
+        const SceneLines scene("Transform: translation=0 0 5; scaleFactor=3 3 3; rotation=0 1 0 "
+                               "1.5707963\nViewpoint: position=1 0 0; orientation=0 0 1 1.5707963");
+        const DrawList::Viewpoint viewpoint = *listOf(scene).viewpoint;
+        QCOMPARE(toText(viewpoint.position), u"0 0 2"_s);
+        QCOMPARE(toText(viewpoint.orientation.rotatedVector({ 0, 0, -1 })), u"-1 0 0"_s);
+        QCOMPARE(toText(viewpoint.orientation.rotatedVector({ 0, 1, 0 })), u"0 0 1"_s);
+    }
+
     void colors_data()
     {
         QTest::addColumn<QString>("pixel"); // in the middle
