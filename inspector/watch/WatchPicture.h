@@ -10,6 +10,7 @@
 #include <optional>
 #include <vector>
 
+class QImage;
 class QPainter;
 class WatchList;
 class WatchView;
@@ -42,7 +43,9 @@ private:
     double yOf(double value, const WatchScale& scale) const;
     QColor colorOf(int row) const;
     void paintGrid(QPainter& painter) const;
-    void paintCurve(QPainter& painter, int row) const;
+    void paintCurves(QPainter& painter) const;
+    /// In pixels of the layer, which covers the plot area.
+    void plotCurve(QImage& layer, int row, int thickness) const;
     void paintMarks(QPainter& painter, int row) const;
     void paintRuler(QPainter& painter) const;
 

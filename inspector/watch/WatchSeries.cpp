@@ -55,7 +55,10 @@ void WatchSeries::columns(double from, double to, double end, std::vector<WatchR
         if (start > end)
             continue;
         ranges[i].include(held);
-        for (; next < size() && (*this)[next].time < start + width; ++next) {
+        // The last column also shows what was sampled at this very moment.
+        const bool last = i + 1 == ranges.size();
+        const double stop = last ? std::nextafter(to, end + 1) : start + width;
+        for (; next < size() && (*this)[next].time < stop; ++next) {
             held = heldValue(&(*this)[next]);
             ranges[i].include(held);
         }
