@@ -28,9 +28,11 @@ struct Column {
     double nextTime()
     {
         const WatchSeries& series = value->series();
-        while (next < series.size() && series[next].kind == WatchSample::Kind::Gap)
-            ++next;
-        return next < series.size() ? series[next].time : never;
+        for (; next < series.size(); ++next) {
+            if (series[next].kind != WatchSample::Kind::Gap)
+                return series[next].time;
+        }
+        return never;
     }
 };
 
