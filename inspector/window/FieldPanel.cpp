@@ -5,31 +5,30 @@
 #include "FieldDrag.h"
 #include "KnField.h"
 #include "PaneTree.h"
+#include "PauseAction.h"
 #include "SceneText.h"
+#include "ValueDelegate.h"
 #include "WatchMenu.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 FieldPanel::FieldPanel(QWidget* parent)
     : QWidget(parent)
+    , m_pauseAction(new PauseAction(this))
     , m_heading(new QLabel(this))
     , m_list(new PaneTree(this))
 {
     setObjectName(QStringLiteral("fieldPanel"));
-    m_heading->setObjectName(QStringLiteral("fieldHeading"));
-    m_heading->setTextFormat(Qt::PlainText);
-    m_heading->setIndent(fontMetrics().averageCharWidth());
-    m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    // As high as the filter line beside it, so that tree and list start level.
-    m_heading->setMinimumHeight(QLineEdit().sizeHint().height());
-
     m_list->setObjectName(QStringLiteral("fieldList"));
     m_list->setModel(&m_model);
+    m_list->setItemDelegateForColumn(FieldListModel::ValueColumn, new ValueDelegate(m_list));
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAlternatingRowColors(true);
@@ -50,17 +49,38 @@ FieldPanel::FieldPanel(QWidget* parent)
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_heading);
+    layout->addLayout(makeHeading());
     layout->addWidget(m_list);
 
     CrvServices* const services = CrvServices::getInstance();
     connect(services, &CrvServices::selectedNodeChanged, this, &FieldPanel::showNode);
     connect(services, &CrvServices::selectedFieldChanged, this, &FieldPanel::showField);
+    connect(services, &CrvServices::pausedChanged, this, &FieldPanel::setPaused);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &FieldPanel::currentChanged);
     // Brings back an editor whose dock was closed.
     connect(m_list, &QTreeView::activated, services, &CrvServices::announceSelection);
     showNode(services->getSelectedNode());
+    setPaused(services->isPaused());
+}
+
+QLayout* FieldPanel::makeHeading()
+{
+    m_heading->setObjectName(QStringLiteral("fieldHeading"));
+    m_heading->setTextFormat(Qt::PlainText);
+    m_heading->setIndent(fontMetrics().averageCharWidth());
+    m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // As high as the filter line beside it, so that tree and list start level.
+    m_heading->setMinimumHeight(QLineEdit().sizeHint().height());
+
+    auto* const pauseButton = new QToolButton(this);
+    pauseButton->setObjectName(QStringLiteral("pauseButton"));
+    pauseButton->setDefaultAction(m_pauseAction);
+    pauseButton->setFocusPolicy(Qt::TabFocus);
+    auto* const line = new QHBoxLayout;
+    line->addWidget(m_heading);
+    line->addWidget(pauseButton);
+    return line;
 }
 
 void FieldPanel::showNode(KnFieldContainer* node)
@@ -68,16 +88,31 @@ void FieldPanel::showNode(KnFieldContainer* node)
     const QScopedValueRollback following(m_following, true);
     if (m_model.node() != node)
         m_model.setNode(node);
-    m_heading->setEnabled(node != nullptr);
-    if (!node) {
-        m_heading->setText(tr("Select a node in the scene"));
-    } else if (node->getName().isEmpty()) {
-        m_heading->setText(nodeLabel(*node));
-    } else {
-        m_heading->setText(
-            QStringLiteral("%1  %2  %3")
-                .arg(nodeLabel(*node), QChar(0x2013), typeName(node->getObjectType())));
+    showHeading();
+}
+
+void FieldPanel::showHeading()
+{
+    const KnFieldContainer* const node = m_model.node();
+    const bool paused = CrvServices::getInstance()->isPaused();
+    QString text = tr("Select a node in the scene");
+    if (node && node->getName().isEmpty()) {
+        text = nodeLabel(*node);
+    } else if (node) {
+        text = QStringLiteral("%1  %2  %3")
+                   .arg(nodeLabel(*node), QChar(0x2013), typeName(node->getObjectType()));
     }
+    m_heading->setEnabled(node || paused);
+    QFont font = m_heading->font();
+    font.setBold(paused);
+    m_heading->setFont(font);
+    m_heading->setText(paused ? tr("Paused:  %1").arg(text) : text);
+}
+
+void FieldPanel::setPaused(bool paused)
+{
+    m_model.setHeld(paused);
+    showHeading();
 }
 
 void FieldPanel::showField(KnField* field)

@@ -6,26 +6,36 @@
 #include <QWidget>
 
 class QLabel;
+class QLayout;
 class PaneTree;
+class PauseAction;
 
 /// The fields of the selected node below a line that names it. A person's choice becomes the host's
-/// selected field, and the host's selected field is shown in the list.
+/// selected field, and the host's selected field is shown in the list. While the host is paused,
+/// the list stays as it is.
 class FieldPanel : public QWidget {
     Q_OBJECT
 public:
     explicit FieldPanel(QWidget* parent = nullptr);
+
+    /// The button beside the heading has it; a menu may have it, too.
+    PauseAction* pauseAction() const { return m_pauseAction; }
 
 Q_SIGNALS:
     /// A person wants to see a number of a field over time.
     void watchRequested(KnField* field, int component);
 
 private:
+    QLayout* makeHeading();
+    void showHeading();
+    void setPaused(bool paused);
     void showNode(KnFieldContainer* node);
     void showField(KnField* field);
     void currentChanged(const QModelIndex& current);
     void showMenu(const QPoint& position);
 
     FieldListModel m_model;
+    PauseAction* m_pauseAction; // child
     QLabel* m_heading; // child
     PaneTree* m_list; // child
     bool m_following = false; // the list is being brought in line with the host's selection

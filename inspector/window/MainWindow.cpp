@@ -7,6 +7,7 @@
 #include "FileMenu.h"
 #include "GuestFileMenu.h"
 #include "KnField.h"
+#include "PauseAction.h"
 #include "ProfileMenu.h"
 #include "ScenePanel.h"
 #include "UndoKeys.h"
@@ -145,6 +146,7 @@ void MainWindow::buildEditMenu()
     menu->addAction(redo);
     menu->addSeparator();
     menu->addAction(tr("&Find Node"), QKeySequence::Find, this, &MainWindow::findNode);
+    menu->addAction(findChild<FieldPanel*>()->pauseAction());
 }
 
 void MainWindow::findNode()

@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvCommand.h"
 #include "CrvServices.h"
+#include "FieldListModel.h"
 #include "InspectorFixture.h"
 #include "KnFieldSensor.h"
 #include "KnGroup.h"
 #include "SliderInput.h"
 
+#include <QAbstractEventDispatcher>
 #include <QColorDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
+#include <QToolButton>
 #include <QUndoStack>
 
 #include <functional>
@@ -227,6 +231,71 @@ private Q_SLOTS:
         m_scene->removeChild(0);
         QCoreApplication::processEvents();
         QCOMPARE(services->getSelectedNode(), loose.get());
+    }
+
+    void aChangedValueIsLit()
+    {
+        const auto* const list = m_inspector->view(u"fieldList"_s);
+        m_inspector->clickField(u"Oak"_s, u"shininess"_s);
+        KnField* const field = m_inspector->field(u"Oak.transparency"_s);
+        const auto background = [list] {
+            const QModelIndex index = list->model()->index(5, FieldListModel::ValueColumn);
+            const QRect cell = list->visualRect(index);
+            return list->viewport()->grab(cell).toImage().pixel(
+                cell.width() - 3, cell.height() / 2);
+        };
+        const QRgb plain = background();
+        QCoreApplication::processEvents();
+        QCOMPARE(background(), plain); // selecting lights nothing
+        const QString text = textOf(field);
+        field->set(toKbString(text));
+        QCoreApplication::processEvents();
+        QCOMPARE(background(), plain); // and a write that changes nothing neither
+        field->set("0.125");
+        QTRY_VERIFY(background() != plain);
+        QTRY_COMPARE(background(), plain);
+        const auto* const dispatcher = QAbstractEventDispatcher::instance();
+        QTRY_VERIFY(dispatcher->registeredTimers(list->model()).isEmpty());
+    }
+
+    void pausedListStaysAsItIs()
+    {
+        CrvServices* const services = CrvServices::getInstance();
+        const auto* const list = m_inspector->view(u"fieldList"_s);
+        const auto* const heading = m_inspector->window.findChild<QLabel*>(u"fieldHeading"_s);
+        auto* const button = m_inspector->window.findChild<QToolButton*>(u"pauseButton"_s);
+        const auto shown = [list] {
+            list->viewport()->grab();
+            return list->model()->index(5, FieldListModel::ValueColumn).data().toString();
+        };
+        m_inspector->clickField(u"Oak"_s, u"transparency"_s);
+        KnField* const field = m_inspector->field(u"Oak.transparency"_s);
+        m_inspector->press(QKeySequence(Qt::CTRL | Qt::Key_P));
+        QVERIFY(services->isPaused() && button->isChecked());
+        QVERIFY(heading->text().startsWith(u"Paused"_s));
+        const QString before = shown();
+        field->set("0.125");
+        m_a->removeChild(0);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown(), before);
+        QCOMPARE(m_a->getNumChildren(), 99);
+
+        // A person's edit is seen at once.
+        auto* const line = m_inspector->inEditor<QLineEdit>();
+        line->selectAll();
+        QTest::keyClicks(line, u"0.75\r"_s);
+        QTRY_COMPARE(shown(), u"0.75"_s);
+        field->set("0.5");
+        // Another node is read when it is selected.
+        m_inspector->clickNode(u"Front view"_s);
+        m_inspector->clickNode(u"Oak"_s);
+        QCOMPARE(shown(), u"0.5"_s);
+        field->set("0.25");
+        QCoreApplication::processEvents();
+        QCOMPARE(shown(), u"0.5"_s);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(!services->isPaused() && !heading->text().startsWith(u"Paused"_s));
+        QCOMPARE(shown(), u"0.25"_s);
     }
 
 private:
