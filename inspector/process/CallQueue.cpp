@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QThread>
 
+#include <thread>
 #include <utility>
 
 namespace {
@@ -24,6 +25,8 @@ public:
         : m_queue(queue)
     {
     }
+
+    const std::thread::id thread = std::this_thread::get_id();
 
 protected:
     void customEvent(QEvent*) override { m_queue.run(); }
@@ -57,7 +60,8 @@ void CallQueue::call(std::function<void()> function)
 bool CallQueue::isOnThread()
 {
     const std::lock_guard lock(m_mutex);
-    return m_runner ? m_runner->thread() == QThread::currentThread() : isOnApplicationThread();
+    // Asking Qt would make a thread object of its for each thread that calls.
+    return m_runner ? m_runner->thread == std::this_thread::get_id() : isOnApplicationThread();
 }
 
 void CallQueue::serve()

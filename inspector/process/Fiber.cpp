@@ -4,7 +4,6 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <cstdint>
 #include <new>
 #include <utility>
 
@@ -18,7 +17,8 @@ namespace {
 
 // As much as the main thread usually has; what isn't touched takes no memory.
 constexpr std::size_t stackSize = 8UL << 20U;
-constexpr unsigned halfPointer = 32;
+
+Fiber* entering = nullptr; // what runs for the first time; its entry gets no pointer
 
 std::size_t pageSize() { return static_cast<std::size_t>(sysconf(_SC_PAGESIZE)); }
 
@@ -42,10 +42,7 @@ Fiber::Fiber(std::function<void()> body)
     getcontext(&m_own);
     m_own.uc_stack.ss_sp = static_cast<char*>(m_memory) + pageSize();
     m_own.uc_stack.ss_size = stackSize;
-    // The entry takes numbers of the size of an int only.
-    const auto self = reinterpret_cast<std::uintptr_t>(this);
-    makecontext(&m_own, reinterpret_cast<void (*)()>(&Fiber::enter), 2,
-        static_cast<unsigned>(self >> halfPointer), static_cast<unsigned>(self));
+    makecontext(&m_own, &Fiber::enter, 0);
 #ifdef __SANITIZE_ADDRESS__
     // What only this stack points to isn't lost.
     __lsan_register_root_region(m_own.uc_stack.ss_sp, stackSize);
@@ -61,10 +58,9 @@ Fiber::~Fiber()
     munmap(m_memory, stackSize + pageSize());
 }
 
-void Fiber::enter(unsigned high, unsigned low)
+void Fiber::enter()
 {
-    auto* const fiber
-        = reinterpret_cast<Fiber*>((static_cast<std::uintptr_t>(high) << halfPointer) | low);
+    Fiber* const fiber = entering;
     fiber->arrive(nullptr);
     fiber->m_body();
     fiber->m_finished = true;
@@ -77,6 +73,7 @@ void Fiber::enter(unsigned high, unsigned low)
 void Fiber::resume()
 {
     m_running = true;
+    entering = this;
 #ifdef __SANITIZE_ADDRESS__
     void* fakeStack = nullptr;
     __sanitizer_start_switch_fiber(&fakeStack, m_own.uc_stack.ss_sp, stackSize);

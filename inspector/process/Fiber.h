@@ -29,7 +29,7 @@ public:
     bool isFinished() const { return m_finished; }
 
 private:
-    static void enter(unsigned high, unsigned low);
+    static void enter();
     void arrive(void* fakeStack);
 
     std::function<void()> m_body;
