@@ -50,7 +50,7 @@ std::vector<bool> DrawList::placesOf(const KnFieldContainer* node) const
     NodeKind kind = NodeKind::NotDrawn;
     for (std::size_t i = 0; i < places.size(); ++i) {
         const Place& place = places[i];
-        const auto group = static_cast<std::size_t>(place.parent + 1);
+        const auto group = static_cast<std::size_t>(place.parent) + 1;
         if (place.node == node) {
             kind = place.kind;
             isReached[group] = place.reach != Reach::Itself;

@@ -44,6 +44,8 @@ void SceneWatch::setNodes(const std::vector<KnFieldContainer*>& nodes)
     std::erase_if(m_nodes, [this](const auto& entry) { return entry.second.round != m_round; });
 }
 
+bool SceneWatch::isWatched(const KnFieldContainer* node) const { return m_nodes.count(node) > 0; }
+
 void SceneWatch::attach(KnFieldContainer& node, Sensors& entry)
 {
     auto* const group = dynamic_cast<KnGroup*>(&node);

@@ -28,7 +28,7 @@ public:
     /// Watches these nodes and no others; a node may be named several times.
     void setNodes(const std::vector<KnFieldContainer*>& nodes);
     /// Whether a node is watched, which it is no longer when it has been destroyed.
-    bool isWatched(const KnFieldContainer* node) const { return m_nodes.count(node) > 0; }
+    bool isWatched(const KnFieldContainer* node) const;
 
 private:
     class FieldSensor;

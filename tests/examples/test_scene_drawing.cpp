@@ -146,6 +146,10 @@ private Q_SLOTS:
             "transparency=0.5\nSquare\nTransform: translation=0 0 -1\nMaterial: diffuseColor=1 0 "
             "0; ambientColor=0 0 0\nSquare",
             "#710071");
+        row("Transform: translation=0 0 1\nMaterial: diffuseColor=0 0 1; ambientColor=0 0 0; "
+            "transparency=0.5\nSquare\nTransform: translation=0 0 -1\nMaterial: diffuseColor=1 0 "
+            "0; ambientColor=0 0 0; transparency=0.5\nSquare",
+            "#380071");
         row("Transform: translation=0 0 11\nSquare", "#000000"); // behind the camera
     }
     void colors()
