@@ -15,27 +15,76 @@ constexpr int none = -1;
 
 std::size_t at(int index) { return static_cast<std::size_t>(index); }
 
-/// For each entry the place of its partner in the other list, or none. Partners of equal address
-/// pair up in order.
-std::vector<int> pairUp(
-    const std::vector<const void*>& before, const std::vector<const void*>& after)
-{
-    std::unordered_map<const void*, std::vector<int>> places; // the last ones first
-    for (int i = static_cast<int>(after.size()) - 1; i >= 0; --i)
-        places[after[at(i)]].push_back(i);
-    std::vector<int> partners;
-    partners.reserve(before.size());
-    for (const void* const entry : before) {
-        const auto found = entry ? places.find(entry) : places.end();
-        if (found == places.end() || found->second.empty()) {
-            partners.push_back(none);
-            continue;
-        }
-        partners.push_back(found->second.back());
-        found->second.pop_back();
+// Where lists differ in places alone, they agree again after a few entries.
+constexpr int farthestLook = 32;
+
+/// Pairs up the entries of two lists: for each of the first its partner in the second, or none.
+class Pairing {
+public:
+    Pairing(const std::vector<const void*>& before, const std::vector<const void*>& after)
+        : m_before(before)
+        , m_after(after)
+        , m_partners(before.size(), none)
+    {
+        pairInOrder();
+        pairTheRest();
     }
-    return partners;
-}
+
+    const std::vector<int>& partners() const { return m_partners; }
+
+private:
+    bool same(int place, int partner) const
+    {
+        return at(place) < m_before.size() && at(partner) < m_after.size() && m_before[at(place)]
+            && m_before[at(place)] == m_after[at(partner)];
+    }
+
+    void pairInOrder()
+    {
+        int place = 0;
+        int partner = 0;
+        while (at(place) < m_before.size() && at(partner) < m_after.size()) {
+            int distance = 0;
+            while (distance < farthestLook && !same(place + distance, partner)
+                && !same(place, partner + distance))
+                ++distance;
+            if (distance == farthestLook) {
+                m_rest.push_back(partner++);
+                ++place;
+                continue;
+            }
+            if (same(place + distance, partner)) {
+                place += distance;
+            } else {
+                for (int i = 0; i < distance; ++i)
+                    m_rest.push_back(partner++);
+            }
+            m_partners[at(place++)] = partner++;
+        }
+        for (; at(partner) < m_after.size(); ++partner)
+            m_rest.push_back(partner);
+    }
+
+    void pairTheRest()
+    {
+        std::unordered_multimap<const void*, int> rest;
+        for (const int partner : m_rest)
+            rest.emplace(m_after[at(partner)], partner);
+        for (std::size_t i = 0; i < m_before.size() && !rest.empty(); ++i) {
+            if (m_partners[i] != none || !m_before[i])
+                continue;
+            if (const auto found = rest.find(m_before[i]); found != rest.end()) {
+                m_partners[i] = found->second;
+                rest.erase(found);
+            }
+        }
+    }
+
+    const std::vector<const void*>& m_before;
+    const std::vector<const void*>& m_after;
+    std::vector<int> m_partners;
+    std::vector<int> m_rest; // places in the second list without a partner in order
+};
 
 /// Which of the numbers belong to a longest rising subsequence.
 std::vector<bool> longestRise(const std::vector<int>& numbers)
@@ -67,7 +116,8 @@ int indexOf(const std::vector<int>& list, int value)
 
 ListDiff::ListDiff(const std::vector<const void*>& before, const std::vector<const void*>& after)
 {
-    const std::vector<int> partners = pairUp(before, after);
+    const Pairing pairing(before, after);
+    const std::vector<int>& partners = pairing.partners();
     std::vector<bool> paired(after.size(), false);
     for (int i = static_cast<int>(before.size()) - 1; i >= 0; --i) {
         if (partners[at(i)] != none)

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 
 SceneItem::SceneItem(KnFieldContainer* itemNode, SceneItem* itemParent, int itemRow)
     : node(itemNode)
@@ -29,8 +28,14 @@ SceneBranch::SceneBranch(SceneModel& model, SceneItem& place, KnGroup* group)
     m_count = groupCount();
     // What the filter accepts is known only now.
     for (int row = 0; row < static_cast<int>(m_accepted.size()); ++row)
-        m_items.push_back(std::make_unique<SceneItem>(groupNode(row), &m_place, row));
+        m_items.push_back(makeItem(groupNode(row), row).release());
     m_accepted.clear();
+}
+
+SceneBranch::~SceneBranch()
+{
+    // What it gives dies at once.
+    remove(0, m_count);
 }
 
 void SceneBranch::childrenChanged(void* data, KnSensor*)
@@ -41,16 +46,16 @@ void SceneBranch::childrenChanged(void* data, KnSensor*)
 
 SceneItem* SceneBranch::knownItem(int row) const
 {
-    return m_items.empty() ? nullptr : m_items[static_cast<std::size_t>(row)].get();
+    return m_items.empty() ? nullptr : m_items[static_cast<std::size_t>(row)];
 }
 
 SceneItem& SceneBranch::item(int row)
 {
     if (m_items.empty())
         m_items.resize(static_cast<std::size_t>(m_count));
-    std::unique_ptr<SceneItem>& item = m_items[static_cast<std::size_t>(row)];
+    SceneItem*& item = m_items[static_cast<std::size_t>(row)];
     if (!item)
-        item = std::make_unique<SceneItem>(node(row), &m_place, row);
+        item = makeItem(node(row), row).release();
     return *item;
 }
 
@@ -72,7 +77,7 @@ int SceneBranch::rowOf(SceneItem& item) const
 {
     const int start = std::min(item.row, m_count - 1);
     const auto is = [&](int row) {
-        return row >= 0 && row < m_count && m_items[static_cast<std::size_t>(row)].get() == &item;
+        return row >= 0 && row < m_count && m_items[static_cast<std::size_t>(row)] == &item;
     };
     for (int distance = 0; distance < m_count; ++distance) {
         for (const int row : { start - distance, start + distance }) {
@@ -128,14 +133,10 @@ std::vector<KnFieldContainer*> SceneBranch::groupNodes(int first, int count) con
 void SceneBranch::insert(int row, const std::vector<KnFieldContainer*>& nodes, int first, int count)
 {
     if (!m_items.empty() || m_model.m_filter) {
-        Items items;
-        items.reserve(static_cast<std::size_t>(count));
-        for (int i = 0; i < count; ++i) {
-            items.push_back(std::make_unique<SceneItem>(
-                nodes[static_cast<std::size_t>(first + i)], &m_place, row + i));
-        }
-        m_items.insert(m_items.begin() + row, std::make_move_iterator(items.begin()),
-            std::make_move_iterator(items.end()));
+        const auto place
+            = m_items.insert(m_items.begin() + row, static_cast<std::size_t>(count), nullptr);
+        for (int i = 0; i < count; ++i)
+            place[i] = makeItem(nodes[static_cast<std::size_t>(first + i)], row + i).release();
     }
     m_count += count;
     // Insertions come last and from the front, so everything up to here is as in the group.
@@ -150,7 +151,7 @@ SceneBranch::Items SceneBranch::remove(int row, int count)
     Items gone;
     if (!m_items.empty()) {
         const auto begin = m_items.begin() + row;
-        gone.assign(std::make_move_iterator(begin), std::make_move_iterator(begin + count));
+        gone = Items(begin, begin + count);
         m_items.erase(begin, begin + count);
     }
     m_count -= count;
@@ -169,13 +170,18 @@ void SceneBranch::move(int from, int to)
 
 void SceneBranch::arrange(int first, const std::vector<int>& order)
 {
-    Items arranged;
+    std::vector<SceneItem*> arranged;
     arranged.reserve(order.size());
     for (const int place : order) {
-        arranged.push_back(std::move(m_items[static_cast<std::size_t>(first + place)]));
+        arranged.push_back(m_items[static_cast<std::size_t>(first + place)]);
         arranged.back()->row = first + static_cast<int>(arranged.size()) - 1;
     }
-    std::move(arranged.begin(), arranged.end(), m_items.begin() + first);
+    std::copy(arranged.begin(), arranged.end(), m_items.begin() + first);
+}
+
+std::unique_ptr<SceneItem> SceneBranch::makeItem(KnFieldContainer* node, int row) const
+{
+    return std::make_unique<SceneItem>(node, &m_place, row);
 }
 
 void SceneBranch::finish()

@@ -35,6 +35,9 @@ public:
     /// Watches `group` and announces the children that it has now. Null stands for the top, below
     /// which are the model's roots. Model and place outlive this object.
     SceneBranch(SceneModel& model, SceneItem& place, KnGroup* group);
+    SceneBranch(const SceneBranch&) = delete;
+    SceneBranch& operator=(const SceneBranch&) = delete;
+    ~SceneBranch();
 
     SceneModel& model() const { return m_model; }
     SceneItem& place() const { return m_place; }
@@ -70,6 +73,7 @@ public:
 private:
     static void childrenChanged(void* data, KnSensor* sensor);
 
+    std::unique_ptr<SceneItem> makeItem(KnFieldContainer* node, int row) const;
     int groupCount() const;
     KnFieldContainer* groupNode(int index) const;
     void takeChange();
@@ -79,8 +83,9 @@ private:
     SceneItem& m_place;
     KnGroup* m_group; // not owned; the place's node
     int m_count = 0;
-    Items
-        m_items; // empty, or as many as rows; null where nobody has asked, but not behind a filter
+    // Owned. Empty, or as many as rows; null where nobody has asked, but not behind a filter. Plain
+    // pointers move up and down in one go, where a hundred thousand owning ones take their time.
+    std::vector<SceneItem*> m_items;
     std::vector<KnNodePtr> m_accepted; // from findChange to finish, behind a filter
     Change m_change; // what the group has done that isn't announced
     bool m_stepping = false; // between findChange and finish
