@@ -70,7 +70,7 @@ private:
     QTreeView m_view;
 };
 
-class OurTree : public Contender {
+class OurTree final : public Contender {
 public:
     explicit OurTree(KnGroup* group)
         : m_group(group)
@@ -88,7 +88,7 @@ private:
     SceneModel m_model;
 };
 
-class ItemTree : public Contender {
+class ItemTree final : public Contender {
 public:
     explicit ItemTree(int rows)
     {

@@ -160,7 +160,7 @@ QString FieldListModel::text(Row& row, int column) const
 
 double FieldListModel::light(const Row& row) const
 {
-    const double age = static_cast<double>(m_clock.elapsed() - row.changedAt);
+    const auto age = static_cast<double>(m_clock.elapsed() - row.changedAt);
     return row.lit ? std::max(0.0, 1 - age / lightTime) : 0;
 }
 

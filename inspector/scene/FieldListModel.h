@@ -20,7 +20,7 @@ class FieldListModel : public QAbstractTableModel {
 public:
     enum Column { NameColumn, TypeColumn, ValueColumn, IgnoredColumn, ColumnCount };
     /// How brightly a value is lit: from 1, when it has just changed, down to 0.
-    static constexpr int LightRole = Qt::UserRole;
+    enum Role { LightRole = Qt::UserRole };
 
     explicit FieldListModel(QObject* parent = nullptr);
     ~FieldListModel() override;

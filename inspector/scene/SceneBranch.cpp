@@ -135,8 +135,9 @@ void SceneBranch::insert(int row, const std::vector<KnFieldContainer*>& nodes, i
     if (!m_items.empty() || m_model.m_filter) {
         const auto place
             = m_items.insert(m_items.begin() + row, static_cast<std::size_t>(count), nullptr);
+        const auto node = nodes.begin() + first;
         for (int i = 0; i < count; ++i)
-            place[i] = makeItem(nodes[static_cast<std::size_t>(first + i)], row + i).release();
+            place[i] = makeItem(node[i], row + i).release();
     }
     m_count += count;
     // Insertions come last and from the front, so everything up to here is as in the group.
@@ -172,11 +173,12 @@ void SceneBranch::arrange(int first, const std::vector<int>& order)
 {
     std::vector<SceneItem*> arranged;
     arranged.reserve(order.size());
+    const auto former = m_items.begin() + first;
     for (const int place : order) {
-        arranged.push_back(m_items[static_cast<std::size_t>(first + place)]);
+        arranged.push_back(former[place]);
         arranged.back()->row = first + static_cast<int>(arranged.size()) - 1;
     }
-    std::copy(arranged.begin(), arranged.end(), m_items.begin() + first);
+    std::copy(arranged.begin(), arranged.end(), former);
 }
 
 std::unique_ptr<SceneItem> SceneBranch::makeItem(KnFieldContainer* node, int row) const
