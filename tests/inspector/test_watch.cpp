@@ -297,7 +297,9 @@ private Q_SLOTS:
     {
         QFETCH(bool, paused);
         CrvServices* const services = CrvServices::getInstance();
-        services->selectNode(nullptr); // the list of fields has sensors, too
+        // The list of fields and the view have sensors, too.
+        services->selectNode(nullptr);
+        m_inspector->dock(u"Scene View"_s)->hide();
         const auto stop = [&](bool stopped) {
             if (paused)
                 services->setPaused(stopped);
