@@ -55,6 +55,9 @@ public:
     {
         for (int i = 0; i < 6; ++i)
             m_groups.push_back(newNode(true));
+        // Enough to be put in another order as a whole.
+        for (int i = 0; i < 60; ++i)
+            static_cast<KnGroup*>(m_groups[0].get())->addChild(newNode(false).get());
     }
 
     std::vector<KnNodePtr> roots() const { return { m_groups[0], m_groups[1] }; }
@@ -83,7 +86,7 @@ public:
                 group->removeChild(below(i));
             break;
         case 3:
-            for (int i = below(30); i > 0 && count > 0; --i)
+            for (int i = below(90); i > 0 && count > 0; --i)
                 group->moveChild(below(count), below(count));
             break;
         case 4:
@@ -299,6 +302,27 @@ private Q_SLOTS:
         // A tag in a value is text.
         QCOMPARE(model.index(0, FieldListModel::ValueColumn).data(Qt::ToolTipRole).toString(),
             u"&quot;&lt;b&gt;&quot;"_s);
+    }
+
+    // Also where no view has asked for a text before.
+    void heldTextsStay()
+    {
+        auto* const view = new KnViewpoint;
+        view->description.setValue("a");
+        FieldListModel model;
+        const auto shown
+            = [&model] { return model.index(0, FieldListModel::ValueColumn).data().toString(); };
+        model.setNode(view);
+        model.setHeld(true);
+        view->description.setValue("b");
+        QCOMPARE(shown(), u"\"a\""_s);
+        model.setHeld(false);
+        QCOMPARE(shown(), u"\"b\""_s);
+        model.setNode(nullptr);
+        model.setHeld(true);
+        model.setNode(new KnViewpoint);
+        static_cast<KnViewpoint*>(model.node())->description.setValue("c");
+        QCOMPARE(shown(), u"\"\""_s);
     }
 
     void summariesStayShort()
