@@ -46,14 +46,28 @@ build() {
 build "$source/tests/infrastructure/consumer" consumer
 draw consumer --plugin "$work/consumer/consumer.so"
 
-for name in loop viewer; do
-    [ -d "$source/examples/$name" ] || continue
+# run NAME ARGUMENTS...: an example, built like that, shows the inspector.
+run() {
+    local name=$1
+    shift
     build "$source/examples/$name" "$name"
     LD_DEBUG=files LD_DEBUG_OUTPUT=$work/$name.trace \
-        "$work/$name/corvane_$name" --frames 30 >>"$work/log" 2>"$work/errors"
+        "$work/$name/corvane_$name" "$@" >>"$work/log" 2>"$work/errors"
     grep -q "calling init: $prefix/.*/ubn_corvane_extender_base\.so" "$work/$name".trace.* || {
         echo "the example $name runs without the installed plug-in" >&2
         cat "$work/errors" >&2
         exit 1
     }
-done
+}
+
+run loop --frames 30
+run viewer --inspector --frames 30
+
+# The program that docs/embedding.md tells, from the blocks behind the names of its files.
+mkdir "$work/lamp"
+awk -v folder="$work/lamp/" '
+    /^<!-- file: / { name = $3; sub(/,$/, "", name) }
+    /^```$/ { inside = 0; name = "" }
+    inside { print >> (folder name) }
+    /^```[a-z]/ { inside = name != "" }' "$source/docs/embedding.md"
+build "$work/lamp" lamp-build
