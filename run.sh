@@ -1,8 +1,8 @@
 #!/bin/bash
 # SPDX-License-Identifier: BSD-3-Clause
-# Installs what is missing, builds the inspector and starts it on a sample scene. Arguments go to
-# the program; one that names a scene takes the sample's place. Without a display the window is
-# drawn into a picture instead.
+# Installs what is missing, builds, and starts a program with a moving scene and its inspector. With
+# arguments it starts the inspector as a program of its own: they go to it, and one that names a
+# scene takes the sample's place. Without a display the windows are drawn into a picture instead.
 set -u
 shopt -s extglob
 . "$(dirname "${BASH_SOURCE[0]}")/scripts/common.sh"
@@ -10,7 +10,8 @@ shopt -s extglob
 install_packages "${build_packages[@]}"
 leave_root "${BASH_SOURCE[0]}" "$@"
 choose_build_root
-build release corvane ubn_corvane_extender_base >&2 || fail "the build failed"
+build release corvane corvane_viewer ubn_corvane_extender_base corvane_example_plugin >&2 ||
+    fail "the build failed"
 
 # Whether a window can be opened: an X display that somebody serves, or a platform that was asked
 # for and shows windows in its own way.
@@ -30,6 +31,19 @@ has_display() {
     [ -S "$socket" ] || grep -qs "@$socket\$" /proc/net/unix
 }
 
+picture=$build_root/window.png
+draw() {
+    QT_QPA_PLATFORM=offscreen "$@" --picture "$picture" || exit
+    echo "There is no display; the window was drawn into $picture"
+    exit
+}
+
+if [ $# -eq 0 ]; then
+    program=("$build_root/release/bin/corvane_viewer" --inspector)
+    has_display || draw "${program[@]}"
+    exec "${program[@]}"
+fi
+
 # A bare word is the scene, unless it is the value of the option before it.
 arguments=("$@")
 scene=$source_dir/scenes/all_fields.json
@@ -42,16 +56,22 @@ for argument in "$@"; do
 done
 [ -z "$scene" ] || arguments+=("$scene")
 
-program=$build_root/release/bin/corvane
-if has_display; then
-    exec "$program" "${arguments[@]}"
-fi
-export QT_QPA_PLATFORM=offscreen
+# With the example plug-in, which draws the scene, beside the default one.
+program=("$build_root/release/bin/corvane")
 case " $* " in
-*" -picture"* | *" --picture"* | *" -h "* | *" --help "* | *" -v "* | *" --version "*)
-    exec "$program" "${arguments[@]}"
+*" -plugin"* | *" --plugin"*) ;;
+*)
+    for name in ubn_corvane_extender_base corvane_example_plugin; do
+        program+=(--plugin "$build_root/release/lib/$name.so")
+    done
     ;;
 esac
-picture=$build_root/window.png
-"$program" --picture "$picture" "${arguments[@]}" || exit
-echo "There is no display; the window was drawn into $picture"
+case " $* " in
+*" -picture"* | *" --picture"* | *" -h "* | *" --help "* | *" -v "* | *" --version "*)
+    has_display || export QT_QPA_PLATFORM=offscreen
+    ;;
+*)
+    has_display || draw "${program[@]}" "${arguments[@]}"
+    ;;
+esac
+exec "${program[@]}" "${arguments[@]}"

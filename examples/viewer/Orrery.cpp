@@ -92,6 +92,16 @@ Orrery::Orrery()
     moveTo(0.0);
 }
 
+KnFieldContainer* Orrery::find(const char* name) const
+{
+    const KbName wanted(name);
+    for (int i = 0; i < m_root->getNumChildren(); ++i) {
+        if (m_root->getChild(i)->getName() == wanted)
+            return m_root->getChild(i);
+    }
+    return nullptr;
+}
+
 void Orrery::addLights()
 {
     auto* const viewpoint = new KnViewpoint; // these are the root's as soon as they are added

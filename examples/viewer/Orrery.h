@@ -18,6 +18,9 @@ public:
     /// Everything; lives as long as this object, or longer if somebody else holds it.
     KnGroup* root() const { return m_root; }
 
+    /// What stands directly below the root under a name; null if nothing does.
+    KnFieldContainer* find(const char* name) const;
+
     /// Puts all bodies where they are at a time in seconds.
     void moveTo(double time);
 

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ViewerWindow.h"
 
+#include "CrvServices.h"
+#include "KnTransform.h"
 #include "SceneView.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPixmap>
 #include <QScreen>
 #include <QStyle>
@@ -117,7 +120,20 @@ bool ViewerWindow::takePicture(const QString& fileName)
     m_timer.stop();
     m_orrery.moveTo(6.0); // with a comet close to the sun
     m_view->refresh();
-    show();
     QApplication::processEvents();
-    return grab().save(fileName, "PNG");
+    if (!m_inspector.isOpen())
+        return grab().save(fileName, "PNG");
+
+    const auto* const system = static_cast<const KnGroup*>(m_orrery.find("Saturn system"));
+    auto* const place = static_cast<KnTransform*>(system->getChild(1));
+    CrvServices::getInstance()->selectField(&place->translation);
+    QApplication::processEvents();
+    QWidget& inspector = *m_inspector.window();
+    inspector.resize(inspector.width(), height());
+    QPixmap both(width() + inspector.width(), height());
+    QPainter painter(&both);
+    painter.drawPixmap(0, 0, grab());
+    painter.drawPixmap(width(), 0, inspector.grab());
+    painter.end();
+    return both.save(fileName, "PNG");
 }

@@ -19,7 +19,8 @@ public:
     void showInspector();
     /// Ends the program after so many frames.
     void endAfter(int frames) { m_framesLeft = frames; }
-    /// Draws the window, as it is at one certain moment, into a PNG file. False if that fails.
+    /// Draws the window, as it is at one certain moment, into a PNG file, and beside it the
+    /// inspector, if it was shown before. False if that fails.
     bool takePicture(const QString& fileName);
 
 private:

@@ -47,16 +47,13 @@ int main(int argc, char** argv)
     parser.addHelpOption();
     const QCommandLineOption inspector(u"inspector"_s, u"Opens the inspector at the start."_s);
     const QCommandLineOption frames(u"frames"_s, u"Ends after so many frames."_s, u"count"_s);
-    const QCommandLineOption picture(
-        u"picture"_s, u"Draws the window into a PNG file, and ends."_s, u"file"_s);
+    const QCommandLineOption picture(u"picture"_s,
+        u"Draws the window, and the inspector if it is opened, into a PNG file, and ends."_s,
+        u"file"_s);
     parser.addOptions({ inspector, frames, picture });
     parser.process(application);
 
     ViewerWindow window;
-    if (parser.isSet(picture)) {
-        const QString file = parser.value(picture);
-        return window.takePicture(file) ? 0 : fail(u"%1 could not be written"_s.arg(file));
-    }
     if (parser.isSet(frames)) {
         const int count = parser.value(frames).toInt();
         if (count <= 0)
@@ -66,5 +63,9 @@ int main(int argc, char** argv)
     window.show();
     if (parser.isSet(inspector))
         window.showInspector();
+    if (parser.isSet(picture)) {
+        const QString file = parser.value(picture);
+        return window.takePicture(file) ? 0 : fail(u"%1 could not be written"_s.arg(file));
+    }
     return QApplication::exec();
 }
