@@ -44,7 +44,7 @@ void SceneWatch::setNodes(const std::vector<KnFieldContainer*>& nodes)
     std::erase_if(m_nodes, [this](const auto& entry) { return entry.second.round != m_round; });
 }
 
-bool SceneWatch::isWatched(const KnFieldContainer* node) const { return m_nodes.count(node) > 0; }
+bool SceneWatch::isWatched(const KnFieldContainer* node) const { return m_nodes.contains(node); }
 
 void SceneWatch::attach(KnFieldContainer& node, Sensors& entry)
 {
