@@ -38,26 +38,38 @@ KnFieldContainer* newNode(int number)
     return node;
 }
 
+double heapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
+
 /// A tree in a window, all of it open.
 class Contender {
 public:
     virtual ~Contender() = default;
 
     virtual QAbstractItemModel& model() = 0;
+    virtual void fill() = 0;
     virtual void insert(int row, int number) = 0;
     virtual void remove(int row) = 0;
     /// Lets the model know, if it doesn't already.
     virtual void settle() { }
 
-    void show()
+    /// Gives the bytes that this takes, but for those of the window.
+    double show()
     {
         m_view.setUniformRowHeights(true);
         m_view.setModel(&model());
         m_view.header()->setSectionResizeMode(QHeaderView::Stretch);
         m_view.resize(400, 600);
         m_view.show();
+        paint();
+        const double before = heapInUse();
+        fill();
         m_view.expand(model().index(0, 0));
         paint();
+        return heapInUse() - before;
     }
     void paint()
     {
@@ -75,10 +87,10 @@ public:
     explicit OurTree(KnGroup* group)
         : m_group(group)
     {
-        m_model.setRoots({ KnNodePtr(group) });
     }
 
     QAbstractItemModel& model() override { return m_model; }
+    void fill() override { m_model.setRoots({ KnNodePtr(m_group) }); }
     void insert(int row, int number) override { m_group->insertChild(newNode(number), row); }
     void remove(int row) override { m_group->removeChild(row); }
     void settle() override { KnSensorQueue::getInstance().process(); }
@@ -91,15 +103,19 @@ private:
 class ItemTree final : public Contender {
 public:
     explicit ItemTree(int rows)
+        : m_rows(rows)
     {
         m_model.setColumnCount(2);
-        m_group = new QStandardItem(QStringLiteral("Group"));
-        for (int i = 0; i < rows; ++i)
-            insert(i, i);
-        m_model.appendRow(m_group);
     }
 
     QAbstractItemModel& model() override { return m_model; }
+    void fill() override
+    {
+        m_group = new QStandardItem(QStringLiteral("Group"));
+        for (int i = 0; i < m_rows; ++i)
+            insert(i, i);
+        m_model.appendRow(m_group);
+    }
     void insert(int row, int number) override
     {
         m_group->insertRow(row,
@@ -110,7 +126,8 @@ public:
 
 private:
     QStandardItemModel m_model;
-    QStandardItem* m_group; // the model's
+    int m_rows;
+    QStandardItem* m_group = nullptr; // the model's
 };
 
 /// Milliseconds.
@@ -146,12 +163,6 @@ void compare(const char* name, int turns, const std::function<void()>& our,
     std::fflush(stdout);
 }
 
-double heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
-}
-
 KnNodePtr makeScene(int rows)
 {
     auto* const group = new KnGroup;
@@ -164,17 +175,13 @@ KnNodePtr makeScene(int rows)
 void compareChanges(int rows, int turns)
 {
     const KnNodePtr scene = makeScene(rows);
-    const double before = heapInUse();
     OurTree ours(static_cast<KnGroup*>(scene.get()));
-    ours.show();
-    const double between = heapInUse();
+    const double ourBytes = ours.show();
     ItemTree theirs(rows);
-    theirs.show();
-    const double after = heapInUse();
+    const double theirBytes = theirs.show();
     std::printf("%d rows\n", rows);
     std::printf("  %-34s %10.1f B,  rival %10.1f B,  ratio %.2f\n", "memory of a shown node",
-        (between - before) / rows, (after - between) / rows,
-        (between - before) / (after - between));
+        ourBytes / rows, theirBytes / rows, ourBytes / theirBytes);
 
     const auto change = [](Contender& tree, int row) {
         return [&tree, row] {
