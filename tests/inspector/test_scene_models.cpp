@@ -225,8 +225,10 @@ private Q_SLOTS:
         auto* const group = new KnGroup;
         const auto fill = [&](const QString& names) {
             for (const QChar name : names) {
-                nodes.try_emplace(name, new KnMaterial);
-                group->addChild(nodes[name].get());
+                KnNodePtr& node = nodes[name];
+                if (!node)
+                    node = KnNodePtr(new KnMaterial);
+                group->addChild(node.get());
             }
         };
         fill(u"abcdef"_s);
