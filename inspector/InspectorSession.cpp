@@ -118,7 +118,8 @@ void InspectorSession::open(const std::vector<KnNodePtr>& roots)
         services->setRefreshInterval(refreshInterval);
         services->setRoots(roots);
         CrvPluginsManager::getInstance()->setActiveProfile(m_profile);
-        m_window.restoreLayout();
+        if (!m_window.returnPlaces())
+            m_window.restoreLayout();
     }
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
@@ -160,6 +161,7 @@ void InspectorSession::putAway()
     services->setRoots({});
     CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
     m_profile = manager->getActiveProfile();
+    m_window.keepPlaces();
     manager->setActiveProfile(nullptr);
     services->setPaused(false);
     services->setRefreshInterval(0);

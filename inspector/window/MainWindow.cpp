@@ -25,6 +25,8 @@
 #include <QUndoStack>
 #include <QUndoView>
 
+#include <utility>
+
 namespace {
 
 // Changes with the set of the window's own docks.
@@ -207,8 +209,20 @@ void MainWindow::restoreLayout()
         services->announceSelection();
 }
 
+bool MainWindow::returnPlaces()
+{
+    if (!m_places.giveBack())
+        return false;
+    m_viewMenu->takeOverPanes();
+    return true;
+}
+
 void MainWindow::addDockWidget(QDockWidget* dock, int area)
 {
+    if (m_places.takeBack(dock)) {
+        m_viewMenu->addPane(dock);
+        return;
+    }
     // Also at the bottom one above the other: curves and messages need the width.
     QMainWindow::addDockWidget(static_cast<Qt::DockWidgetArea>(area), dock, Qt::Vertical);
     m_viewMenu->addPane(dock);
@@ -231,8 +245,7 @@ void MainWindow::giveFirstSize(QDockWidget* dock)
 void MainWindow::removeDockWidget(QDockWidget* dock)
 {
     m_viewMenu->removePane(dock);
-    QMainWindow::removeDockWidget(dock);
-    dock->setParent(nullptr); // it is the extension's
+    m_places.remove(dock);
 }
 
 void MainWindow::registerExtension(CrvExtension* extension, int)
@@ -247,15 +260,15 @@ void MainWindow::unregisterExtension(CrvExtension* extension)
 
 void MainWindow::addToolBar(QToolBar* toolBar, int area)
 {
-    QMainWindow::addToolBar(static_cast<Qt::ToolBarArea>(area), toolBar);
+    if (!m_places.takeBack(toolBar))
+        QMainWindow::addToolBar(static_cast<Qt::ToolBarArea>(area), toolBar);
     m_viewMenu->addPane(toolBar);
 }
 
 void MainWindow::removeToolBar(QToolBar* toolBar)
 {
     m_viewMenu->removePane(toolBar);
-    QMainWindow::removeToolBar(toolBar);
-    toolBar->setParent(nullptr); // it is the extension's
+    m_places.remove(toolBar);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

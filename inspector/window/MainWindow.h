@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CrvShell.h"
+#include "PanePlaces.h"
 #include "SceneDocument.h"
 
 #include <QMainWindow>
@@ -35,6 +36,11 @@ public:
     /// Puts the docks where they stood last time; called before the window is shown, when all of
     /// them are there.
     void restoreLayout();
+    /// From now on the docks and tool bars that extensions take out stay where they are, hidden.
+    void keepPlaces() { m_places.keep(); }
+    /// Ends that: those that were put in again stand where they stood, the others go. False if no
+    /// places were kept.
+    bool returnPlaces();
 
     void addDockWidget(QDockWidget* dock, int area) override;
     void removeDockWidget(QDockWidget* dock) override;
@@ -74,4 +80,5 @@ private:
     QDockWidget* m_historyDock = nullptr; // child
     QDockWidget* m_watchDock = nullptr; // child
     bool m_layoutRestored = false;
+    PanePlaces m_places { this };
 };

@@ -39,8 +39,6 @@ WindowLayout::WindowLayout(QMainWindow* window, QSettings* settings, int version
 
 bool WindowLayout::restore()
 {
-    if (!m_saved.isEmpty())
-        return m_window->restoreState(m_saved, m_version);
     const QByteArray geometry = m_settings->value(geometryKey()).toByteArray();
     const QByteArray layout = m_settings->value(layoutKey()).toByteArray();
     if (m_settings->contains(restoringKey())) {
@@ -76,7 +74,6 @@ void WindowLayout::save()
     m_settings->setValue(layoutKey(), layout);
     m_settings->setValue(checkKey(), checkOf(geometry, layout));
     m_settings->remove(restoringKey());
-    m_saved = layout;
 }
 
 // The docks take their places only when the window is shown, in events that are in the queue by

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QByteArray>
 #include <QObject>
 
 class QMainWindow;
@@ -18,8 +17,8 @@ public:
     /// isn't owned.
     WindowLayout(QMainWindow* window, QSettings* settings, int version);
 
-    /// Called each time before the window is shown, when all docks are there. False if the window
-    /// was left as it is. A layout that this object has saved comes back without those precautions.
+    /// Called once, when all docks are there and before the window is shown. False if the window
+    /// was left as it is.
     bool restore();
     void save();
 
@@ -32,5 +31,4 @@ private:
     QMainWindow* const m_window;
     QSettings* const m_settings;
     const int m_version;
-    QByteArray m_saved; // by this object; empty if none was
 };
