@@ -43,7 +43,7 @@ public:
     void step()
     {
         ++m_frame;
-        const float at = static_cast<float>(m_frame);
+        const auto at = static_cast<float>(m_frame);
         for (int i = 0; i < writesInFrame; ++i) {
             m_next = (m_next + 1) % (groupCount * nodesInGroup);
             node(m_next).translation.setValue(KbVec3f(at, at / 2, at / 4));

@@ -170,9 +170,9 @@ private:
     {
         auto* const gauge = new Gauge;
         m_host.root().addChild(gauge);
-        CrvServices::getInstance()->selectField(&gauge->values[0]);
+        CrvServices::getInstance()->selectField(gauge->values.data());
         settle();
-        Refreshes refreshes(&gauge->values[0]);
+        Refreshes refreshes(gauge->values.data());
         const double without = bare();
         float value = 0;
         const double used = LiveHost::run(m_frames, [&] {
