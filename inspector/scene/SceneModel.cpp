@@ -5,11 +5,11 @@
 #include "ListDiff.h"
 #include "NodeFinder.h"
 #include "SceneBranch.h"
+#include "SceneRoots.h"
 #include "SceneText.h"
 
 #include <QFont>
 
-#include <algorithm>
 #include <utility>
 
 SceneModel::SceneModel(QObject* parent)
@@ -69,9 +69,7 @@ SceneItem* SceneModel::counterpart(const SceneItem& foreign) const
 
 bool SceneModel::isInGraph(const KnFieldContainer* node) const
 {
-    NodeFinder finder(node);
-    return std::any_of(m_roots.begin(), m_roots.end(),
-        [&finder](const KnNodePtr& root) { return finder.isAtOrBelow(root.get()); });
+    return findRoot(m_roots, node) != nullptr;
 }
 
 /// Makes no rows but those on the way.

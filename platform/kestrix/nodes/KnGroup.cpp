@@ -2,11 +2,11 @@
 #include "KnGroup.h"
 
 #include "KnDebugError.h"
+#include "KnGraphWalk.h"
 #include "KnWriteThread.h"
 
 #include <algorithm>
 #include <cstdlib>
-#include <unordered_set>
 #include <utility>
 
 KN_NODE_SOURCE(KnGroup, KnNode)
@@ -95,17 +95,11 @@ void KnGroup::report(const KnGroupSensor::Change& change) const
 /// Whether this group is `root` or one of its descendants.
 bool KnGroup::isBelow(KnFieldContainer* root) const
 {
-    std::unordered_set<const KnFieldContainer*> seen; // shared children are visited once
-    std::vector<const KnFieldContainer*> waiting { root };
-    while (!waiting.empty()) {
-        const KnFieldContainer* node = waiting.back();
-        waiting.pop_back();
+    KnGraphWalk walk;
+    walk.add(root);
+    while (const KnFieldContainer* const node = walk.next()) {
         if (node == this)
             return true;
-        if (!node->isOfType(KnGroup::getClassTypeId()) || !seen.insert(node).second)
-            continue;
-        for (const KnNodePtr& child : static_cast<const KnGroup*>(node)->m_children)
-            waiting.push_back(child.get());
     }
     return false;
 }
