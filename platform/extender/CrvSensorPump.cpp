@@ -43,16 +43,20 @@ CrvSensorPump::~CrvSensorPump()
 void CrvSensorPump::setPaused(bool paused)
 {
     m_paused = paused;
+    m_hurriedFields.clear();
     if (!paused && !KnSensorQueue::getInstance().isEmpty())
         post();
 }
 
 void CrvSensorPump::hurry(const KnField* field)
 {
-    m_hurried = true;
-    m_hurriedField = field;
-    if (!KnSensorQueue::getInstance().isEmpty())
+    if (!KnSensorQueue::getInstance().isEmpty()) {
+        m_hurried = true;
+        // Several steps may be undone in one go.
+        if (m_paused && field)
+            m_hurriedFields.push_back(field);
         post();
+    }
     Q_EMIT hurried(field);
 }
 
@@ -80,7 +84,7 @@ int CrvSensorPump::timeToWait() const
 {
     if (m_interval == 0 || !m_sinceRun.isValid())
         return 0;
-    return std::clamp(m_interval - static_cast<int>(m_sinceRun.elapsed()), 0, m_interval);
+    return static_cast<int>(std::max<qint64>(m_interval - m_sinceRun.elapsed(), 0));
 }
 
 void CrvSensorPump::customEvent(QEvent* event)
@@ -91,7 +95,8 @@ void CrvSensorPump::customEvent(QEvent* event)
     m_posted = false;
     const bool isHurried = std::exchange(m_hurried, false);
     if (m_paused) {
-        if (const KnField* const field = std::exchange(m_hurriedField, nullptr))
+        const std::vector<const KnField*> fields = std::exchange(m_hurriedFields, {});
+        for (const KnField* field : fields)
             KnSensorQueue::getInstance().processField(field);
     } else if (const int wait = isHurried ? 0 : timeToWait()) {
         m_timer.start(wait, Qt::PreciseTimer, this);

@@ -5,6 +5,8 @@
 #include <QElapsedTimer>
 #include <QObject>
 
+#include <vector>
+
 class KnField;
 
 /// Runs the kernel's sensor queue from Qt's event loop: one posted event for a batch of touched
@@ -23,7 +25,7 @@ public:
     void setPaused(bool paused);
     bool isPaused() const { return m_paused; }
     /// A person has edited something: the next batch doesn't wait for the interval. While paused,
-    /// the sensors of this one field run; it may be null, and be gone by the time.
+    /// the sensors of this field run; it may be null, and be gone by the time.
     void hurry(const KnField* field);
 
 Q_SIGNALS:
@@ -44,7 +46,7 @@ private:
     bool m_paused = false;
     bool m_posted = false; // an event is under way
     bool m_hurried = false;
-    const KnField* m_hurriedField = nullptr; // never read
+    std::vector<const KnField*> m_hurriedFields; // while paused; only compared with others
     QElapsedTimer m_sinceRun; // invalid before the first batch
     QBasicTimer m_timer; // runs while a batch waits for the interval
 };

@@ -207,6 +207,26 @@ private Q_SLOTS:
         QCOMPARE(runs, paused ? "no" : "on");
     }
 
+    void aPauseShowsAllFieldsThatWereUndoneAtOnce()
+    {
+        int runs = 0;
+        const auto count = [](void* all, KnSensor*) { ++*static_cast<int*>(all); };
+        KnFieldSensor first(count, &runs);
+        KnFieldSensor second(count, &runs);
+        first.attach(&m_number);
+        second.attach(&m_b.transparency);
+        for (KnField* field : { first.getAttachedField(), second.getAttachedField() }) {
+            m_services->selectField(field);
+            m_services->executeCommand(new NotingCommand);
+        }
+        m_services->setPaused(true);
+        m_number.touch(); // as the commands would
+        m_b.transparency.touch();
+        m_services->getUndoStack()->setIndex(0);
+        QCoreApplication::processEvents();
+        QCOMPARE(runs, 2);
+    }
+
     void aStepKeepsItsNode()
     {
         auto* const node = new Node("short-lived");
