@@ -138,3 +138,24 @@ public:
     MainWindow window;
     Startup startup;
 };
+
+/// Base of tests that work in one window: a new one for each test function.
+class InspectorTest : public QObject {
+    Q_OBJECT
+protected Q_SLOTS:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_inspector = std::make_unique<InspectorFixture>(*m_folder);
+    }
+    void cleanup()
+    {
+        m_inspector.reset();
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
+protected:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<InspectorFixture> m_inspector;
+};

@@ -60,7 +60,7 @@ KnFieldContainer* newNode(const QString& type, const QString& name)
 } // namespace
 
 /// The window on a scene that another part of the program changes.
-class TestLiveScene : public QObject {
+class TestLiveScene : public InspectorTest {
     Q_OBJECT
 public:
     static void initMain() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
@@ -68,9 +68,7 @@ public:
 private Q_SLOTS:
     void init()
     {
-        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_inspector = std::make_unique<InspectorFixture>(*m_folder);
+        InspectorTest::init();
         m_scene = static_cast<KnGroup*>(m_inspector->window.document().root().get());
         m_tree = m_inspector->view(u"sceneTree"_s);
         for (const QString& name : { u"A"_s, u"B"_s })
@@ -81,12 +79,6 @@ private Q_SLOTS:
             m_a->addChild(newNode(u"Material"_s, QString::number(i)));
         QCoreApplication::processEvents();
     }
-    void cleanup()
-    {
-        m_inspector.reset();
-        QVERIFY(QApplication::topLevelWidgets().isEmpty());
-    }
-
     void anEditorLetsGo_data()
     {
         QTest::addColumn<QString>("place");
@@ -350,8 +342,6 @@ private:
             QTest::keyClick(line, Qt::Key_Return);
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<InspectorFixture> m_inspector;
     KnGroup* m_scene = nullptr; // the document's
     KnGroup* m_a = nullptr; // in the scene, with 100 children named after their rows
     KnGroup* m_b = nullptr; // in the scene, and empty

@@ -10,21 +10,9 @@
 #include <QPushButton>
 
 /// The selection while panes come and go below the focus.
-class TestSelection : public QObject {
+class TestSelection : public InspectorTest {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_inspector = std::make_unique<InspectorFixture>(*m_folder);
-    }
-    void cleanup()
-    {
-        m_inspector.reset();
-        QVERIFY(QApplication::topLevelWidgets().isEmpty());
-    }
-
     void anEditorGoesThatHadTheFocus_data()
     {
         QTest::addColumn<bool>("inScene"); // whether the tree shows the node
@@ -113,8 +101,6 @@ private:
     // Nodes that the scene on the screen doesn't have.
     const KnNodePtr m_transform { new KnMatrixTransform };
     const KnNodePtr m_viewpoint { new KnViewpoint };
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<InspectorFixture> m_inspector;
 };
 
 QTEST_MAIN(TestSelection)

@@ -18,26 +18,18 @@
 #include <QWheelEvent>
 
 /// Numbers of fields over time.
-class TestWatch : public QObject {
+class TestWatch : public InspectorTest {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_inspector = std::make_unique<InspectorFixture>(*m_folder);
+        InspectorTest::init();
         m_panel = m_inspector->window.findChild<WatchPanel*>();
         m_panel->list().clock().setSource([this] { return m_now; });
         new QAbstractItemModelTester(&m_panel->list(), m_panel);
         m_lamp = static_cast<KnPointLight*>(
             m_inspector->field(u"Desk lamp.intensity"_s)->getContainer());
     }
-    void cleanup()
-    {
-        m_inspector.reset();
-        QVERIFY(QApplication::topLevelWidgets().isEmpty());
-    }
-
     void aFullRingDropsTheOldest()
     {
         WatchSeries series;
@@ -368,8 +360,6 @@ private:
     }
 
     double m_now = 100;
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<InspectorFixture> m_inspector;
     WatchPanel* m_panel = nullptr; // of the inspector
     KnPointLight* m_lamp = nullptr; // of the scene
 };
