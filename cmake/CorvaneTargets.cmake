@@ -18,6 +18,12 @@ if(CORVANE_SANITIZE)
                         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${CORVANE_SANITIZE})
 endif()
+if(CORVANE_SANITIZE MATCHES "address")
+    add_library(corvane_end_of_threads OBJECT "${CMAKE_CURRENT_LIST_DIR}/EndOfThreads.cpp")
+    set_target_properties(corvane_end_of_threads PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    # Into programs alone: in a library it would run when the library goes.
+    link_libraries("$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:$<TARGET_OBJECTS:corvane_end_of_threads>>")
+endif()
 
 # Applies Qt's strict macros to a target.
 function(corvane_strict_qt target)
