@@ -114,6 +114,14 @@ CrvServices::SelectionHold::~SelectionHold()
     m_services.applyRequests();
 }
 
+CrvServices::StepGroup::StepGroup(CrvServices& services, const QString& text)
+    : m_services(services)
+{
+    m_services.m_undoStack->beginMacro(text);
+}
+
+CrvServices::StepGroup::~StepGroup() { m_services.m_undoStack->endMacro(); }
+
 void CrvServices::setRoots(std::vector<KnNodePtr> roots)
 {
     std::swap(m_roots, roots); // the former ones live until the views have let go of them

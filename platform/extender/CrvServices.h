@@ -57,6 +57,18 @@ public:
     /// Takes ownership, calls `execute` once and keeps the command for undo and redo, under the
     /// name of the selected field: "Edit Material.transparency". Null is ignored.
     virtual void executeCommand(CrvCommand* command);
+    /// Commands that are executed while it lives become one step of the undo stack, which bears
+    /// this text; the order is kept. One in another one belongs to the outer step.
+    class StepGroup {
+    public:
+        StepGroup(CrvServices& services, const QString& text);
+        ~StepGroup();
+        Q_DISABLE_COPY_MOVE(StepGroup)
+
+    private:
+        CrvServices& m_services; // outlives this object
+    };
+
     /// Owned by this object. A step keeps the node alive that was selected when it was made, and
     /// that of the selected field; a command that names others must keep them itself.
     QUndoStack* getUndoStack() const;
