@@ -56,8 +56,13 @@ for argument in "$@"; do
 done
 [ -z "$scene" ] || arguments+=("$scene")
 
-# With the example plug-in, which draws the scene, beside the default one.
 program=("$build_root/release/bin/corvane")
+# A script has no window, and so neither a display nor plug-ins.
+case " $* " in
+*" -"?(-)@(list|get|set|save)[\ =]*) exec "${program[@]}" "${arguments[@]}" ;;
+esac
+
+# With the example plug-in, which draws the scene, beside the default one.
 case " $* " in
 *" -plugin"* | *" --plugin"*) ;;
 *)

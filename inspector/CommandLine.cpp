@@ -2,10 +2,16 @@
 #include "CommandLine.h"
 
 #include <QCommandLineParser>
+#include <QHash>
+#include <QRegularExpression>
 
 #include <array>
 
 namespace {
+
+using Step = SceneScript::Step;
+
+constexpr int maxPictureSide = 16384; // pixels
 
 // The options with their parser; whoever needs it makes one.
 struct Parser : QCommandLineParser {
@@ -14,8 +20,10 @@ struct Parser : QCommandLineParser {
         setApplicationDescription(CommandLine::tr("Shows a scene graph and lets you edit it."));
         setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
         addPositionalArgument(QStringLiteral("scene"),
-            CommandLine::tr("Scene file to open, in JSON."), QStringLiteral("[scene.json]"));
-        addOptions({ help, version, profile, profilesFile, selection, picture, plugin });
+            CommandLine::tr("Scene file to open, in JSON; a small scene if there is none."),
+            QStringLiteral("[scene.json]"));
+        addOptions({ help, version, profile, profilesFile, plugin, selection, picture, size, list,
+            verbose, get, set, save });
         // For the application object, which reads them itself.
         for (const QLatin1String name : toolkitOptions()) {
             QCommandLineOption option(name, QString(), name);
@@ -30,6 +38,16 @@ struct Parser : QCommandLineParser {
             QLatin1String("display") };
     }
 
+    /// The first of the options that was given; empty if none was.
+    QString firstSet(std::initializer_list<QCommandLineOption> options) const
+    {
+        for (const QCommandLineOption& option : options) {
+            if (isSet(option))
+                return option.names().constFirst();
+        }
+        return QString();
+    }
+
     const QCommandLineOption help { { QStringLiteral("h"), QStringLiteral("help") },
         CommandLine::tr("Shows this help.") };
     const QCommandLineOption version { { QStringLiteral("v"), QStringLiteral("version") },
@@ -39,15 +57,29 @@ struct Parser : QCommandLineParser {
     const QCommandLineOption profilesFile { QStringLiteral("profiles"),
         CommandLine::tr("File of profiles, in place of the built-in ones."),
         QStringLiteral("file") };
-    const QCommandLineOption selection { QStringLiteral("select"),
-        CommandLine::tr("Node, or node and field, to select. A node goes by its name or its type."),
-        QStringLiteral("node[.field]") };
-    const QCommandLineOption picture { QStringLiteral("picture"),
-        CommandLine::tr("Draws the window into a PNG file, without a display, and ends."),
-        QStringLiteral("file") };
     const QCommandLineOption plugin { QStringLiteral("plugin"),
         CommandLine::tr("Plug-in to load in place of the default extensions; may be given several "
                         "times."),
+        QStringLiteral("file") };
+    const QCommandLineOption selection { QStringLiteral("select"),
+        CommandLine::tr("Node, or node and field, to select."), QStringLiteral("node[.field]") };
+    const QCommandLineOption picture { QStringLiteral("picture"),
+        CommandLine::tr("Draws the window into a file, without a display, and ends. The suffix of "
+                        "the file says the format: png, jpg, bmp..."),
+        QStringLiteral("file") };
+    const QCommandLineOption size { QStringLiteral("size"),
+        CommandLine::tr("Size of the picture in pixels."), QStringLiteral("widthxheight") };
+    const QCommandLineOption list { QStringLiteral("list"),
+        CommandLine::tr("Prints all nodes and their fields.") };
+    const QCommandLineOption verbose { QStringLiteral("verbose"),
+        CommandLine::tr("Lists what is known of each field as well.") };
+    const QCommandLineOption get { QStringLiteral("get"),
+        CommandLine::tr("Prints the value of a field."), QStringLiteral("node.field") };
+    const QCommandLineOption set { QStringLiteral("set"),
+        CommandLine::tr("Gives a field a value; needs --save."),
+        QStringLiteral("node.field=text") };
+    const QCommandLineOption save { QStringLiteral("save"),
+        CommandLine::tr("Saves the scene into a file, which may be the scene's own."),
         QStringLiteral("file") };
 };
 
@@ -57,6 +89,95 @@ CommandLine refusal(const QString& error)
     commandLine.request = CommandLine::Request::Error;
     commandLine.error = error;
     return commandLine;
+}
+
+/// The steps of a script in the order in which they were given. Empty, with `error`, if one of them
+/// is incomplete.
+QList<Step> scriptSteps(const Parser& parser, QString* error)
+{
+    QList<Step> steps;
+    QHash<QString, qsizetype> seen;
+    for (const QString& name : parser.optionNames()) {
+        const QString value = parser.values(name).value(seen[name]++);
+        if (parser.list.names().contains(name)) {
+            steps += { parser.isSet(parser.verbose) ? Step::Kind::Describe : Step::Kind::List, {},
+                {} };
+        } else if (parser.get.names().contains(name)) {
+            steps += { Step::Kind::Get, value, {} };
+        } else if (parser.set.names().contains(name)) {
+            const qsizetype equals = NodeAddress::indexOf(value, u'=');
+            if (equals < 0) {
+                *error = CommandLine::tr("'--set %1' gives no value: NODE.FIELD=TEXT expected")
+                             .arg(value);
+                return {};
+            }
+            steps += { Step::Kind::Set, value.left(equals), value.mid(equals + 1) };
+        }
+    }
+    return steps;
+}
+
+CommandLine parseScript(const Parser& parser, const QString& scene)
+{
+    const QString windowOption = parser.firstSet({ parser.profile, parser.profilesFile,
+        parser.plugin, parser.selection, parser.picture, parser.size });
+    if (!windowOption.isEmpty()) {
+        return refusal(
+            CommandLine::tr("'--%1' shows no window, so '--%2' means nothing with it.")
+                .arg(parser.firstSet({ parser.list, parser.get, parser.set, parser.save }),
+                    windowOption));
+    }
+    if (parser.isSet(parser.set) && !parser.isSet(parser.save)) {
+        return refusal(CommandLine::tr("'--set' changes no file by itself: say where to keep the "
+                                       "scene with '--save FILE'."));
+    }
+    if (parser.values(parser.save).size() > 1)
+        return refusal(CommandLine::tr("More than one '--save'."));
+    QString error;
+    CommandLine commandLine;
+    commandLine.request = CommandLine::Request::Script;
+    commandLine.script = { scene, scriptSteps(parser, &error), parser.value(parser.save) };
+    return error.isEmpty() ? commandLine : refusal(error);
+}
+
+/// An invalid size for a text that isn't one.
+QSize parseSize(const QString& text)
+{
+    static const QRegularExpression pattern(
+        QRegularExpression::anchoredPattern(QStringLiteral("([0-9]{1,5})[xX]([0-9]{1,5})")));
+    const QRegularExpressionMatch match = pattern.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    const QSize limits(maxPictureSide, maxPictureSide);
+    return size.isEmpty() || size.boundedTo(limits) != size ? QSize() : size;
+}
+
+// What QCommandLineParser has no place for.
+QString scriptHelp()
+{
+    return CommandLine::tr(
+        "Scripts:\n"
+        "  --list, --get and --set may be given several times and are taken in order,\n"
+        "  without a window. If anything is refused, nothing is printed or saved, the\n"
+        "  reason goes to the standard error stream, and the exit status is 2.\n"
+        "\n"
+        "  --list prints a line PATH<TAB>TYPE for each node, and for each of its fields\n"
+        "  PATH.FIELD<TAB>TYPE<TAB>TEXT. With --verbose, what is known of the field\n"
+        "  follows behind one more tabulator.\n"
+        "\n"
+        "  TEXT is the form in which a scene file holds values: 0.5, TRUE, \"a text\",\n"
+        "  1 0 0, [ 1, 2, 3 ]. The text \"\" gives a field its default value.\n"
+        "\n"
+        "Nodes:\n"
+        "  Lamp             A node of this name or, if there is none, of this type.\n"
+        "  Room/Lamp        One directly below another. --list prints the whole path.\n"
+        "  /Room/Lamp       The same, where Room is the root.\n"
+        "  PointLight[2]    The third one, where several nodes are meant.\n"
+        "  a\\/b             The node \"a/b\": a backslash stands before / [ = and itself,\n"
+        "                   where they are part of a name; \\n is a line end, \\t a tabulator.\n"
+        "\n"
+        "  A node without a name goes by its type. The last point parts the field from\n"
+        "  the node, so points in names need nothing. Upper and lower case matter only\n"
+        "  where they decide. Where several nodes fit, the program lists them and ends.\n");
 }
 
 } // namespace
@@ -77,10 +198,24 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     const QStringList scenes = parser.positionalArguments();
     if (scenes.size() > 1)
         return refusal(tr("More than one scene file: '%1'").arg(scenes.at(1)));
-    for (const QCommandLineOption& option :
-        { parser.profile, parser.profilesFile, parser.selection, parser.picture, parser.plugin }) {
+    for (const QCommandLineOption& option : { parser.profile, parser.profilesFile, parser.plugin,
+             parser.selection, parser.picture, parser.size, parser.get, parser.set, parser.save }) {
         if (parser.isSet(option) && parser.values(option).contains(QString()))
             return refusal(tr("Empty value for '--%1'.").arg(option.names().constFirst()));
+    }
+    if (parser.isSet(parser.verbose) && !parser.isSet(parser.list))
+        return refusal(tr("'--verbose' needs '--list'."));
+    if (!parser.firstSet({ parser.list, parser.get, parser.set, parser.save }).isEmpty())
+        return parseScript(parser, scenes.value(0));
+    if (parser.isSet(parser.size)) {
+        commandLine.pictureSize = parseSize(parser.value(parser.size));
+        if (!commandLine.pictureSize.isValid()) {
+            return refusal(tr("Bad size '%1': two numbers up to %2 expected, as in 1280x800.")
+                               .arg(parser.value(parser.size))
+                               .arg(maxPictureSide));
+        }
+        if (!parser.isSet(parser.picture))
+            return refusal(tr("'--size' needs '--picture'."));
     }
     commandLine.scene = scenes.value(0);
     commandLine.profile = parser.value(parser.profile);
@@ -88,6 +223,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     commandLine.selection = parser.value(parser.selection);
     commandLine.picture = parser.value(parser.picture);
     commandLine.plugins = parser.values(parser.plugin);
+    commandLine.platform = parser.value(QStringLiteral("platform"));
+    commandLine.display = parser.value(QStringLiteral("display"));
     for (const QLatin1String name : Parser::toolkitOptions()) {
         if (parser.isSet(name))
             commandLine.toolkitArguments << QLatin1Char('-') + name << parser.value(name);
@@ -95,4 +232,4 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     return commandLine;
 }
 
-QString CommandLine::helpText() { return Parser().helpText(); }
+QString CommandLine::helpText() { return Parser().helpText() + QLatin1Char('\n') + scriptHelp(); }

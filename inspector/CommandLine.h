@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "ScriptRun.h"
+
 #include <QCoreApplication>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -10,7 +13,7 @@
 class CommandLine {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 public:
-    enum class Request { Run, Help, Version, Error };
+    enum class Request { Run, Script, Help, Version, Error };
 
     /// `arguments` begin with the program's name.
     static CommandLine parse(const QStringList& arguments);
@@ -24,6 +27,11 @@ public:
     QString profilesFile; ///< empty: the built-in profiles
     QString selection; ///< NODE or NODE.FIELD; empty for none
     QString picture; ///< empty: a window for a person
+    QSize pictureSize; ///< invalid: that of a fresh window
     QStringList plugins; ///< empty: the default extensions beside the program
     QStringList toolkitArguments; ///< passed on to the application object
+    QString platform; ///< the toolkit's, as its own option names it; empty if it doesn't
+    QString display; ///< the same for the X display
+
+    ScriptRun script; ///< for Request::Script
 };

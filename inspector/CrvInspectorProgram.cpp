@@ -2,15 +2,19 @@
 #include "CrvInspectorProgram.h"
 
 #include "CommandLine.h"
+#include "DisplayCheck.h"
 #include "MainWindow.h"
 #include "Messages.h"
 #include "Picture.h"
 #include "Startup.h"
+#include "ToolkitMessages.h"
 
 #include <QApplication>
 #include <QSettings>
 
+#include <cstdio>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -67,27 +71,50 @@ int answer(int argc, char** argv, CommandLine::Request request)
     return 0;
 }
 
+// Without an application object, which would only take time.
+int runScript(const ScriptRun& script)
+{
+    QByteArray output;
+    QString error;
+    if (!script.run(&output, &error))
+        return fail(error);
+    const auto size = static_cast<std::size_t>(output.size());
+    if (std::fwrite(output.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+        return fail(CommandLine::tr("the standard output stream can't be written"));
+    return 0;
+}
+
 // A picture needs no display, so none is opened, unless there is one and a platform was asked for.
 void drawOffscreen()
 {
-    const bool hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY")
-        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    if (!hasDisplay || qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM");
+    if (platform.isEmpty() || !displayAnswers(platform) || !displayAnswers(QString()))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-int takePicture(MainWindow& window, const QString& fileName)
+bool hasDisplay(const CommandLine& commandLine)
+{
+    const QString platform = commandLine.platform.isEmpty()
+        ? qEnvironmentVariable("QT_QPA_PLATFORM")
+        : commandLine.platform;
+    return displayAnswers(platform, commandLine.display);
+}
+
+int takePicture(MainWindow& window, const CommandLine& commandLine)
 {
     QString error;
-    if (!Picture::take(window, fileName, &error))
+    if (!Picture::take(window, commandLine.pictureSize, commandLine.picture, &error))
         return fail(error);
-    sayToTerminal(CommandLine::tr("Wrote %1").arg(fileName));
+    sayToTerminal(CommandLine::tr("Wrote %1").arg(commandLine.picture));
     return 0;
 }
 
 int runWindow(const CommandLine& commandLine)
 {
     const bool forPerson = commandLine.picture.isEmpty();
+    QString error;
+    if (!forPerson && !Picture::hasKnownFormat(commandLine.picture, &error))
+        return fail(error);
     std::unique_ptr<QSettings> settings;
     if (forPerson)
         settings = std::make_unique<QSettings>();
@@ -97,7 +124,7 @@ int runWindow(const CommandLine& commandLine)
     if (!startup.applyCommandLine(commandLine))
         return fail(startup.errorText());
     if (!forPerson)
-        return takePicture(window, commandLine.picture);
+        return takePicture(window, commandLine);
     window.restoreLayout();
     window.show();
     return QApplication::exec();
@@ -114,12 +141,23 @@ int CrvInspectorProgram::run(int argc, char** argv)
     const CommandLine commandLine = CommandLine::parse(argumentList(argc, argv));
     if (commandLine.request == CommandLine::Request::Error)
         return fail(commandLine.error);
+    if (commandLine.request == CommandLine::Request::Script)
+        return runScript(commandLine.script);
     if (commandLine.request != CommandLine::Request::Run)
         return answer(argc, argv, commandLine.request);
 
-    if (!commandLine.picture.isEmpty())
+    const bool forPerson = commandLine.picture.isEmpty();
+    if (!forPerson)
         drawOffscreen();
+    else if (!hasDisplay(commandLine))
+        return fail(
+            CommandLine::tr("no display answers, so no window can be opened; --picture FILE "
+                            "draws it into a file, and --list, --get and --set show none"));
+    std::optional<ToolkitMessages> messages(std::in_place,
+        forPerson ? ToolkitMessages::Manner::PassOn : ToolkitMessages::Manner::Hush, usageError);
     ApplicationArguments arguments(argv[0], commandLine.toolkitArguments);
     const QApplication application(arguments.count(), arguments.values());
+    if (forPerson)
+        messages.reset();
     return runWindow(commandLine);
 }

@@ -72,8 +72,8 @@ bool Startup::select(const CommandLine& commandLine)
 {
     if (commandLine.selection.isEmpty())
         return true;
-    SceneSearch search;
-    if (!search.find(m_window.document().root().get(), commandLine.selection))
+    SceneSearch search({ m_window.document().root().get() });
+    if (!search.find(commandLine.selection))
         return fail(search.errorText());
     CrvServices* const services = CrvServices::getInstance();
     services->selectNode(search.node());

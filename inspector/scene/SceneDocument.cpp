@@ -7,7 +7,6 @@
 #include "SceneReader.h"
 #include "SceneWriter.h"
 
-#include <QFile>
 #include <QUndoStack>
 
 SceneDocument::SceneDocument(QObject* parent)
@@ -45,16 +44,7 @@ bool SceneDocument::open(const QString& fileName, QString* error)
     return true;
 }
 
-void SceneDocument::openStarter()
-{
-    QFile starter(QStringLiteral(":/corvane/starter.json"));
-    [[maybe_unused]] const bool opened = starter.open(QIODevice::ReadOnly);
-    Q_ASSERT(opened);
-    SceneReader reader;
-    KnNodePtr root = reader.readText(starter.readAll(), starter.fileName());
-    Q_ASSERT_X(root, "SceneDocument", qPrintable(reader.errorText()));
-    replace(std::move(root), QString());
-}
+void SceneDocument::openStarter() { replace(SceneReader().readStarter(), QString()); }
 
 bool SceneDocument::save(const QString& fileName, QString* error)
 {

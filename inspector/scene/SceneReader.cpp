@@ -8,6 +8,7 @@
 #include "SceneFormat.h"
 #include "SceneText.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QStringList>
@@ -19,6 +20,16 @@ KnNodePtr SceneReader::readFile(const QString& fileName) { return takeRoot(read(
 KnNodePtr SceneReader::readText(const QByteArray& json, const QString& fileName)
 {
     return takeRoot(readContent(json, fileName));
+}
+
+KnNodePtr SceneReader::readStarter()
+{
+    QFile starter(QStringLiteral(":/corvane/starter.json"));
+    [[maybe_unused]] const bool opened = starter.open(QIODevice::ReadOnly);
+    Q_ASSERT(opened);
+    KnNodePtr root = readText(starter.readAll(), starter.fileName());
+    Q_ASSERT_X(root, "SceneReader", qPrintable(errorText()));
+    return root;
 }
 
 KnNodePtr SceneReader::takeRoot(bool accepted)

@@ -16,6 +16,8 @@ public:
     KnNodePtr readFile(const QString& fileName);
     /// The same for the content of a file; `fileName` only stands in messages.
     KnNodePtr readText(const QByteArray& json, const QString& fileName);
+    /// The small scene that the program starts with.
+    KnNodePtr readStarter();
 
     /// Nodes in the graph that was read last.
     int nodeCount() const { return m_nodeCount; }

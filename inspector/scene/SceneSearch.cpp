@@ -1,55 +1,126 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "SceneSearch.h"
 
-#include "KnGroup.h"
+#include "KnFieldContainer.h"
+#include "NearNames.h"
 #include "SceneText.h"
+
+#include <algorithm>
 
 namespace {
 
-template <class Predicate>
-KnFieldContainer* findFirst(KnFieldContainer* node, const Predicate& matches)
+constexpr std::size_t maxCandidates = 10;
+
+QString suggestion(const QString& text, const QStringList& names)
 {
-    if (!node || matches(*node))
-        return node;
-    const auto* group = dynamic_cast<const KnGroup*>(node);
-    for (int i = 0; group && i < group->getNumChildren(); ++i) {
-        if (KnFieldContainer* found = findFirst(group->getChild(i), matches))
-            return found;
-    }
-    return nullptr;
+    QStringList quoted;
+    for (const QString& name : nearNames(text, names))
+        quoted += QStringLiteral("\"%1\"").arg(NodeAddress::escaped(name));
+    return quoted.isEmpty()
+        ? QString()
+        : SceneSearch::tr("; did you mean %1?").arg(quoted.join(SceneSearch::tr(" or ")));
 }
 
-KnFieldContainer* findNode(KnFieldContainer* root, const QString& text)
+/// Why a step of an address leads nowhere.
+QString missingStep(const NodeAddress& address, const NodePlaces::Result& result)
 {
-    const KbName name(toKbString(text));
-    if (name.isEmpty())
-        return nullptr;
-    if (KnFieldContainer* found
-        = findFirst(root, [&](const KnFieldContainer& n) { return n.getName() == name; }))
-        return found;
-    return findFirst(
-        root, [&](const KnFieldContainer& n) { return n.getObjectType().getName() == name; });
+    const NodeAddress::Step& step = address.steps[result.failedStep];
+    if (result.labelled > 0) {
+        return SceneSearch::tr("no node \"%1\": the last one is \"%2\"")
+            .arg(NodeAddress::stepText(step),
+                NodeAddress::stepText({ step.label, static_cast<int>(result.labelled) - 1 }));
+    }
+    QStringList labels;
+    for (const KnFieldContainer* const node : result.considered)
+        labels << nodeLabel(*node) << typeName(node->getObjectType());
+    const QString name = NodeAddress::escaped(step.label);
+    const QString place = result.failedStep == 0
+        ? address.fromRoot ? SceneSearch::tr("no root \"%1\"").arg(name)
+                           : SceneSearch::tr("no node \"%1\" in the scene").arg(name)
+        : SceneSearch::tr("no node \"%1\" in \"%2\"")
+              .arg(name, NodeAddress::stepText(address.steps[result.failedStep - 1]));
+    return place + suggestion(step.label, labels);
 }
 
 } // namespace
 
-bool SceneSearch::find(KnFieldContainer* root, const QString& text)
+SceneSearch::SceneSearch(const NodePlaces::Nodes& roots)
+    : m_places(roots)
 {
-    m_field = nullptr;
-    m_node = findNode(root, text);
-    if (m_node)
-        return true;
-    // A node's name may contain dots, a field's never does.
-    const qsizetype point = text.lastIndexOf(QLatin1Char('.'));
+}
+
+bool SceneSearch::find(const QString& text)
+{
+    const Outcome outcome = findNode(text);
+    const qsizetype point = NodeAddress::lastIndexOf(text, u'.');
+    if (outcome != Outcome::Missing || point < 0)
+        return outcome == Outcome::Found;
+    return findField(text, point);
+}
+
+bool SceneSearch::findField(const QString& text)
+{
+    const qsizetype point = NodeAddress::lastIndexOf(text, u'.');
     if (point >= 0)
-        m_node = findNode(root, text.left(point));
-    if (!m_node) {
-        m_error = tr("no node \"%1\" in the scene").arg(point < 0 ? text : text.left(point));
-        return false;
+        return findField(text, point);
+    m_error = tr("\"%1\" names no field: NODE.FIELD expected").arg(text);
+    return false;
+}
+
+bool SceneSearch::findField(const QString& text, qsizetype point)
+{
+    return findNode(QStringView(text).left(point)) == Outcome::Found
+        && chooseField(text.left(point), text.mid(point + 1));
+}
+
+SceneSearch::Outcome SceneSearch::findNode(QStringView text)
+{
+    m_node = nullptr;
+    m_field = nullptr;
+    const std::optional<NodeAddress> address = NodeAddress::parse(text, &m_error);
+    if (!address)
+        return Outcome::Missing;
+    const NodePlaces::Result result = m_places.find(*address);
+    if (result.nodes.size() > 1) {
+        m_error = ambiguity(text, result.nodes);
+        return Outcome::Ambiguous;
     }
-    const QString name = text.mid(point + 1);
+    if (result.nodes.empty()) {
+        m_error = missingStep(*address, result);
+        return Outcome::Missing;
+    }
+    m_node = result.nodes.front();
+    return Outcome::Found;
+}
+
+bool SceneSearch::chooseField(const QString& nodeText, const QString& name)
+{
     m_field = m_node->getField(KbName(toKbString(name)));
-    if (!m_field)
-        m_error = tr("node \"%1\" has no field \"%2\"").arg(text.left(point), name);
+    if (m_field)
+        return true;
+    const KnFieldData* const data = m_node->getContainerFieldData();
+    QStringList names;
+    std::vector<int> fits;
+    for (int i = 0; i < data->getNum(); ++i) {
+        names += toQString(data->getName(i));
+        if (names.constLast().compare(name, Qt::CaseInsensitive) == 0)
+            fits.push_back(i);
+    }
+    if (fits.size() == 1)
+        m_field = data->getField(m_node, fits.front());
+    else
+        m_error
+            = tr("node \"%1\" has no field \"%2\"").arg(nodeText, name) + suggestion(name, names);
     return m_field != nullptr;
+}
+
+QString SceneSearch::ambiguity(QStringView text, const NodePlaces::Nodes& nodes) const
+{
+    QString error = tr("\"%1\" may be any of %2 nodes:").arg(text).arg(nodes.size());
+    const std::size_t shown = std::min(nodes.size(), maxCandidates);
+    for (std::size_t i = 0; i < shown; ++i)
+        error += QStringLiteral("\n  ") + m_places.path(nodes[i]);
+    if (shown < nodes.size())
+        error += QStringLiteral("\n  ") + tr("and %1 more").arg(nodes.size() - shown);
+    return error;
 }

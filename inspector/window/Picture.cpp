@@ -4,6 +4,9 @@
 #include "KnSensorQueue.h"
 
 #include <QApplication>
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QLayout>
 #include <QMainWindow>
 #include <QPixmap>
 #include <QSaveFile>
@@ -28,12 +31,34 @@ QImage settledImage(QMainWindow& window)
     return image;
 }
 
+QByteArray formatOf(const QString& fileName)
+{
+    const QByteArray suffix = QFileInfo(fileName).suffix().toLower().toUtf8();
+    return suffix.isEmpty() ? QByteArrayLiteral("png") : suffix;
+}
+
 } // namespace
 
-bool Picture::take(QMainWindow& window, const QString& fileName, QString* error)
+bool Picture::hasKnownFormat(const QString& fileName, QString* error)
+{
+    const QList<QByteArray> formats = QImageWriter::supportedImageFormats();
+    if (formats.contains(formatOf(fileName)))
+        return true;
+    *error
+        = tr("%1: pictures are written as %2").arg(fileName, QString::fromUtf8(formats.join(", ")));
+    return false;
+}
+
+bool Picture::take(QMainWindow& window, const QSize& size, const QString& fileName, QString* error)
 {
     window.setAnimated(false);
     QApplication::setCursorFlashTime(0);
+    if (size.isValid()) {
+        // Whoever asks for a small picture gets one, even if the docks want more room.
+        window.layout()->setSizeConstraint(QLayout::SetNoConstraint);
+        window.setMinimumSize(1, 1);
+        window.resize(size);
+    }
     window.show();
     const QImage image = settledImage(window);
 
@@ -42,7 +67,8 @@ bool Picture::take(QMainWindow& window, const QString& fileName, QString* error)
         *error = QStringLiteral("%1: %2").arg(fileName, file.errorString());
         return false;
     }
-    if (!image.save(&file, "PNG") || !file.commit()) {
+    QImageWriter writer(&file, formatOf(fileName));
+    if (!writer.write(image) || !file.commit()) {
         *error = tr("%1: the picture could not be written").arg(fileName);
         return false;
     }

@@ -35,7 +35,8 @@ BEGIN {
     upper = 5 * pitch + 10
     target("program", 20, 20, 210, upper, "corvane_inspector")
     room("inspector", "program", 105, 0, "inspector/")
-    room("inspector/window", "program", 105, 1, "window/")
+    room("inspector/script", "program", 55, 1, "script/")
+    room("inspector/window", "program", 155, 1, "window/")
     room("inspector/scene", "program", 55, 2, "scene/")
     room("inspector/watch", "program", 155, 2, "watch/")
     room("inspector/process", "program", 105, 3, "process/")

@@ -121,8 +121,8 @@ public:
 private:
     static KnField* find(const KnNodePtr& root, const QString& place)
     {
-        SceneSearch search;
-        search.find(root.get(), place);
+        SceneSearch search({ root.get() });
+        search.find(place);
         return search.field();
     }
     static QString textOf(const KnField* field)
