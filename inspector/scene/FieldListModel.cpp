@@ -118,7 +118,9 @@ QVariant FieldListModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return text(row, index.column());
     case Qt::ToolTipRole:
-        return toolTipText(text(row, index.column()));
+        return toolTip(row);
+    case Qt::StatusTipRole:
+        return meaning(row);
     case Qt::FontRole:
         valueText(row);
         if (row.ignored) {
@@ -156,6 +158,19 @@ QString FieldListModel::text(Row& row, int column) const
         valueText(row);
         return row.ignored ? tr("yes") : QString();
     }
+}
+
+QString FieldListModel::meaning(const Row& row) const
+{
+    return fieldMeaning(m_node->getContainerFieldData()->getInfo(row.number));
+}
+
+QString FieldListModel::toolTip(Row& row) const
+{
+    QStringList lines { tr("%1 (%2)").arg(row.name, typeName(row.field->getObjectType())),
+        meaning(row), valueText(row) };
+    lines.removeAll(QString());
+    return toolTipText(lines.join(u'\n'));
 }
 
 double FieldListModel::light(const Row& row) const

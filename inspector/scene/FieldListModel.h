@@ -51,6 +51,8 @@ private:
 
     const QString& valueText(Row& row) const;
     QString text(Row& row, int column) const;
+    QString meaning(const Row& row) const;
+    QString toolTip(Row& row) const;
     double light(const Row& row) const;
     void fieldChanged(Row& row);
     bool readAgain(Row& row);

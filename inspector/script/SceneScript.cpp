@@ -56,7 +56,7 @@ bool SceneScript::set(const QString& address, const QString& text)
     return false;
 }
 
-void SceneScript::list([[maybe_unused]] bool describe)
+void SceneScript::list(bool describe)
 {
     for (KnFieldContainer* const node : m_search.places().nodes()) {
         const QByteArray path = m_search.places().path(node).toUtf8();
@@ -67,6 +67,8 @@ void SceneScript::list([[maybe_unused]] bool describe)
             m_output += path + '.' + toQString(data->getName(i)).toUtf8() + '\t'
                 + typeName(field->getObjectType()).toUtf8() + '\t';
             appendText(m_output, *field);
+            if (describe)
+                m_output += '\t' + fieldMeaning(data->getInfo(i)).toUtf8();
             m_output += '\n';
         }
     }

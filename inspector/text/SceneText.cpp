@@ -6,9 +6,11 @@
 #include "KnSFImage.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -52,6 +54,20 @@ QString arraySummary(const KnMField& field, int maxLength)
     return QStringLiteral("%1:  %2").arg(count, line);
 }
 
+/// The bounds of a field's numbers; empty if there are none.
+QString rangeText(const KnFieldInfo& info)
+{
+    const QString minimum = QString::number(info.minimum);
+    const QString maximum = QString::number(info.maximum);
+    if (std::isfinite(info.minimum) && std::isfinite(info.maximum))
+        return QCoreApplication::translate("SceneText", "%1 to %2").arg(minimum, maximum);
+    if (std::isfinite(info.minimum))
+        return QCoreApplication::translate("SceneText", "at least %1").arg(minimum);
+    if (std::isfinite(info.maximum))
+        return QCoreApplication::translate("SceneText", "at most %1").arg(maximum);
+    return QString();
+}
+
 QString imageSummary(const KnSFImage& image)
 {
     KbVec2s size;
@@ -89,6 +105,16 @@ QString fieldName(const KnField& field)
     const KnFieldData* data = node->getContainerFieldData();
     const int index = data->getIndex(node, &field);
     return index < 0 ? QString() : toQString(data->getName(index).getString());
+}
+
+QString fieldMeaning(const KnFieldInfo& info)
+{
+    QStringList numbers { QString::fromUtf8(info.unit), rangeText(info) };
+    numbers.removeAll(QString());
+    const QString sentence = QString::fromUtf8(info.sentence);
+    return numbers.isEmpty()
+        ? sentence
+        : QStringLiteral("%1 (%2)").arg(sentence, numbers.join(QStringLiteral(", "))).trimmed();
 }
 
 QString fieldSummary(const KnField& field, int maxLength)

@@ -8,6 +8,7 @@
 class KnField;
 class KnFieldContainer;
 class KnType;
+struct KnFieldInfo;
 
 /// How the window words kernel objects. What these functions cost doesn't grow with an array.
 
@@ -19,6 +20,9 @@ QString toolTipText(const QString& text);
 QString nodeLabel(const KnFieldContainer& node);
 /// The field's name in its node; empty for a field that stands alone.
 QString fieldName(const KnField& field);
+
+/// The sentence about a field, with its unit and range; empty if its class says nothing.
+QString fieldMeaning(const KnFieldInfo& info);
 
 /// One line of at most about `maxLength` characters that says what the field holds: the first
 /// values of an array and its length, the size of an image, the text of anything else.

@@ -34,6 +34,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     m_list->setAlternatingRowColors(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_list->setMouseTracking(true); // for the status tips
     QHeaderView& header = *m_list->header();
     const int character = fontMetrics().averageCharWidth();
     header.setStretchLastSection(false);

@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStatusBar>
 #include <QToolBar>
 
 class TestMainWindow : public QObject {
@@ -45,6 +46,18 @@ private Q_SLOTS:
         QVERIFY(!tree->currentIndex().isValid() && services->getSelectedField());
         filter->clear();
         QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
+    }
+
+    void statusBarExplainsTheFieldUnderTheMouse()
+    {
+        InspectorFixture inspector(*m_folder);
+        inspector.clickField(u"Desk lamp"_s, u"intensity"_s);
+        const auto* const list = inspector.view(u"fieldList"_s);
+        const QStatusBar* const bar = inspector.window.statusBar();
+        QTest::mouseMove(list->viewport(), list->visualRect(list->indexAt({ 2, 2 })).center());
+        QTRY_COMPARE(bar->currentMessage(), u"Whether the light shines."_s);
+        QTest::mouseMove(list->viewport(), list->visualRect(list->currentIndex()).center());
+        QTRY_COMPARE(bar->currentMessage(), u"How bright the light is. (0 to 1)"_s);
     }
 
     void editIsUndoneAndSaved()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FieldListModel.h"
+#include "KnDatabase.h"
 #include "KnGroup.h"
 #include "KnMFields.h"
 #include "KnMaterial.h"
@@ -10,6 +11,7 @@
 #include "SceneModel.h"
 #include "SceneReader.h"
 #include "SceneText.h"
+#include "TextRows.h"
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
@@ -109,6 +111,16 @@ private:
     int m_count = 0;
     std::vector<KnNodePtr> m_groups;
 };
+
+/// A node whose class says nothing of its fields.
+class KnTerseNode : public KnNode {
+    KN_NODE(KnTerseNode)
+    KnSFBool on;
+};
+
+KN_NODE_SOURCE(KnTerseNode, KnNode)
+
+KnTerseNode::KnTerseNode() { KN_FIELD(on); }
 
 /// Says when it dies.
 class MortalGroup : public KnGroup {
@@ -302,8 +314,36 @@ private Q_SLOTS:
         KnSensorQueue::getInstance().process();
         QCOMPARE(changes.size(), 1);
         // A tag in a value is text.
-        QCOMPARE(model.index(0, FieldListModel::ValueColumn).data(Qt::ToolTipRole).toString(),
-            u"&quot;&lt;b&gt;&quot;"_s);
+        const QString tip
+            = model.index(0, FieldListModel::ValueColumn).data(Qt::ToolTipRole).toString();
+        QVERIFY(tip.startsWith(u"description (SFString)\nWhat the viewpoint is called"_s)
+            && tip.endsWith(u"\n\"<b>\""_s) && !Qt::mightBeRichText(tip));
+    }
+
+    void fieldsAreExplained_data()
+    {
+        addTextRows({ { "PointLight.intensity", "How bright the light is. (0 to 1)" },
+            { "PointLight.location", "Where the light stands." },
+            { "DrawStyle.pointSize", "The diameter of points. (pixels, at least 0)" },
+            { "TerseNode.on", "" } });
+    }
+    void fieldsAreExplained()
+    {
+        const auto [place, meaning] = textRow<2>();
+        KnDatabase::init();
+        KnTerseNode::getClassTypeId();
+        const QStringList names = place.split(u'.');
+        const KnNodePtr node(static_cast<KnFieldContainer*>(
+            KnType::fromName(KbName(toKbString(names[0]))).createInstance()));
+        FieldListModel model;
+        model.setNode(node.get());
+        const QModelIndex index = model.index(
+            model.rowOf(node->getField(KbName(toKbString(names[1])))), FieldListModel::TypeColumn);
+        QCOMPARE(index.data(Qt::StatusTipRole).toString(), meaning);
+        QStringList tip = index.data(Qt::ToolTipRole).toString().split(u'\n');
+        QCOMPARE(tip.takeFirst(), u"%1 (%2)"_s.arg(names[1], index.data().toString()));
+        QCOMPARE(tip.takeLast(), index.siblingAtColumn(FieldListModel::ValueColumn).data());
+        QCOMPARE(tip, meaning.isEmpty() ? QStringList() : QStringList(meaning));
     }
 
     // Also where no view has asked for a text before.

@@ -5,7 +5,10 @@
 #include "KnMField.h"
 #include "KnNodePtr.h"
 
+#include <QRegularExpression>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -63,6 +66,20 @@ private Q_SLOTS:
             QCOMPARE(textOf(*field), textOf(*same));
         }
         QVERIFY(!first->getField("nonsense") && !data->getField(first.get(), data->getNum()));
+    }
+
+    void fieldsAreExplained_data() { addNameRows(nodeTypeNames); }
+    void fieldsAreExplained()
+    {
+        static const QRegularExpression sentence(u"^[A-Z][^.]*[^.\\s]\\.$"_s);
+        const KnNodePtr node(
+            static_cast<KnNode*>(typeOf(QTest::currentDataTag()).createInstance()));
+        const KnFieldData* data = node->getContainerFieldData();
+        for (int i = 0; i < data->getNum(); ++i) {
+            const KnFieldInfo& info = data->getInfo(i);
+            QVERIFY2(QString::fromUtf8(info.sentence).contains(sentence), info.sentence);
+            QVERIFY2(info.minimum < info.maximum, info.sentence);
+        }
     }
 
     void children()

@@ -5,7 +5,9 @@ KN_NODE_SOURCE(KnClipPlane, KnNode)
 
 KnClipPlane::KnClipPlane()
 {
-    KN_FIELD(on);
-    KN_FIELD(plane);
+    KN_FIELD(on, { "Whether the plane cuts." });
+    KN_FIELD(plane,
+        { "The normal of the plane and its distance from the origin; what lies behind it isn't "
+          "drawn." });
     on.setValue(true);
 }

@@ -3,4 +3,4 @@
 
 KN_NODE_SOURCE(KnCoordinates, KnNode)
 
-KnCoordinates::KnCoordinates() { KN_FIELD(point); }
+KnCoordinates::KnCoordinates() { KN_FIELD(point, { "The points of the shapes that follow." }); }

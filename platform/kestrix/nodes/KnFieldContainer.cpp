@@ -35,10 +35,11 @@ std::string KnFieldContainer::describeField(const KnField& field) const
     return text + ", field " + data->getName(index).getString().toUtf8();
 }
 
-void KnFieldContainer::addField(KnFieldData& data, const char* name, KnField& field)
+void KnFieldContainer::addField(
+    KnFieldData& data, const char* name, KnField& field, const KnFieldInfo& info)
 {
     adopt(field);
     const std::ptrdiff_t offset = KnFieldData::offsetOf(this, &field);
     if (data.findOffset(offset) < 0)
-        data.m_entries.push_back({ name, offset });
+        data.m_entries.push_back({ name, offset, info });
 }

@@ -30,7 +30,8 @@ protected:
 
     /// Makes `field`, a member of this node, one of its fields. `data` is the class's own table;
     /// the first instance of a class fills it, later ones only adopt the field.
-    void addField(KnFieldData& data, const char* name, KnField& field);
+    void addField(
+        KnFieldData& data, const char* name, KnField& field, const KnFieldInfo& info = {});
 
 private:
     KbName m_name;

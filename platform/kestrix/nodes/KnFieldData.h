@@ -2,6 +2,7 @@
 #pragma once
 
 #include "KbName.h"
+#include "KnFieldInfo.h"
 
 #include <cstddef>
 #include <vector>
@@ -18,6 +19,11 @@ public:
     {
         return m_entries[static_cast<std::size_t>(index)].name;
     }
+    /// What the class says of the field, for people; empty texts if it says nothing.
+    const KnFieldInfo& getInfo(int index) const
+    {
+        return m_entries[static_cast<std::size_t>(index)].info;
+    }
     /// -1 for a field that isn't one of the container's.
     int getIndex(const KnFieldContainer* container, const KnField* field) const;
     /// -1 for a name that the class doesn't have.
@@ -32,6 +38,7 @@ private:
     struct Entry {
         KbName name;
         std::ptrdiff_t offset; // of the field from its container, in bytes
+        KnFieldInfo info;
     };
 
     static std::ptrdiff_t offsetOf(const KnFieldContainer* container, const KnField* field);

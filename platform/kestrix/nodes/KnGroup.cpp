@@ -18,7 +18,7 @@ KnGroup::KnGroup()
 
 KnGroup::KnGroup(KnFieldData& data)
 {
-    addField(data, "visible", visible);
+    addField(data, "visible", visible, { "Whether the children are drawn." });
     visible.setValue(true);
 }
 

@@ -3,4 +3,7 @@
 
 KN_NODE_SOURCE(KnHomogeneousCoordinates, KnNode)
 
-KnHomogeneousCoordinates::KnHomogeneousCoordinates() { KN_FIELD(point); }
+KnHomogeneousCoordinates::KnHomogeneousCoordinates()
+{
+    KN_FIELD(point, { "The points of curved shapes, each with its weight." });
+}

@@ -3,4 +3,7 @@
 
 KN_NODE_SOURCE(KnMatrixTransform, KnNode)
 
-KnMatrixTransform::KnMatrixTransform() { KN_FIELD(matrix); }
+KnMatrixTransform::KnMatrixTransform()
+{
+    KN_FIELD(matrix, { "The matrix by which what follows in the group is transformed." });
+}

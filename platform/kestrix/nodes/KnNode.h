@@ -27,8 +27,9 @@ public:
         return data;                                                                               \
     }
 
-/// In the constructor of a node class: makes a member a field and names it after the member.
-#define KN_FIELD(member) addField(fieldData(), #member, member)
+/// In the constructor of a node class: makes a member a field and names it after the member. A
+/// KnFieldInfo may follow: KN_FIELD(size, { "The diameter of the dot.", "pixels", 0 })
+#define KN_FIELD(member, ...) addField(fieldData(), #member, member __VA_OPT__(, ) __VA_ARGS__)
 
 /// Base of the nodes that a scene is made of.
 class KnNode : public KnFieldContainer {

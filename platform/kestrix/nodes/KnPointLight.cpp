@@ -6,8 +6,10 @@ KN_NODE_SOURCE(KnPointLight, KnLight)
 KnPointLight::KnPointLight()
     : KnLight(fieldData())
 {
-    KN_FIELD(location);
-    KN_FIELD(attenuation);
+    KN_FIELD(location, { "Where the light stands." });
+    KN_FIELD(attenuation,
+        { "How the light fades with the distance: the quadratic, linear and constant factors.", "",
+            0 });
     location.setValue(0.0F, 0.0F, 1.0F);
     attenuation.setValue(0.0F, 0.0F, 1.0F);
 }

@@ -3,4 +3,8 @@
 
 KN_NODE_SOURCE(KnTextureCoordinates, KnNode)
 
-KnTextureCoordinates::KnTextureCoordinates() { KN_FIELD(point); }
+KnTextureCoordinates::KnTextureCoordinates()
+{
+    KN_FIELD(point,
+        { "Where in the picture each point of a shape lies: 0 is one edge, and 1 the other." });
+}
