@@ -33,7 +33,14 @@ bool xAnswers([[maybe_unused]] const QString& name)
 
 bool waylandAnswers()
 {
-    if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+    // A connection that was handed down serves only once, so that trying would use it up.
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_SOCKET"))
+        return true;
+    const QString socket = qEnvironmentVariable("WAYLAND_DISPLAY");
+    // About a folder that isn't known, the library would print a complaint.
+    if (!socket.startsWith(u'/') && qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        return false;
+    if (socket.isEmpty() && qgetenv("XDG_SESSION_TYPE") != "wayland")
         return false;
     using Connect = void* (*)(const char* name);
     using Disconnect = void (*)(void* display);

@@ -38,23 +38,26 @@ QStringList nearNames(const QString& text, const QStringList& names)
     constexpr qsizetype minPart = 3; // letters; fewer stand in nearly every name
     // A third of the letters may be wrong.
     const int maxDistance = std::max(1, static_cast<int>(text.size()) / 3);
-    std::vector<std::pair<int, QString>> near;
+    std::vector<std::pair<int, QString>> nearest; // never more than will be returned
     for (const QString& name : names) {
         const bool isLike = std::abs(name.size() - text.size()) <= maxDistance;
-        const int distance = isLike ? editDistance(text, name) : maxDistance + 1;
-        // Behind those that are like it as a whole.
+        // A part of a name stands behind whatever is like the text as a whole.
         const bool isPart = text.size() >= minPart && name.contains(text, Qt::CaseInsensitive);
-        if (distance > maxDistance && !isPart)
+        const int farthest = isPart ? maxDistance + 1 : maxDistance;
+        const int distance
+            = isLike ? std::min(editDistance(text, name), maxDistance + 1) : maxDistance + 1;
+        const std::pair candidate(distance, name);
+        if (distance > farthest
+            || std::find(nearest.begin(), nearest.end(), candidate) != nearest.end())
             continue;
-        const std::pair candidate(std::min(distance, maxDistance + 1), name);
-        if (std::find(near.begin(), near.end(), candidate) == near.end())
-            near.push_back(candidate);
+        const auto place = std::upper_bound(nearest.begin(), nearest.end(), distance,
+            [](int each, const auto& other) { return each < other.first; });
+        nearest.insert(place, candidate);
+        if (nearest.size() > maxNames)
+            nearest.pop_back();
     }
-    std::stable_sort(near.begin(), near.end(),
-        [](const auto& one, const auto& other) { return one.first < other.first; });
-    near.resize(std::min(near.size(), maxNames));
-    QStringList nearest;
-    for (const auto& [distance, name] : near)
-        nearest += name;
-    return nearest;
+    QStringList result;
+    for (const auto& [distance, name] : nearest)
+        result += name;
+    return result;
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvServices.h"
+#include "DisplayCheck.h"
 #include "FileMenu.h"
 #include "InspectorFixture.h"
 #include "KnMFields.h"
@@ -23,6 +24,14 @@ private Q_SLOTS:
         m_settingsFile = m_folder->filePath(u"settings.ini"_s);
     }
     void cleanup() { QVERIFY(QApplication::topLevelWidgets().isEmpty()); }
+
+    void displayIsFoundWhereThereIsOne()
+    {
+        QVERIFY(displayAnswers(u"offscreen"_s));
+        QVERIFY(!displayAnswers(u"xcb"_s, u":4711"_s));
+        if (QGuiApplication::platformName() == u"xcb"_s)
+            QVERIFY(displayAnswers(QString()) && displayAnswers(u"wayland;xcb"_s));
+    }
 
     void selectionGoesBothWays()
     {
