@@ -6,6 +6,8 @@
 #include "DefaultPlugin.h"
 #include "EventFiber.h"
 #include "Messages.h"
+#include "NodeChoice.h"
+#include "ProfileMemory.h"
 #include "SceneRoots.h"
 #include "WindowFamily.h"
 
@@ -44,10 +46,12 @@ bool endDialog(QWidget* widget)
 InspectorSession::InspectorSession()
     : m_settings(QStringLiteral("Orbel"), QStringLiteral("Corvane"))
     , m_window(&m_settings, MainWindow::Role::Guest)
-    , m_profile(CrvPluginsManager::getInstance()->getActiveProfile())
+    , m_profile(ProfileMemory::lastProfile(m_settings))
 {
     connect(&m_window, &MainWindow::closed, this, &InspectorSession::putAway);
     CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
+    if (!m_profile)
+        m_profile = manager->getActiveProfile();
     manager->setActiveProfile(nullptr);
     // Without its editors it still shows a scene.
     QString error;
@@ -120,6 +124,7 @@ void InspectorSession::open(const std::vector<KnNodePtr>& roots)
         CrvPluginsManager::getInstance()->setActiveProfile(m_profile);
         if (!m_window.returnPlaces())
             m_window.restoreLayout();
+        NodeChoice::chooseFirst();
     }
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();

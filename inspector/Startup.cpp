@@ -8,6 +8,7 @@
 #include "DefaultPlugin.h"
 #include "MainWindow.h"
 #include "Messages.h"
+#include "NodeChoice.h"
 #include "SceneSearch.h"
 #include "SceneText.h"
 
@@ -32,8 +33,10 @@ bool Startup::chooseProfile(const CommandLine& commandLine)
     if (!commandLine.profilesFile.isEmpty()
         && !manager->loadProfiles(commandLine.profilesFile, &m_error))
         return false;
-    if (commandLine.profile.isEmpty())
+    if (commandLine.profile.isEmpty()) {
+        m_window.chooseLastProfile();
         return true;
+    }
     QStringList names;
     for (CrvProfile* profile : manager->getProfilesList()) {
         names += toQString(profile->getName());
@@ -70,8 +73,10 @@ bool Startup::openScene(const CommandLine& commandLine)
 
 bool Startup::select(const CommandLine& commandLine)
 {
-    if (commandLine.selection.isEmpty())
+    if (commandLine.selection.isEmpty()) {
+        NodeChoice::chooseFirst();
         return true;
+    }
     SceneSearch search({ m_window.document().root().get() });
     if (!search.find(commandLine.selection))
         return fail(search.errorText());

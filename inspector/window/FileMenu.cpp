@@ -3,6 +3,7 @@
 
 #include "FileDialogs.h"
 #include "Messages.h"
+#include "NodeChoice.h"
 #include "RecentFilesMenu.h"
 #include "SceneDocument.h"
 
@@ -32,8 +33,10 @@ void FileMenu::openFile(const QString& fileName)
     if (!mayDropScene())
         return;
     QString error;
-    if (m_document->open(fileName, &error))
+    if (m_document->open(fileName, &error)) {
+        NodeChoice::chooseFirst();
         return;
+    }
     complain(error);
     if (!QFileInfo::exists(fileName))
         m_recentFiles->removeFile(fileName);

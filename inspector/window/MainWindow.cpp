@@ -1,28 +1,34 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "MainWindow.h"
 
+#include "CrvPluginsManager.h"
 #include "CrvServices.h"
+#include "EditMenu.h"
+#include "EditorHeading.h"
 #include "FieldPanel.h"
 #include "FileDialogs.h"
 #include "FileMenu.h"
+#include "FirstSizes.h"
 #include "GuestFileMenu.h"
 #include "KnField.h"
+#include "PaneColumns.h"
 #include "PauseAction.h"
+#include "ProfileBoxes.h"
+#include "ProfileMemory.h"
 #include "ProfileMenu.h"
 #include "ScenePanel.h"
 #include "UndoKeys.h"
 #include "ViewMenu.h"
 #include "WatchPanel.h"
 #include "WindowLayout.h"
+#include "WindowTitle.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QFileInfo>
-#include <QGuiApplication>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QToolBar>
-#include <QUndoStack>
+#include <QTreeView>
 #include <QUndoView>
 
 #include <utility>
@@ -32,12 +38,9 @@ namespace {
 // Changes with the set of the window's own docks.
 constexpr int layoutVersion = 2;
 
-// In pixels: the sizes in a fresh layout.
-constexpr int sceneWidth = 320;
-constexpr int historyHeight = 160;
-constexpr int editorWidth = 400;
-constexpr int bottomHeight = 250;
-constexpr QSize windowSize(1280, 800);
+// What a list shows first of all.
+constexpr int sceneNameCharacters = 24; // with the indentation
+constexpr int valueCharacters = 20;
 
 // The one file of a drag; empty for anything else.
 QString draggedFile(const QMimeData* data)
@@ -49,6 +52,9 @@ QString draggedFile(const QMimeData* data)
 
 MainWindow::MainWindow(QSettings* settings, Role role, QWidget* parent)
     : QMainWindow(parent)
+    , m_settings(settings)
+    , m_sizes(new FirstSizes(this))
+    , m_profileBoxes(new ProfileBoxes(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     if (role == Role::Program)
@@ -68,10 +74,7 @@ MainWindow::MainWindow(QSettings* settings, Role role, QWidget* parent)
     buildViewMenu();
     new UndoKeys(this);
 
-    resize(windowSize);
-    resizeDocks({ m_sceneDock }, { sceneWidth }, Qt::Horizontal);
-    resizeDocks({ m_sceneDock, m_historyDock },
-        { windowSize.height() - historyHeight, historyHeight }, Qt::Vertical);
+    m_sizes->apply(m_sceneDock, m_historyDock);
     m_scenePanel->setFocus();
 }
 
@@ -88,6 +91,16 @@ void MainWindow::buildPanels()
     auto* const fields = new FieldPanel(this);
     setCentralWidget(fields);
     buildWatch(fields);
+    shareColumns(QStringLiteral("sceneTree"), sceneNameCharacters, { SceneModel::TypeColumn });
+    shareColumns(QStringLiteral("fieldList"), valueCharacters,
+        { FieldListModel::TypeColumn, FieldListModel::IgnoredColumn, FieldListModel::NameColumn });
+}
+
+void MainWindow::shareColumns(const QString& view, int characters, const std::vector<int>& others)
+{
+    auto* const columns = new PaneColumns(findChild<QTreeView*>(view), characters, others);
+    if (m_layout)
+        m_layout->addColumns(columns);
 }
 
 // Closed until somebody wants to watch something.
@@ -103,9 +116,7 @@ void MainWindow::buildWatch(FieldPanel* fields)
             m_watchDock->raise();
             panel->watch(field, component);
         });
-    connect(
-        m_watchDock, &QDockWidget::visibilityChanged, this, [this] { giveFirstSize(m_watchDock); },
-        Qt::SingleShotConnection);
+    m_sizes->follow(m_watchDock);
 }
 
 QDockWidget* MainWindow::addPanelDock(QWidget* panel, const QString& name, const QString& title)
@@ -121,7 +132,7 @@ void MainWindow::buildFileMenu(QSettings* settings)
 {
     if (!m_document) {
         menuBar()->addMenu(new GuestFileMenu(this));
-        showProgramName();
+        setWindowTitle(WindowTitle::ofGuest());
         return;
     }
     m_fileMenu = new FileMenu(m_document.get(), settings, this);
@@ -133,22 +144,10 @@ void MainWindow::buildFileMenu(QSettings* settings)
 
 void MainWindow::buildEditMenu()
 {
-    QMenu* const menu = menuBar()->addMenu(tr("&Edit"));
-    menu->setObjectName(QStringLiteral("editMenu"));
-    QUndoStack* const stack = CrvServices::getInstance()->getUndoStack();
-    QAction* const undo = stack->createUndoAction(this, tr("&Undo"));
-    undo->setObjectName(QStringLiteral("undoAction"));
-    undo->setShortcuts(QKeySequence::Undo);
-    menu->addAction(undo);
-    QAction* const redo = stack->createRedoAction(this, tr("&Redo"));
-    redo->setObjectName(QStringLiteral("redoAction"));
-    // Both keys that people use, whichever of them is the platform's.
-    redo->setShortcuts(
-        { QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y) });
-    menu->addAction(redo);
-    menu->addSeparator();
+    auto* const menu = new EditMenu(this);
     menu->addAction(tr("&Find Node"), QKeySequence::Find, this, &MainWindow::findNode);
     menu->addAction(findChild<FieldPanel*>()->pauseAction());
+    menuBar()->addMenu(menu);
 }
 
 void MainWindow::findNode()
@@ -169,37 +168,30 @@ void MainWindow::buildViewMenu()
     menuBar()->addMenu(m_viewMenu);
 }
 
-void MainWindow::showFileName()
-{
-    const QString name = m_document->fileName().isEmpty()
-        ? tr("Untitled")
-        : QFileInfo(m_document->fileName()).fileName();
-    // A file name may hold the two signs that stand for "modified".
-    QString shown = name;
-    shown.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-    setWindowTitle(QStringLiteral("%1[*] %2 Corvane").arg(shown, QChar(0x2013)));
-}
+void MainWindow::showFileName() { setWindowTitle(WindowTitle::ofFile(m_document->fileName())); }
 
-// The platform appends the program's name to every title that doesn't end with it.
-void MainWindow::showProgramName()
+void MainWindow::chooseLastProfile()
 {
-    const QString own = QStringLiteral("Corvane");
-    const QString program = QGuiApplication::applicationDisplayName();
-    QString title = own;
-    if (!program.isEmpty() && program != own)
-        title = QStringLiteral("%1 %2 %3").arg(own, QChar(0x2013), program);
-    setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+    CrvProfile* const profile = m_settings ? ProfileMemory::lastProfile(*m_settings) : nullptr;
+    if (profile)
+        CrvPluginsManager::getInstance()->setActiveProfile(profile);
 }
 
 // Which docks are shown follows from the profile and the selection. From last time only their
 // places come back, and which of them the person had closed.
 void MainWindow::restoreLayout()
 {
-    if (!m_layout)
+    if (!m_layout) {
+        m_sizes->fitScreen();
         return;
+    }
+    new ProfileMemory(m_settings, this);
     QList<QDockWidget*> hidden = findChildren<QDockWidget*>();
     hidden.removeIf([](const QDockWidget* dock) { return !dock->isHidden(); });
-    m_layoutRestored = m_layout->restore();
+    if (m_layout->restore())
+        m_sizes->end();
+    else
+        m_sizes->fitScreen();
     for (QDockWidget* dock : std::as_const(hidden))
         dock->hide();
     m_viewMenu->takeOverPanes();
@@ -225,27 +217,17 @@ void MainWindow::addDockWidget(QDockWidget* dock, int area)
     }
     // Also at the bottom one above the other: curves and messages need the width.
     QMainWindow::addDockWidget(static_cast<Qt::DockWidgetArea>(area), dock, Qt::Vertical);
+    if (area == Qt::RightDockWidgetArea)
+        new EditorHeading(dock);
     m_viewMenu->addPane(dock);
-    connect(
-        dock, &QDockWidget::visibilityChanged, this, [this, dock] { giveFirstSize(dock); },
-        Qt::SingleShotConnection);
-}
-
-// A dock comes up as small as its content at that moment, and its editor comes later.
-void MainWindow::giveFirstSize(QDockWidget* dock)
-{
-    if (m_layoutRestored)
-        return;
-    if (dockWidgetArea(dock) == Qt::BottomDockWidgetArea)
-        resizeDocks({ dock }, { bottomHeight }, Qt::Vertical);
-    else
-        resizeDocks({ dock }, { editorWidth }, Qt::Horizontal);
+    m_sizes->follow(dock);
 }
 
 void MainWindow::removeDockWidget(QDockWidget* dock)
 {
     m_viewMenu->removePane(dock);
-    m_places.remove(dock);
+    if (m_places.remove(dock))
+        EditorHeading::remove(dock);
 }
 
 void MainWindow::registerExtension(CrvExtension* extension, int)
@@ -263,6 +245,7 @@ void MainWindow::addToolBar(QToolBar* toolBar, int area)
     if (!m_places.takeBack(toolBar))
         QMainWindow::addToolBar(static_cast<Qt::ToolBarArea>(area), toolBar);
     m_viewMenu->addPane(toolBar);
+    m_profileBoxes->follow(toolBar);
 }
 
 void MainWindow::removeToolBar(QToolBar* toolBar)

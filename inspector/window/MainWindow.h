@@ -8,9 +8,12 @@
 #include <QMainWindow>
 
 #include <memory>
+#include <vector>
 
 class FieldPanel;
 class FileMenu;
+class FirstSizes;
+class ProfileBoxes;
 class QSettings;
 class ScenePanel;
 class ViewMenu;
@@ -33,6 +36,9 @@ public:
 
     /// The program's; a guest has none.
     SceneDocument& document() { return *m_document; }
+    /// Makes the profile active that was chosen last time, if there is one. What a person chooses
+    /// once the layout has been restored is kept for the next time.
+    void chooseLastProfile();
     /// Puts the docks where they stood last time; called before the window is shown, when all of
     /// them are there.
     void restoreLayout();
@@ -67,10 +73,11 @@ private:
     QDockWidget* addPanelDock(QWidget* panel, const QString& name, const QString& title);
     void buildWatch(FieldPanel* fields);
     void findNode();
-    void giveFirstSize(QDockWidget* dock);
+    /// Of one of the trees, by object name.
+    void shareColumns(const QString& view, int characters, const std::vector<int>& others);
     void showFileName();
-    void showProgramName();
 
+    QSettings* const m_settings; // not owned; null if nothing is kept
     WindowLayout* m_layout = nullptr; // child; null if nothing is kept
     std::unique_ptr<SceneDocument> m_document; // null for a guest
     ScenePanel* m_scenePanel = nullptr; // child
@@ -79,6 +86,7 @@ private:
     QDockWidget* m_sceneDock = nullptr; // child
     QDockWidget* m_historyDock = nullptr; // child
     QDockWidget* m_watchDock = nullptr; // child
-    bool m_layoutRestored = false;
+    FirstSizes* m_sizes; // child
+    ProfileBoxes* m_profileBoxes; // child
     PanePlaces m_places { this };
 };

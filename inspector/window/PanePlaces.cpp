@@ -24,14 +24,15 @@ bool PanePlaces::giveBack()
     return true;
 }
 
-void PanePlaces::remove(QWidget* pane)
+bool PanePlaces::remove(QWidget* pane)
 {
     if (!m_keeps) {
         release(pane);
-        return;
+        return true;
     }
     m_places.push_back({ pane, pane->isHidden(), false });
     pane->hide();
+    return false;
 }
 
 bool PanePlaces::takeBack(const QWidget* pane)

@@ -24,8 +24,8 @@ public:
     /// Ends that: a pane that hasn't come back goes. False if no places were kept.
     bool giveBack();
 
-    /// The pane is the extension's again, unless its place is kept.
-    void remove(QWidget* pane);
+    /// True if the pane is the extension's again, false if its place is kept.
+    bool remove(QWidget* pane);
     /// Whether the pane stands in its place again; otherwise it is to be added.
     bool takeBack(const QWidget* pane);
 

@@ -2,6 +2,7 @@
 #include "ScenePanel.h"
 
 #include "CrvServices.h"
+#include "NodeChoice.h"
 #include "PaneTree.h"
 
 #include <QHeaderView>
@@ -166,7 +167,7 @@ void ScenePanel::currentChanged(const QModelIndex& current)
     if (m_following)
         return;
     m_place = m_filter.isFiltering() ? m_model.counterpart(current) : current;
-    CrvServices::getInstance()->selectNode(m_model.node(m_place));
+    NodeChoice::choose(m_model.node(m_place));
 }
 
 void ScenePanel::showSelection()

@@ -2,12 +2,16 @@
 #include "WindowLayout.h"
 
 #include "Messages.h"
+#include "PaneColumns.h"
 
 #include <QCryptographicHash>
 #include <QEvent>
 #include <QMainWindow>
 #include <QSettings>
+#include <QSplitter>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -19,6 +23,18 @@ QString checkKey() { return QStringLiteral("window/check"); }
 
 // Set before the layout is restored, and removed when the window has come up with it.
 QString restoringKey() { return QStringLiteral("window/restoring"); }
+
+QString columnsKey(const PaneColumns* columns)
+{
+    return QStringLiteral("window/columns/") + columns->parent()->objectName();
+}
+
+QString splitterKey(const QSplitter* splitter)
+{
+    return QStringLiteral("window/splitters/") + splitter->objectName();
+}
+
+constexpr int maxSize = 10000; // in pixels
 
 QString checkOf(const QByteArray& geometry, const QByteArray& layout)
 {
@@ -39,6 +55,7 @@ WindowLayout::WindowLayout(QMainWindow* window, QSettings* settings, int version
 
 bool WindowLayout::restore()
 {
+    restoreSizes();
     const QByteArray geometry = m_settings->value(geometryKey()).toByteArray();
     const QByteArray layout = m_settings->value(layoutKey()).toByteArray();
     if (m_settings->contains(restoringKey())) {
@@ -68,12 +85,42 @@ bool WindowLayout::restore()
 
 void WindowLayout::save()
 {
+    saveSizes();
     const QByteArray geometry = m_window->saveGeometry();
     const QByteArray layout = m_window->saveState(m_version);
     m_settings->setValue(geometryKey(), geometry);
     m_settings->setValue(layoutKey(), layout);
     m_settings->setValue(checkKey(), checkOf(geometry, layout));
     m_settings->remove(restoringKey());
+}
+
+// These are plain numbers, which can't end the program.
+void WindowLayout::restoreSizes()
+{
+    for (PaneColumns* columns : m_columns)
+        columns->setWidths(m_settings->value(columnsKey(columns)).toList());
+    for (QSplitter* splitter : m_window->findChildren<QSplitter*>()) {
+        const QVariantList saved = m_settings->value(splitterKey(splitter)).toList();
+        QList<int> sizes;
+        for (const QVariant& size : saved)
+            sizes.append(std::clamp(size.toInt(), 1, maxSize));
+        if (sizes.size() == splitter->count())
+            splitter->setSizes(sizes);
+    }
+}
+
+void WindowLayout::saveSizes()
+{
+    for (const PaneColumns* columns : m_columns)
+        m_settings->setValue(columnsKey(columns), columns->widths());
+    for (const QSplitter* splitter : m_window->findChildren<QSplitter*>()) {
+        QVariantList sizes;
+        for (const int size : splitter->sizes())
+            sizes.append(size);
+        // One that was never seen has none yet.
+        if (!splitter->objectName().isEmpty() && !sizes.contains(0))
+            m_settings->setValue(splitterKey(splitter), sizes);
+    }
 }
 
 // The docks take their places only when the window is shown, in events that are in the queue by

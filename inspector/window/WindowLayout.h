@@ -3,8 +3,12 @@
 
 #include <QObject>
 
+#include <vector>
+
+class PaneColumns;
 class QMainWindow;
 class QSettings;
+class QSplitter;
 
 /// Keeps the geometry of a window and the places of its docks in the settings, from one start to
 /// the next. Qt trusts such data, and damaged data can end the program, at every start anew; so Qt
@@ -17,6 +21,10 @@ public:
     /// isn't owned.
     WindowLayout(QMainWindow* window, QSettings* settings, int version);
 
+    /// Keeps the widths of a list's columns, too. They outlive the last use of this object, as the
+    /// splitters of the window do, which it keeps by object name.
+    void addColumns(PaneColumns* columns) { m_columns.push_back(columns); }
+
     /// Called once, when all docks are there and before the window is shown. False if the window
     /// was left as it is.
     bool restore();
@@ -27,8 +35,11 @@ protected:
 
 private:
     void drop();
+    void restoreSizes();
+    void saveSizes();
 
     QMainWindow* const m_window;
     QSettings* const m_settings;
     const int m_version;
+    std::vector<PaneColumns*> m_columns; // not owned
 };

@@ -70,6 +70,8 @@ void WfSFieldWidget::load()
 
     m_fieldLayout = new QHBoxLayout(frame);
     shapeLayout(m_fieldLayout, "SFieldLayoutMargin", "SFieldLayoutSpacing", "SFieldLayout");
+    // In a tall dock the row stands below the title, where the eye is.
+    m_fieldLayout->setAlignment(Qt::AlignTop);
 
     styleTitleLabel(m_label);
     m_fieldLayout->addWidget(m_label, 0);
