@@ -3,6 +3,7 @@
 
 #include "CrvServices.h"
 #include "FieldDrag.h"
+#include "FieldListActions.h"
 #include "KnField.h"
 #include "PaneTree.h"
 #include "PauseAction.h"
@@ -24,6 +25,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     , m_pauseAction(new PauseAction(this))
     , m_heading(new QLabel(this))
     , m_list(new PaneTree(this))
+    , m_message(new QLabel(this))
 {
     setObjectName(QStringLiteral("fieldPanel"));
     m_list->setObjectName(QStringLiteral("fieldList"));
@@ -33,6 +35,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     m_list->setUniformRowHeights(true);
     m_list->setAlternatingRowColors(true);
     m_list->setAllColumnsShowFocus(true);
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setMouseTracking(true); // for the status tips
     QHeaderView& header = *m_list->header();
@@ -45,6 +48,8 @@ FieldPanel::FieldPanel(QWidget* parent)
     header.resizeSection(FieldListModel::IgnoredColumn, character * 11);
 
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_actions = new FieldListActions(m_list, &m_model);
+    connect(m_actions, &FieldListActions::told, this, &FieldPanel::tell);
     connect(m_list, &QWidget::customContextMenuRequested, this, &FieldPanel::showMenu);
     new FieldDrag(m_list, [this](const QModelIndex& index) { return m_model.field(index); });
 
@@ -52,6 +57,15 @@ FieldPanel::FieldPanel(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(makeHeading());
     layout->addWidget(m_list);
+    layout->addWidget(m_message);
+    m_message->setObjectName(QStringLiteral("fieldMessage"));
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_message->setWordWrap(true);
+    m_message->setMargin(fontMetrics().averageCharWidth());
+    // A message never makes the panel wider.
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_message->hide();
 
     CrvServices* const services = CrvServices::getInstance();
     connect(services, &CrvServices::selectedNodeChanged, this, &FieldPanel::showNode);
@@ -87,9 +101,17 @@ QLayout* FieldPanel::makeHeading()
 void FieldPanel::showNode(KnFieldContainer* node)
 {
     const QScopedValueRollback following(m_following, true);
-    if (m_model.node() != node)
+    if (m_model.node() != node) {
+        tell(QString());
         m_model.setNode(node);
+    }
     showHeading();
+}
+
+void FieldPanel::tell(const QString& message)
+{
+    m_message->setText(message);
+    m_message->setVisible(!message.isEmpty());
 }
 
 void FieldPanel::showHeading()
@@ -124,6 +146,9 @@ void FieldPanel::showField(KnField* field)
         m_list->selectionModel()->clear();
         return;
     }
+    // Choosing several rows in the list, the person goes from one to the next.
+    if (m_choosing && row == m_list->currentIndex().row())
+        return;
     const QModelIndex index = m_model.index(row, FieldListModel::NameColumn);
     m_list->selectionModel()->setCurrentIndex(
         index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -132,20 +157,24 @@ void FieldPanel::showField(KnField* field)
 
 void FieldPanel::currentChanged(const QModelIndex& current)
 {
-    if (!m_following)
-        CrvServices::getInstance()->selectField(m_model.field(current));
+    if (m_following)
+        return;
+    const QScopedValueRollback choosing(m_choosing, true);
+    CrvServices::getInstance()->selectField(m_model.field(current));
 }
 
 void FieldPanel::showMenu(const QPoint& position)
 {
-
     KnField* const field = m_model.field(m_list->indexAt(position));
-    if (!field)
-        return;
     auto* const menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("fieldMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    addWatchEntries(*menu, *field,
-        [this](KnField& watched, int component) { Q_EMIT watchRequested(&watched, component); });
+    if (field) {
+        addWatchEntries(*menu, *field, [this](KnField& watched, int component) {
+            Q_EMIT watchRequested(&watched, component);
+        });
+        menu->addSeparator();
+    }
+    m_actions->addTo(*menu);
     menu->popup(m_list->viewport()->mapToGlobal(position));
 }

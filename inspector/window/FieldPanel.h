@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class FieldListActions;
 class QLabel;
 class QLayout;
 class PaneTree;
@@ -33,10 +34,14 @@ private:
     void showField(KnField* field);
     void currentChanged(const QModelIndex& current);
     void showMenu(const QPoint& position);
+    void tell(const QString& message);
 
     FieldListModel m_model;
     PauseAction* m_pauseAction; // child
     QLabel* m_heading; // child
     PaneTree* m_list; // child
+    QLabel* m_message; // child; hidden while there is nothing to tell
+    FieldListActions* m_actions; // child of the list
     bool m_following = false; // the list is being brought in line with the host's selection
+    bool m_choosing = false; // a person is choosing a row
 };

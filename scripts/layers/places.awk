@@ -39,7 +39,8 @@ BEGIN {
     room("inspector/window", "program", 155, 1, "window/")
     room("inspector/scene", "program", 55, 2, "scene/")
     room("inspector/watch", "program", 155, 2, "watch/")
-    room("inspector/process", "program", 105, 3, "process/")
+    room("inspector/edits", "program", 55, 3, "edits/")
+    room("inspector/process", "program", 155, 3, "process/")
     room("inspector/text", "program", 105, 4, "text/")
 
     target("example", 245, 20, 150, upper, "examples")

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "FieldListActions.h"
+
+#include "FieldClipboard.h"
+#include "FieldListModel.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QTreeView>
+
+#include <algorithm>
+
+FieldListActions::FieldListActions(QTreeView* list, FieldListModel* model)
+    : QObject(list)
+    , m_list(list)
+    , m_model(model)
+    , m_copy(addAction("copyFields", tr("&Copy"), QKeySequence::Copy, &FieldListActions::copy))
+    , m_copyAll(addAction("copyAllFields", tr("Copy &All Fields"),
+          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &FieldListActions::copyAll))
+    , m_paste(addAction("pasteFields", tr("&Paste"), QKeySequence::Paste, &FieldListActions::paste))
+{
+}
+
+QAction* FieldListActions::addAction(
+    const char* name, const QString& text, const QKeySequence& key, void (FieldListActions::*act)())
+{
+    auto* const action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(key);
+    // A line that is open in the list has these keys to itself.
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, act);
+    m_list->addAction(action);
+    return action;
+}
+
+void FieldListActions::addTo(QMenu& menu)
+{
+    m_copy->setEnabled(!chosenFields().empty());
+    m_copyAll->setEnabled(m_model->node());
+    m_paste->setEnabled(m_model->node() && canPasteFields());
+    menu.addActions({ m_copy, m_copyAll, m_paste });
+    // The keys work at any time.
+    connect(&menu, &QMenu::aboutToHide, this, [this] {
+        for (QAction* action : { m_copy, m_copyAll, m_paste })
+            action->setEnabled(true);
+    });
+}
+
+std::vector<KnField*> FieldListActions::chosenFields() const
+{
+    QModelIndexList rows = m_list->selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    std::vector<KnField*> fields;
+    for (const QModelIndex& row : std::as_const(rows)) {
+        if (!m_list->isRowHidden(row.row(), QModelIndex()))
+            fields.push_back(m_model->field(row));
+    }
+    return fields;
+}
+
+void FieldListActions::copy()
+{
+    const std::vector<KnField*> fields = chosenFields();
+    if (!fields.empty())
+        copyFields(fields);
+    Q_EMIT told(QString());
+}
+
+void FieldListActions::copyAll()
+{
+    if (m_model->node())
+        copyAllFields(*m_model->node());
+    Q_EMIT told(QString());
+}
+
+void FieldListActions::paste()
+{
+    if (m_model->node())
+        Q_EMIT told(pasteFields({ m_model->node() }, chosenFields()));
+}

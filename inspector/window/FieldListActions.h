@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QObject>
+
+#include <vector>
+
+class FieldListModel;
+class KnField;
+class QAction;
+class QMenu;
+class QTreeView;
+
+/// What a person can do with the chosen fields of the list, by its keys and its context menu: copy,
+/// paste and the like.
+class FieldListActions : public QObject {
+    Q_OBJECT
+public:
+    /// A child of the list, whose keys it takes; the model is the list's.
+    FieldListActions(QTreeView* list, FieldListModel* model);
+
+    /// For the fields that are chosen as the menu opens.
+    void addTo(QMenu& menu);
+
+Q_SIGNALS:
+    /// Something for the person to read; an empty text when the last one is of no use any more.
+    void told(const QString& message);
+
+private:
+    QAction* addAction(const char* name, const QString& text, const QKeySequence& key,
+        void (FieldListActions::*act)());
+    std::vector<KnField*> chosenFields() const;
+    void copy();
+    void copyAll();
+    void paste();
+
+    QTreeView* m_list;
+    FieldListModel* m_model; // outlives this object
+    QAction* m_copy; // child
+    QAction* m_copyAll; // child
+    QAction* m_paste; // child
+};

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CrvServices.h"
+#include "FieldListModel.h"
+#include "InspectorFixture.h"
+#include "TextRows.h"
+
+#include <QClipboard>
+#include <QLabel>
+#include <QUndoStack>
+
+/// Copies and pastes in the list of fields.
+class TestFieldList : public InspectorTest {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { m_stack = CrvServices::getInstance()->getUndoStack(); }
+
+    void isCopiedAsLines_data()
+    {
+        addTextRows({ { "Oak", "transparency", "transparency 0.05" },
+            { "Opening hours", "string", "string [ \"Open\", \"9 \\\"to\\\" 5\" ]" } });
+    }
+    void isCopiedAsLines()
+    {
+        const auto [node, name, expected] = textRow<3>();
+        m_inspector->field(u"Opening hours.string"_s)->set("[ Open, \"9 \\\"to\\\" 5\" ]");
+        m_inspector->clickField(node, name);
+        m_inspector->press(QKeySequence::Copy);
+        QCOMPARE(clipboardText(), expected);
+    }
+
+    void severalAreCopied()
+    {
+        m_inspector->clickField(u"Desk lamp"_s, u"on"_s);
+        QTest::keyClick(list(), Qt::Key_Down, Qt::ShiftModifier);
+        clickWith(u"location"_s, Qt::ControlModifier);
+        QCOMPARE(list()->currentIndex().data().toString(), u"location"_s);
+        m_inspector->press(QKeySequence::Copy);
+        QCOMPARE(clipboardText(), u"on FALSE\nintensity 0.65\nlocation 0.6 1.2 0.4"_s);
+        // What they hold is the same by now; one of them isn't.
+        m_inspector->field(u"Desk lamp.on"_s)->set("TRUE");
+        m_inspector->press(QKeySequence::Paste);
+        QCOMPARE(m_inspector->text(u"Desk lamp.on"_s), u"FALSE"_s);
+        QCOMPARE(m_stack->undoText(), u"Desk lamp.on: TRUE \u2192 FALSE"_s);
+    }
+
+    void isPastedOntoAField_data()
+    {
+        addTextRows({ { "Oak.transparency", "0.25", "0.25" },
+            { "Oak.transparency", "shininess 0.5", "0.5" },
+            { "Front view.description", "a \"b\"\\c", "\"a \\\"b\\\"\\\\c\"" },
+            { "Front view.description", "\"a\\nb\"", "\"a\\nb\"" },
+            { "Front view.description", "position of the sun", "\"position of the sun\"" },
+            { "Front view.description", "description \"x\"", "\"x\"" },
+            { "Corners.point", "1\t2\t3\r\n4\t5\t6\r\n", "[ 1 2 3, 4 5 6 ]" },
+            { "Opening hours.width", "1\t2\n3\t4", "[ 1, 2, 3, 4 ]" },
+            { "Opening hours.width", "[ 7,\n 8 ]", "[ 7, 8 ]" },
+            { "Opening hours.string", "9 to 5\tclosed\n\"a, b\"",
+                "[ \"9 to 5\", \"closed\", \"a, b\" ]" } });
+    }
+    void isPastedOntoAField()
+    {
+        const auto [place, text, expected] = textRow<3>();
+        const QString before = m_inspector->text(place);
+        m_inspector->clickField(place.section(u'.', 0, 0), place.section(u'.', 1));
+        QGuiApplication::clipboard()->setText(text);
+        m_inspector->press(QKeySequence::Paste);
+        QCOMPARE(m_inspector->text(place), expected);
+        QVERIFY(message().isEmpty());
+        QCOMPARE(m_stack->count(), 1);
+        m_stack->undo();
+        QCOMPARE(m_inspector->text(place), before);
+        m_stack->redo();
+        QCOMPARE(m_inspector->text(place), expected);
+    }
+
+    void isPastedOntoAnotherNode()
+    {
+        m_inspector->clickField(u"Desk lamp"_s, u"on"_s);
+        m_inspector->press(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+        m_inspector->clickField(u"Window light"_s, u"on"_s);
+        m_inspector->press(QKeySequence::Paste);
+        QCOMPARE(m_inspector->text(u"Window light.intensity"_s), u"0.65"_s);
+        QCOMPARE(m_stack->count(), 1);
+        QVERIFY(m_stack->undoText().endsWith(u"fields into Window light"_s));
+        QVERIFY(message().contains(u"DirectionalLight has no field location"_s));
+        m_stack->undo();
+        QVERIFY(m_inspector->text(u"Window light.intensity"_s) != u"0.65"_s);
+        // The message is gone with the node that it was about.
+        m_inspector->clickNode(u"Oak"_s);
+        QVERIFY(message().isEmpty());
+    }
+
+    void aBadTextIsRefused_data()
+    {
+        addTextRows({ { "Oak.transparency", "abc", "expected a number" },
+            { "Corners.point", "1\t2\t3\n4\tx\t6", "row 1" },
+            { "Oak.shininess", "ambientColor red\nno 1", "expected a number" } });
+    }
+    void aBadTextIsRefused()
+    {
+        const auto [place, text, expected] = textRow<3>();
+        const QString before = m_inspector->text(place);
+        m_inspector->clickField(place.section(u'.', 0, 0), place.section(u'.', 1));
+        QGuiApplication::clipboard()->setText(text);
+        m_inspector->press(QKeySequence::Paste);
+        QCOMPARE(m_inspector->text(place), before);
+        QVERIFY2(message().contains(expected), qPrintable(message()));
+        QCOMPARE(m_stack->count(), 0);
+    }
+
+private:
+    QTreeView* list() const { return m_inspector->view(u"fieldList"_s); }
+    QString message() const
+    {
+        const auto* const label = m_inspector->window.findChild<QLabel*>(u"fieldMessage"_s);
+        return label->isVisible() ? label->text() : QString();
+    }
+    static QString clipboardText() { return QGuiApplication::clipboard()->text(); }
+    void clickWith(const QString& name, Qt::KeyboardModifiers modifiers) const
+    {
+        const QAbstractItemModel& model = *list()->model();
+        const QModelIndex found = model.match(model.index(0, 0), Qt::DisplayRole, name).value(0);
+        QTest::mouseClick(
+            list()->viewport(), Qt::LeftButton, modifiers, list()->visualRect(found).center());
+    }
+
+    QUndoStack* m_stack = nullptr; // of the services
+};
+
+QTEST_MAIN(TestFieldList)
+#include "test_field_list.moc"
