@@ -2,12 +2,8 @@
 #include "NodeFilter.h"
 
 #include "KnGroup.h"
-#include "SceneText.h"
 
-NodeFilter::Answer::Answer(KnSensor::Callback changed, void* data)
-    : sensor(changed, data)
-{
-}
+#include <utility>
 
 NodeFilter::NodeFilter(KnSensor::Callback changed, void* data)
     : m_changed(changed)
@@ -15,36 +11,94 @@ NodeFilter::NodeFilter(KnSensor::Callback changed, void* data)
 {
 }
 
-void NodeFilter::setText(const QString& text) { m_text = text.trimmed(); }
+void NodeFilter::begin(const NodeQuery& query, const std::vector<KnNodePtr>& roots)
+{
+    m_walk.emplace();
+    m_walk->query = query;
+    if (!query.isEmpty())
+        m_walk->roots = roots;
+}
+
+bool NodeFilter::work(QDeadlineTimer deadline)
+{
+    if (!m_walk)
+        return true;
+    if (!run(*m_walk, deadline))
+        return false;
+    m_found = std::move(*m_walk);
+    m_walk.reset();
+    return true;
+}
 
 bool NodeFilter::accepts(KnFieldContainer* node)
 {
-    if (m_text.isEmpty() || matches(*node))
+    if (query().isEmpty() || isMatch(*node))
         return true;
     auto* const group = dynamic_cast<KnGroup*>(node);
-    if (!group)
-        return false;
-    Answer& answer = m_answers.try_emplace(group, m_changed, m_data).first->second;
-    // A new group may stand where a dead one was.
-    const bool isKnown = answer.sensor.getAttachedGroup() && answer.round == m_round;
-    if (isKnown)
-        return answer.accepted;
-    if (!answer.sensor.getAttachedGroup())
+    return group && !acceptedChildren(group).empty();
+}
+
+const std::vector<int>& NodeFilter::acceptedChildren(KnGroup* group)
+{
+    const auto known = m_found.answers.find(group);
+    if (known != m_found.answers.end() && known->second.holds())
+        return known->second.children;
+    enter(m_found, group);
+    run(m_found, QDeadlineTimer::Forever);
+    return m_found.answers.at(group).children;
+}
+
+void NodeFilter::enter(Walk& walk, KnGroup* group) const
+{
+    Answer& answer = walk.answers.try_emplace(group, m_changed, m_data).first->second;
+    if (answer.sensor.getAttachedGroup())
+        answer.sensor.takeChange();
+    else
         answer.sensor.attach(group);
-    answer.round = m_round;
-    answer.accepted = false;
-    for (int i = 0; i < group->getNumChildren() && !answer.accepted; ++i)
-        answer.accepted = accepts(group->getChild(i));
-    return answer.accepted;
+    answer.children.clear();
+    walk.frames.push_back({ KnNodePtr(group), group, &answer, 0 });
 }
 
-void NodeFilter::end()
+bool NodeFilter::run(Walk& walk, const QDeadlineTimer& deadline) const
 {
-    std::erase_if(m_answers, [this](const auto& entry) { return entry.second.round != m_round; });
+    while (!walk.frames.empty() || !walk.roots.empty()) {
+        if (!walk.frames.empty()) {
+            if (!runTop(walk, deadline))
+                return false;
+            continue;
+        }
+        if (auto* const group = dynamic_cast<KnGroup*>(walk.roots.back().get()))
+            enter(walk, group);
+        walk.roots.pop_back();
+    }
+    return true;
 }
 
-bool NodeFilter::matches(const KnFieldContainer& node) const
+/// Looks through the uppermost frame until it is done or another one comes upon it. False if the
+/// time is over.
+bool NodeFilter::runTop(Walk& walk, const QDeadlineTimer& deadline) const
 {
-    return nodeLabel(node).contains(m_text, Qt::CaseInsensitive)
-        || typeName(node.getObjectType()).contains(m_text, Qt::CaseInsensitive);
+    constexpr int nodesBetweenLooks = 512; // at the clock
+    Frame& frame = walk.frames.back();
+    for (; frame.next < frame.group->getNumChildren(); ++frame.next) {
+        KnFieldContainer* const child = frame.group->getChild(frame.next);
+        auto* const group = dynamic_cast<KnGroup*>(child);
+        bool accepted = false;
+        if (group) {
+            const auto known = walk.answers.find(group);
+            if (known == walk.answers.end() || !known->second.holds()) {
+                enter(walk, group);
+                return !deadline.hasExpired();
+            }
+            accepted = !known->second.children.empty();
+        }
+        if (accepted || walk.query.matches(*child))
+            frame.answer->children.push_back(frame.next);
+        if ((frame.next + 1) % nodesBetweenLooks == 0 && deadline.hasExpired()) {
+            ++frame.next;
+            return false;
+        }
+    }
+    walk.frames.pop_back();
+    return true;
 }

@@ -2,47 +2,77 @@
 #pragma once
 
 #include "KnGroupSensor.h"
+#include "KnNodePtr.h"
+#include "NodeQuery.h"
 
-#include <QString>
+#include <QDeadlineTimer>
 
+#include <optional>
 #include <unordered_map>
+#include <vector>
 
-class KnFieldContainer;
+class KnGroup;
 
-/// Says which nodes a filter text lets through: those whose name or type contains it, upper or
-/// lower case, and those above them. It looks no further than an answer needs, remembers what a
-/// group was found to be, and watches the groups on which its answers rest.
+/// Says which nodes a query lets through: those that match it, and those above them. A large graph
+/// is looked through in slices; until that is done, all answers are for the query before. It
+/// watches the groups on which its answers rest, and asks a group that has changed again.
 class NodeFilter {
 public:
     /// The callback says that an answer may not hold any more. It gets `data`, and runs from the
     /// kernel's queue.
     NodeFilter(KnSensor::Callback changed, void* data);
 
-    /// An empty text lets everything through.
-    void setText(const QString& text);
-    const QString& text() const { return m_text; }
+    /// The query that the answers are for. An empty one lets everything through.
+    const NodeQuery& query() const { return m_found.query; }
 
+    /// Starts to look through the graph below these roots, and gives up what was under way.
+    void begin(const NodeQuery& query, const std::vector<KnNodePtr>& roots);
+    /// Goes on until it is done, which gives true, or the time is over. Between two calls the graph
+    /// may change.
+    bool work(QDeadlineTimer deadline);
+    bool isWorking() const { return m_walk.has_value(); }
+    /// Gives up what is under way.
+    void stop() { m_walk.reset(); }
+
+    bool isMatch(KnFieldContainer& node) const { return query().matches(node); }
     bool accepts(KnFieldContainer* node);
-
-    /// From here on answers are found anew.
-    void begin() { ++m_round; }
-    /// Forgets the groups that nobody has asked for since `begin`.
-    void end();
+    /// The children of a group that are let through, as indices in rising order; valid until the
+    /// next call. Not for the empty query.
+    const std::vector<int>& acceptedChildren(KnGroup* group);
 
 private:
     struct Answer {
-        Answer(KnSensor::Callback changed, void* data);
+        Answer(KnSensor::Callback changed, void* data)
+            : sensor(changed, data)
+        {
+        }
+
+        /// The group may be another one that stands where a dead one was.
+        bool holds() const { return sensor.getAttachedGroup() && !sensor.hasChanged(); }
 
         KnGroupSensor sensor; // attached to nothing once the group has died
-        unsigned round = 0;
-        bool accepted = false;
+        std::vector<int> children;
+    };
+    /// A group that is being looked through.
+    struct Frame {
+        KnNodePtr node;
+        KnGroup* group; // the node
+        Answer* answer;
+        int next; // the child to look at
+    };
+    struct Walk {
+        NodeQuery query;
+        std::vector<KnNodePtr> roots; // that it hasn't come to
+        std::vector<Frame> frames;
+        std::unordered_map<const KnGroup*, Answer> answers;
     };
 
-    bool matches(const KnFieldContainer& node) const;
+    void enter(Walk& walk, KnGroup* group) const;
+    bool run(Walk& walk, const QDeadlineTimer& deadline) const;
+    bool runTop(Walk& walk, const QDeadlineTimer& deadline) const;
 
     KnSensor::Callback m_changed;
     void* m_data; // not owned
-    QString m_text;
-    unsigned m_round = 1;
-    std::unordered_map<const KnGroup*, Answer> m_answers;
+    Walk m_found; // done
+    std::optional<Walk> m_walk; // under way
 };

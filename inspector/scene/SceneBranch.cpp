@@ -26,6 +26,7 @@ SceneBranch::SceneBranch(SceneModel& model, SceneItem& place, KnGroup* group)
     m_sensor.attach(group);
     applyFilter();
     m_count = groupCount();
+    m_items.reserve(m_accepted.size());
     // What the filter accepts is known only now.
     for (int row = 0; row < static_cast<int>(m_accepted.size()); ++row)
         m_items.push_back(makeItem(groupNode(row), row).release());
@@ -197,15 +198,19 @@ void SceneBranch::applyFilter()
 {
     if (!m_model.m_filter)
         return;
-    const auto add = [this](KnFieldContainer* node) {
-        if (m_model.m_filter->accepts(node))
-            m_accepted.emplace_back(node);
-    };
-    for (int i = 0; m_group && i < m_group->getNumChildren(); ++i)
-        add(m_group->getChild(i));
-    if (!m_group)
-        for (const KnNodePtr& root : m_model.m_roots)
-            add(root.get());
+    NodeFilter& filter = *m_model.m_filter;
+    if (!m_group) {
+        for (const KnNodePtr& root : m_model.m_roots) {
+            if (filter.accepts(root.get()))
+                m_accepted.push_back(root);
+        }
+    } else if (filter.query().isEmpty()) {
+        for (int i = 0; i < m_group->getNumChildren(); ++i)
+            m_accepted.emplace_back(m_group->getChild(i));
+    } else {
+        for (const int i : filter.acceptedChildren(m_group))
+            m_accepted.emplace_back(m_group->getChild(i));
+    }
 }
 
 int SceneBranch::groupCount() const

@@ -20,17 +20,33 @@ SceneModel::SceneModel(QObject* parent)
 SceneModel::SceneModel(NodeFilter* filter, QObject* parent)
     : QAbstractItemModel(parent)
     , m_filter(filter)
-    , m_top(std::make_unique<SceneItem>(nullptr, nullptr, 0))
+    , m_names(nodesRenamed, this)
 {
-    m_top->branch = std::make_unique<SceneBranch>(*this, *m_top, nullptr);
-    m_top->opened = true;
+    makeTop();
 }
 
 SceneModel::~SceneModel() = default;
 
+void SceneModel::makeTop()
+{
+    m_top = std::make_unique<SceneItem>(nullptr, nullptr, 0);
+    m_top->branch = std::make_unique<SceneBranch>(*this, *m_top, nullptr);
+    m_top->opened = true;
+}
+
+void SceneModel::startAnew()
+{
+    beginResetModel();
+    // Destroyed at the end, since what a node does when it dies should find sound rows.
+    const std::unique_ptr<SceneItem> former = std::move(m_top);
+    makeTop();
+    endResetModel();
+}
+
 void SceneModel::setRoots(std::vector<KnNodePtr> roots)
 {
     std::swap(m_roots, roots); // the former ones live until their rows have gone
+    m_names.setAttached(!m_roots.empty());
     m_top->branch->rootsReplaced(static_cast<int>(roots.size()));
     follow(*m_top->branch);
 }
@@ -202,6 +218,26 @@ void SceneModel::followBelow(SceneItem& item)
     for (int row = 0; row < item.branch->count(); ++row) {
         if (SceneItem* const known = item.branch->knownItem(row))
             followBelow(*known);
+    }
+}
+
+void SceneModel::nodesRenamed(void* data, KnSensor*)
+{
+    auto* const model = static_cast<SceneModel*>(data);
+    const KnNameSensor::Nodes nodes = model->m_names.takeNodes();
+    model->announceNames(*model->m_top, nodes);
+    model->namesChanged();
+}
+
+void SceneModel::announceNames(SceneItem& item, const KnNameSensor::Nodes& nodes)
+{
+    if (item.node && nodes.contains(item.node.get())) {
+        const QModelIndex index = indexOf(item);
+        Q_EMIT dataChanged(index, index);
+    }
+    for (int row = 0; item.branch && row < item.branch->count(); ++row) {
+        if (SceneItem* const known = item.branch->knownItem(row))
+            announceNames(*known, nodes);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "KnNameSensor.h"
 #include "KnNodePtr.h"
 
 #include <QAbstractItemModel>
@@ -36,6 +37,8 @@ public:
     /// The place in this tree that stands below the same nodes as one in another tree; invalid if
     /// there is none.
     QModelIndex counterpart(const QModelIndex& foreign) const;
+    /// Brings all rows in line with graph and filter, without waiting for the kernel's queue.
+    void followAll();
     /// Whether the graph has the node at this moment, which may be ahead of the rows.
     bool isInGraph(const KnFieldContainer* node) const;
 
@@ -55,12 +58,18 @@ Q_SIGNALS:
 protected:
     /// Shows only what the filter accepts; the filter outlives the last use of the model.
     SceneModel(NodeFilter* filter, QObject* parent);
-    /// Brings all rows in line with graph and filter.
-    void followAll();
+    const std::vector<KnNodePtr>& roots() const { return m_roots; }
+    /// Makes all rows anew, in one reset: another filter.
+    void startAnew();
+    /// Names that may stand in the tree have changed.
+    virtual void namesChanged() { }
 
 private:
     friend class SceneBranch;
 
+    void makeTop();
+    static void nodesRenamed(void* data, KnSensor* sensor);
+    void announceNames(SceneItem& item, const KnNameSensor::Nodes& nodes);
     static SceneBranch* branchOf(SceneItem& item);
     static SceneItem* find(SceneItem& item, NodeFinder& finder);
     SceneItem* counterpart(const SceneItem& foreign) const;
@@ -78,4 +87,5 @@ private:
     NodeFilter* m_filter; // not owned; null lets everything through
     std::vector<KnNodePtr> m_roots;
     std::unique_ptr<SceneItem> m_top; // has the roots below it, and no node
+    KnNameSensor m_names; // attached while there are roots
 };

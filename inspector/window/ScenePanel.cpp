@@ -4,8 +4,11 @@
 #include "CrvServices.h"
 #include "NodeChoice.h"
 #include "PaneTree.h"
+#include "TreeExpansion.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
@@ -15,57 +18,27 @@
 #include <unordered_set>
 #include <utility>
 
-namespace {
-
-// A view that opens everything lays everything out; with more rows than this nobody looks through
-// them all anyway.
-constexpr int maxExpandedRows = 2000;
-
-// Opens the tree from above, level by level and row by row, until `budget` rows are open.
-void expandSome(QTreeView& tree, const QModelIndex& parent, int& budget)
-{
-    const QAbstractItemModel& model = *tree.model();
-    for (int row = 0; row < model.rowCount(parent) && budget > 0; ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        --budget;
-        if (!model.hasChildren(index))
-            continue;
-        tree.expand(index);
-        expandSome(tree, index, budget);
-    }
-}
-
-void addExpandedRows(
-    const QTreeView& tree, const QModelIndex& parent, QList<QPersistentModelIndex>& rows)
-{
-    const QAbstractItemModel& model = *tree.model();
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        if (!tree.isExpanded(index))
-            continue;
-        rows.append(QPersistentModelIndex(index));
-        addExpandedRows(tree, index, rows);
-    }
-}
-
-QList<QPersistentModelIndex> expandedRows(const QTreeView& tree)
-{
-    QList<QPersistentModelIndex> rows;
-    addExpandedRows(tree, QModelIndex(), rows);
-    return rows;
-}
-
-} // namespace
-
 ScenePanel::ScenePanel(QWidget* parent)
     : QWidget(parent)
     , m_filterEdit(new QLineEdit(this))
+    , m_filterNote(new QLabel(this))
     , m_tree(new PaneTree(this))
+    , m_expansion(new TreeExpansion(m_tree))
 {
     setObjectName(QStringLiteral("scenePanel"));
     m_filterEdit->setObjectName(QStringLiteral("sceneFilter"));
     m_filterEdit->setPlaceholderText(tr("Filter by name or type"));
     m_filterEdit->setClearButtonEnabled(true);
+    m_filterEdit->setToolTip(tr("<p>Several words must all fit:</p>"
+                                "<table><tr><td>lamp</td><td>name or type</td></tr>"
+                                "<tr><td>\"desk lamp\"</td><td>with a blank</td></tr>"
+                                "<tr><td>name:lamp</td><td>name alone</td></tr>"
+                                "<tr><td>type:Light</td><td>type alone</td></tr>"
+                                "<tr><td>field:color</td><td>has such a field</td></tr>"
+                                "<tr><td>transparency&gt;0</td><td>has such a value; also "
+                                "&lt;, &lt;=, &gt;=, =, !=</td></tr></table>"));
+    m_filterNote->setObjectName(QStringLiteral("sceneFilterNote"));
+    m_filterNote->hide();
 
     m_tree->setObjectName(QStringLiteral("sceneTree"));
     setTreeModel(&m_model);
@@ -79,7 +52,10 @@ ScenePanel::ScenePanel(QWidget* parent)
     setFocusProxy(m_tree);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_filterEdit);
+    auto* const line = new QHBoxLayout;
+    line->addWidget(m_filterEdit);
+    line->addWidget(m_filterNote);
+    layout->addLayout(line);
     layout->addWidget(m_tree);
 
     connect(m_filterEdit, &QLineEdit::textChanged, this, &ScenePanel::setFilterText);
@@ -88,6 +64,9 @@ ScenePanel::ScenePanel(QWidget* parent)
             model, &SceneModel::structureAboutToChange, this, &ScenePanel::structureAboutToChange);
         connect(model, &SceneModel::structureChanged, this, &ScenePanel::structureChanged);
     }
+    connect(&m_filter, &SceneFilterModel::filtered, this, &ScenePanel::showFiltered);
+    connect(&m_filter, &QAbstractItemModel::rowsInserted, this, &ScenePanel::showNewMatches);
+    connect(&m_filter, &QAbstractItemModel::rowsRemoved, this, &ScenePanel::showFilterNote);
     CrvServices* const services = CrvServices::getInstance();
     connect(services, &CrvServices::rootsChanged, this, &ScenePanel::showRoots);
     connect(services, &CrvServices::selectedNodeChanged, this, &ScenePanel::showSelection);
@@ -105,8 +84,7 @@ void ScenePanel::showRoots()
             [&former](const KnNodePtr& root) { return former.contains(root.get()); }))
         m_filterEdit->clear();
     m_model.setRoots(roots);
-    if (m_filter.isFiltering())
-        m_filter.setRoots(roots);
+    m_filter.setRoots(roots);
     for (int row = 0; row < m_model.rowCount(); ++row) {
         const QModelIndex index = m_model.index(row, SceneModel::NameColumn);
         if (!former.contains(m_model.node(index)))
@@ -120,37 +98,54 @@ void ScenePanel::focusFilter()
     m_filterEdit->selectAll();
 }
 
-// A view whose current row is filtered away moves on to another one, which is no person's choice.
 void ScenePanel::setFilterText(const QString& text)
+{
+    m_filter.setFilterText(text);
+    showFilterNote();
+}
+
+// A view whose current row is filtered away moves on to another one, which is no person's choice.
+void ScenePanel::showFiltered()
 {
     {
         const QScopedValueRollback following(m_following, true);
-        const bool wasFiltering = m_filter.isFiltering();
-        if (!wasFiltering)
-            m_expanded = expandedRows(*m_tree);
-        m_filter.setFilterText(text);
+        const bool wasFiltering = m_tree->model() == &m_filter;
         if (m_filter.isFiltering()) {
             if (!wasFiltering) {
-                m_filter.setRoots(CrvServices::getInstance()->getRoots());
+                m_expansion->save();
                 setTreeModel(&m_filter);
             }
-            int budget = maxExpandedRows;
-            expandSome(*m_tree, QModelIndex(), budget);
+            expandSome(*m_tree, QModelIndex());
         } else if (wasFiltering) {
             setTreeModel(&m_model);
-            m_filter.setRoots({});
-            const QList<QPersistentModelIndex> expanded = std::exchange(m_expanded, {});
-            for (const QPersistentModelIndex& index : expanded)
-                m_tree->expand(index);
+            m_expansion->restore();
         }
     }
     showSelection();
+    showFilterNote();
+}
+
+void ScenePanel::showNewMatches(const QModelIndex& parent, int first, int last)
+{
+    if (m_tree->model() == &m_filter)
+        expandSome(*m_tree, parent, first, last);
+    showFilterNote();
+}
+
+// Beside the line, so that nothing else moves while somebody types.
+void ScenePanel::showFilterNote()
+{
+    const QString error = m_filter.errorText();
+    const bool isEmpty = m_filter.isFiltering() && m_filter.rowCount() == 0;
+    m_filterNote->setText(!error.isEmpty() ? error : isEmpty ? tr("no match") : QString());
+    m_filterNote->setVisible(!m_filterNote->text().isEmpty());
 }
 
 void ScenePanel::setTreeModel(SceneModel* model)
 {
     const std::unique_ptr<QItemSelectionModel> former(m_tree->selectionModel());
     m_tree->setModel(model);
+    m_expansion->follow();
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &ScenePanel::currentChanged);
 }

@@ -7,8 +7,10 @@
 #include <QPersistentModelIndex>
 #include <QWidget>
 
+class QLabel;
 class QLineEdit;
 class PaneTree;
+class TreeExpansion;
 
 /// The scene as a tree below a filter line. A person's choice becomes the host's selection, and
 /// the host's selection is shown in the tree. A selected node that leaves the scene is given up.
@@ -22,6 +24,9 @@ public:
 private:
     void showRoots();
     void setFilterText(const QString& text);
+    void showFiltered();
+    void showNewMatches(const QModelIndex& parent, int first, int last);
+    void showFilterNote();
     void setTreeModel(SceneModel* model);
     SceneModel& treeModel();
     QModelIndex toTree(const QModelIndex& index);
@@ -37,10 +42,11 @@ private:
     SceneModel m_model;
     SceneFilterModel m_filter; // what the tree shows instead while there is a filter text
     QLineEdit* m_filterEdit; // child
+    QLabel* m_filterNote; // child; what the filter text lacks
     PaneTree* m_tree; // child
+    TreeExpansion* m_expansion; // child of the tree
     QPersistentModelIndex m_place; // of the selected node, in m_model
     bool m_placed = false; // whether there was a place before the structure changed
     bool m_placeLost = false; // the place went while its node was selected
-    QList<QPersistentModelIndex> m_expanded; // in m_model, from before there was a filter text
     bool m_following = false; // the tree is being brought in line with scene or selection
 };

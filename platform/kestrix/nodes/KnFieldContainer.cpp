@@ -2,6 +2,7 @@
 #include "KnFieldContainer.h"
 
 #include "KnField.h"
+#include "KnNameSensor.h"
 
 KnType KnFieldContainer::getClassTypeId()
 {
@@ -15,6 +16,14 @@ void KnFieldContainer::unref()
 {
     if (--m_referenceCount <= 0)
         delete this; // the references own the node
+}
+
+void KnFieldContainer::setName(const KbName& name)
+{
+    if (name == m_name)
+        return;
+    m_name = name;
+    KnNameSensor::report(*this);
 }
 
 KnField* KnFieldContainer::getField(const KbName& name)

@@ -19,7 +19,8 @@ public:
     KnField* getField(const KbName& name);
 
     const KbName& getName() const { return m_name; }
-    void setName(const KbName& name) { m_name = name; }
+    /// Any text is a name, also an empty one; several nodes may have the same.
+    void setName(const KbName& name);
 
     KnFieldContainer* asContainer() override { return this; }
     std::string describeField(const KnField& field) const override;

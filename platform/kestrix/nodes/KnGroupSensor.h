@@ -33,6 +33,8 @@ public:
     /// What has changed since the last call, or since the sensor was attached: the smallest range
     /// that holds all changes. A child that moved within it counts as removed and inserted.
     Change takeChange();
+    /// Whether `takeChange` has something to say.
+    bool hasChanged() const { return m_change.removed > 0 || m_change.inserted > 0; }
 
 private:
     friend class KnGroup;

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CrvServices.h"
+#include "InspectorFixture.h"
+#include "KnGroup.h"
+#include "KnMaterial.h"
+#include "KnNameSensor.h"
+#include "KnSensorQueue.h"
+#include "SceneFilterModel.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+namespace {
+
+KnFieldContainer* newNode(const QString& type, const QString& name)
+{
+    auto* const node = static_cast<KnFieldContainer*>(
+        KnType::fromName(KbName(toKbString(type))).createInstance());
+    node->setName(KbName(toKbString(name)));
+    return node;
+}
+
+// The names in all rows that are open, those that match in brackets.
+QStringList shownRows(const QTreeView& tree)
+{
+    QStringList names;
+    for (QModelIndex index = tree.model()->index(0, 0); index.isValid();
+         index = tree.indexBelow(index)) {
+        const QString name = index.data().toString();
+        names += index.data(SceneFilterModel::MatchRole).toBool() ? u'[' + name + u']' : name;
+    }
+    return names;
+}
+
+} // namespace
+
+class TestSceneFilter : public InspectorTest {
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        InspectorTest::init();
+        m_tree = m_inspector->view(u"sceneTree"_s);
+        m_line = m_inspector->window.findChild<QLineEdit*>(u"sceneFilter"_s);
+        m_note = m_inspector->window.findChild<QLabel*>(u"sceneFilterNote"_s);
+        m_scene = KnNodePtr(new KnGroup);
+        m_scene->setName(KbName("Scene"));
+        const auto add = [this](const QString& type, const QString& name) {
+            KnFieldContainer* const node = newNode(type, name);
+            static_cast<KnGroup*>(m_scene.get())->addChild(node);
+            return node;
+        };
+        KnFieldContainer* const oak = add(u"Material"_s, u"Oak"_s);
+        oak->getField(KbName("transparency"))->set("0.1");
+        oak->getField(KbName("diffuseColor"))->set("0.5 0.25 0");
+        add(u"Material"_s, u"Été wall"_s);
+        KnFieldContainer* const lamp = add(u"PointLight"_s, u"Desk lamp"_s);
+        lamp->getField(KbName("on"))->set("FALSE");
+        add(u"Text"_s, u"a:b>c"_s)->getField(KbName("string"))->set("[\"one\", \"two\"]");
+        add(u"Transform"_s, QString());
+        CrvServices::getInstance()->setRoots({ m_scene });
+        QCoreApplication::processEvents();
+    }
+    void cleanup()
+    {
+        CrvServices::getInstance()->setRoots({});
+        m_scene = KnNodePtr();
+        InspectorTest::cleanup();
+    }
+
+    void words_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("matches");
+        const auto row = [](const char* text, const QString& matches) {
+            QTest::newRow(text) << QString::fromUtf8(text) << matches;
+        };
+        row("  oAk ", u"Oak"_s);
+        row("light", u"Desk lamp"_s); // by its type
+        row("desk lamp", u"Desk lamp"_s);
+        row("lamp desk", u"Desk lamp"_s); // both, in any order
+        row("\"lamp desk\"", QString());
+        row("\"k l\"", u"Desk lamp"_s);
+        row("ÉTÉ", u"Été wall"_s);
+        row(".*", QString());
+        row("name:light", QString());
+        row("type:POINTlight", u"Desk lamp"_s);
+        row("type:\"a\" name:oak", u"Oak"_s);
+        row("transform", u"Transform"_s); // without a name
+        row("field:diffuse", u"Oak, Été wall"_s);
+        row("field:color wall", u"Été wall"_s);
+        row("\"a:b>c\"", u"a:b>c"_s);
+        row("transparency>0", u"Oak"_s);
+        row("Transparency=0.1", u"Oak"_s);
+        row("transparency<=0.1", u"Oak, Été wall"_s);
+        row("transparency!=0", u"Oak"_s);
+        row("transparency>=+1e-1", u"Oak"_s);
+        row("transparency<0", QString());
+        row("diffuseColor=0.25", u"Oak"_s); // one of three
+        row("string=TWO", u"a:b>c"_s);
+        row("on=false", u"Desk lamp"_s);
+        row("on!=\"true\"", u"Desk lamp"_s);
+        row("transp>0", QString()); // no such field
+    }
+    void words()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QString, matches);
+        QTest::keyClicks(m_line, u"\""_s); // only for a moment
+        m_line->clear();
+        m_line->insert(text);
+        QTRY_COMPARE(m_note->isVisible() ? m_note->text() : QString(),
+            matches.isEmpty() ? u"no match"_s : QString());
+        QStringList expected;
+        for (const QString& match : matches.split(u", "_s, Qt::SkipEmptyParts))
+            expected += u'[' + match + u']';
+        if (!expected.isEmpty())
+            expected.prepend(u"Scene"_s);
+        QCOMPARE(shownRows(*m_tree), expected);
+    }
+
+    void aTextThatIsNotCompleteChangesNothing_data()
+    {
+        QTest::addColumn<QString>("rest");
+        for (const char* const rest :
+            { "type:", "field:\"\"", "transparency>", ">0", "on<true", "\"desk", "typ:light" })
+            QTest::newRow(rest) << QString::fromLatin1(rest);
+    }
+    void aTextThatIsNotCompleteChangesNothing()
+    {
+        QFETCH(const QString, rest);
+        QTest::keyClicks(m_line, u"oak"_s);
+        const QStringList shown = shownRows(*m_tree);
+        QVERIFY(m_note->isHidden());
+        m_line->insert(u' ' + rest);
+        QVERIFY(m_note->isVisible());
+        QCOMPARE(shownRows(*m_tree), shown);
+        for (qsizetype i = 0; i < rest.size(); ++i)
+            QTest::keyClick(m_line, Qt::Key_Backspace);
+        QTRY_VERIFY(m_note->isHidden());
+        QCOMPARE(shownRows(*m_tree), shown);
+    }
+
+    // However small the slices are, and whatever the program does between them.
+    void slicesFindWhatOneLookFinds()
+    {
+        auto* const group = static_cast<KnGroup*>(m_scene.get());
+        KnNodePtr lost(new KnGroup);
+        group->insertChild(lost.get(), 0);
+        for (int i = 0; i < 3000; ++i)
+            static_cast<KnGroup*>(lost.get())->addChild(newNode(u"Material"_s, QString::number(i)));
+        NodeFilter filter([](void*, KnSensor*) {}, nullptr);
+        filter.begin(NodeQuery(u"oak"_s), { m_scene });
+        int slices = 0;
+        for (; !filter.work(QDeadlineTimer(0)); ++slices) {
+            if (slices == 2) {
+                group->removeChild(lost.get());
+                lost = KnNodePtr();
+                group->addChild(newNode(u"Material"_s, u"Oak too"_s));
+            }
+        }
+        QVERIFY(slices > 2);
+        QCOMPARE(filter.acceptedChildren(group), std::vector<int>({ 0, 5 }));
+        KnSensorQueue::getInstance().process();
+    }
+
+    void aNewNameIsSeen()
+    {
+        auto* const group = static_cast<KnGroup*>(m_scene.get());
+        KnFieldContainer* const oak = group->getChild(0);
+        const auto first = [this] { return m_tree->model()->index(0, 0); };
+        QSignalSpy changes(m_tree->model(), &QAbstractItemModel::dataChanged);
+        oak->setName(KbName("Ash"));
+        oak->setName(KbName("Beech"));
+        QTRY_COMPARE(changes.count(), 1);
+        QCOMPARE(changes.constFirst().constFirst().toModelIndex().data().toString(), u"Beech"_s);
+        QTest::keyClicks(m_line, u"beech"_s);
+        QTRY_COMPARE(shownRows(*m_tree), (QStringList { u"Scene"_s, u"[Beech]"_s }));
+        oak->setName(KbName("Cedar"));
+        QTRY_COMPARE(m_tree->model()->rowCount(first()), 0);
+        oak->setName(KbName("Red beech"));
+        QTRY_COMPARE(shownRows(*m_tree), (QStringList { u"Scene"_s, u"[Red beech]"_s }));
+    }
+
+    void whatWasOpenIsOpenAgain()
+    {
+        auto* const group = static_cast<KnGroup*>(m_scene.get());
+        auto* const room = static_cast<KnGroup*>(newNode(u"Group"_s, u"Room"_s));
+        auto* const shelf = static_cast<KnGroup*>(newNode(u"Group"_s, u"Shelf"_s));
+        shelf->addChild(newNode(u"Text"_s, u"Book"_s));
+        room->addChild(shelf);
+        group->addChild(room);
+        QCoreApplication::processEvents();
+        const auto index = [this](const QString& name) {
+            return m_tree->model()
+                ->match(m_tree->model()->index(0, 0), Qt::DisplayRole, name, 1,
+                    Qt::MatchExactly | Qt::MatchRecursive)
+                .value(0);
+        };
+        m_tree->expand(index(u"Room"_s));
+        m_tree->expand(index(u"Shelf"_s));
+        const QStringList open = shownRows(*m_tree);
+        QVERIFY(open.contains(u"Book"_s));
+        QTest::keyClicks(m_line, u"oak"_s);
+        m_line->clear();
+        QCOMPARE(shownRows(*m_tree), open);
+
+        // To another group, in either order of events, and back.
+        auto* const hall = static_cast<KnGroup*>(newNode(u"Group"_s, u"Hall"_s));
+        group->addChild(hall);
+        QCoreApplication::processEvents();
+        m_tree->expand(index(u"Hall"_s));
+        const KnNodePtr keeper(room);
+        group->removeChild(room);
+        hall->addChild(room);
+        QTRY_VERIFY(shownRows(*m_tree).contains(u"Book"_s));
+        group->addChild(newNode(u"Text"_s, u"heard of first"_s));
+        hall->removeChild(room);
+        group->addChild(room);
+        QTRY_VERIFY(index(u"heard of first"_s).isValid());
+        QVERIFY(shownRows(*m_tree).contains(u"Book"_s));
+    }
+
+private:
+    KnNodePtr m_scene;
+    QTreeView* m_tree = nullptr;
+    QLineEdit* m_line = nullptr;
+    QLabel* m_note = nullptr;
+};
+
+QTEST_MAIN(TestSceneFilter)
+#include "test_scene_filter.moc"
