@@ -10,7 +10,7 @@ bool NodeFinder::isAtOrBelow(const KnFieldContainer* top)
     const auto* const group = dynamic_cast<const KnGroup*>(top);
     if (!group || m_without.contains(group))
         return false;
-    for (int i = 0; i < group->getNumChildren(); ++i) {
+    for (int i = 0; i < group->getNumMadeChildren(); ++i) {
         if (isAtOrBelow(group->getChild(i)))
             return true;
     }

@@ -26,7 +26,13 @@ KnField::~KnField()
 void KnField::setIgnored(int ignored)
 {
     m_ignored = ignored != 0;
-    touch();
+    callSensors();
+}
+
+void KnField::setReadOnly(bool readOnly)
+{
+    m_readOnly = readOnly;
+    callSensors();
 }
 
 KnFieldContainer* KnField::getContainer() const
@@ -35,6 +41,12 @@ KnFieldContainer* KnField::getContainer() const
 }
 
 void KnField::touch()
+{
+    written();
+    callSensors();
+}
+
+void KnField::callSensors()
 {
     KnWriteThread::check();
     for (KnFieldSensor* sensor : m_sensors)

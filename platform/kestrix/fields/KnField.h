@@ -28,6 +28,12 @@ public:
     int isIgnored() const { return m_ignored ? 1 : 0; }
     void setIgnored(int ignored);
 
+    /// A read-only field shows what the program keeps in it: it refuses each text that `set` and
+    /// its companions are given, with a KnReadError. The program itself writes typed values as
+    /// always.
+    bool isReadOnly() const { return m_readOnly; }
+    void setReadOnly(bool readOnly);
+
     /// Null for a field that stands alone.
     KnFieldContainer* getContainer() const;
     /// The container as its fields know it; null for a field that stands alone.
@@ -36,15 +42,28 @@ public:
     /// Tells the sensors that something changed; they run later, from the kernel's queue.
     void touch();
 
+    /// Whether any sensor is attached.
+    bool isWatched() const { return !m_sensors.empty(); }
+
 protected:
     KnField();
+
+    /// The value was written or touched. Called at once, before any sensor hears of it; the field
+    /// may write itself here, which comes back here.
+    virtual void written() { }
+    /// The first sensor has been attached, or the last one detached. Not called any more while the
+    /// field is being destroyed.
+    virtual void watchedChanged() { }
 
 private:
     friend class KnFieldOwner;
     friend class KnFieldSensor;
     friend class KnMField;
 
+    void callSensors();
+
     KnFieldOwner* m_owner = nullptr; // not owned; it has this field as a member
     std::vector<KnFieldSensor*> m_sensors; // not owned
     bool m_ignored = false;
+    bool m_readOnly = false;
 };

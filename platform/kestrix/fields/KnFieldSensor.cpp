@@ -4,6 +4,8 @@
 #include "KnField.h"
 #include "KnSensorQueue.h"
 
+#include <utility>
+
 KnSensor::~KnSensor() { KnSensorQueue::getInstance().remove(this); }
 
 KnFieldSensor::~KnFieldSensor() { detach(); }
@@ -15,6 +17,8 @@ void KnFieldSensor::attach(KnField* field)
         return;
     m_field = field;
     field->m_sensors.push_back(this);
+    if (field->m_sensors.size() == 1)
+        field->watchedChanged();
 }
 
 void KnFieldSensor::detach()
@@ -22,6 +26,8 @@ void KnFieldSensor::detach()
     KnSensorQueue::getInstance().remove(this);
     if (!m_field)
         return;
-    std::erase(m_field->m_sensors, this);
-    m_field = nullptr;
+    KnField* const field = std::exchange(m_field, nullptr);
+    std::erase(field->m_sensors, this);
+    if (field->m_sensors.empty())
+        field->watchedChanged();
 }

@@ -53,3 +53,15 @@ void knPostRefusal(const KnField& field, int row, std::string_view text, std::si
     message += ", " + excerpt(text.substr(offset));
     KnReadError::post(KbString(std::move(message)));
 }
+
+void knPostRefusal(const KnField& field, std::string_view reason)
+{
+    KnReadError::post(KbString(describe(field) + ": " + std::string(reason)));
+}
+
+bool knAcceptsText(const KnField& field)
+{
+    if (field.isReadOnly())
+        knPostRefusal(field, "the field is read-only");
+    return !field.isReadOnly();
+}

@@ -14,12 +14,20 @@ class KnField;
 void knPostRefusal(const KnField& field, int row, std::string_view text, std::size_t offset,
     std::string_view expected);
 
+/// Posts a KnReadError that names the field by node and field name and says why it takes nothing.
+void knPostRefusal(const KnField& field, std::string_view reason);
+
+/// Whether the field takes texts at all. False, after a KnReadError, if it is read-only.
+bool knAcceptsText(const KnField& field);
+
 /// Takes one value out of a text that must hold nothing else; `""` gives the default value. `read`
 /// is called with the reader and the fresh value. False, after a KnReadError in the name of the
 /// field, when the text is refused. `row` is -1 for a field of one value.
 template <class Value, class Read>
 bool knReadWhole(const KnField& field, int row, const KbString& text, Value& value, Read read)
 {
+    if (!knAcceptsText(field))
+        return false;
     KnTextReader reader(text.toUtf8());
     Value fresh {};
     if ((reader.acceptDefault() || read(reader, fresh)) && reader.expectEnd()) {

@@ -151,6 +151,8 @@ bool KnMFieldOf<FieldValue>::readArray(KnTextReader& reader, std::vector<Value>&
 template <class FieldValue>
 bool KnMFieldOf<FieldValue>::set(const KbString& text)
 {
+    if (!knAcceptsText(*this))
+        return false;
     KnTextReader reader(text.toUtf8());
     std::vector<Value> values;
     const bool read = reader.acceptDefault() || readArray(reader, values);

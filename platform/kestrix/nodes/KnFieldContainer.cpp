@@ -52,3 +52,7 @@ void KnFieldContainer::addField(
     if (data.findOffset(offset) < 0)
         data.m_entries.push_back({ name, offset, info });
 }
+
+KnField* KnFieldContainer::ownField(int) { return nullptr; }
+
+int KnFieldContainer::ownIndex(const KnField*) const { return -1; }

@@ -34,7 +34,15 @@ protected:
     void addField(
         KnFieldData& data, const char* name, KnField& field, const KnFieldInfo& info = {});
 
+    /// The field that stands in the table at this index, by KnFieldData::addOwnField. It belongs to
+    /// this node, which may make it now. Not null for such an index.
+    virtual KnField* ownField(int index);
+    /// The index of one of these fields; -1 for any other.
+    virtual int ownIndex(const KnField* field) const;
+
 private:
+    friend class KnFieldData;
+
     KbName m_name;
     int m_referenceCount = 0;
 };

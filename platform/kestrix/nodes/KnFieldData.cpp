@@ -23,7 +23,8 @@ int KnFieldData::getIndex(const KnFieldContainer* container, const KnField* fiel
     // Offsets only mean something within one object, so another node's field is ruled out first.
     if (!container || !field || field->getContainer() != container)
         return -1;
-    return findOffset(offsetOf(container, field));
+    const int own = container->ownIndex(field);
+    return own >= 0 ? own : findOffset(offsetOf(container, field));
 }
 
 int KnFieldData::getIndex(const KbName& name) const
@@ -39,11 +40,20 @@ const KnField* KnFieldData::getField(const KnFieldContainer* container, int inde
 {
     if (!container || index < 0 || index >= getNum())
         return nullptr;
-    return reinterpret_cast<const KnField*>(reinterpret_cast<const char*>(container)
-        + m_entries[static_cast<std::size_t>(index)].offset);
+    const std::ptrdiff_t offset = m_entries[static_cast<std::size_t>(index)].offset;
+    // No member lies where the node itself begins.
+    if (offset == 0)
+        return const_cast<KnFieldContainer*>(container)->ownField(index); // it may be made now
+    return reinterpret_cast<const KnField*>(reinterpret_cast<const char*>(container) + offset);
 }
 
 KnField* KnFieldData::getField(KnFieldContainer* container, int index) const
 {
     return const_cast<KnField*>(getField(static_cast<const KnFieldContainer*>(container), index));
+}
+
+int KnFieldData::addOwnField(const KbName& name)
+{
+    m_entries.push_back({ name, 0 });
+    return getNum() - 1;
 }

@@ -12,6 +12,10 @@ class KnFieldContainer;
 
 /// The fields of one node class by index and name, those of its base classes first. One object
 /// serves all instances of the class.
+///
+/// Fields are members of their node as a rule, all at the same place in each. A class whose fields
+/// are known only while the program runs lists them by name instead, and its nodes make them; see
+/// KnFieldContainer::ownField.
 class KnFieldData {
 public:
     int getNum() const { return static_cast<int>(m_entries.size()); }
@@ -32,13 +36,16 @@ public:
     KnField* getField(KnFieldContainer* container, int index) const;
     const KnField* getField(const KnFieldContainer* container, int index) const;
 
+    /// Adds a field that each node has by itself. The result is its index.
+    int addOwnField(const KbName& name);
+
 private:
     friend class KnFieldContainer;
 
     struct Entry {
         KbName name;
-        std::ptrdiff_t offset; // of the field from its container, in bytes
-        KnFieldInfo info;
+        std::ptrdiff_t offset; // of the field from its container, in bytes; 0 for one of its own
+        KnFieldInfo info {};
     };
 
     static std::ptrdiff_t offsetOf(const KnFieldContainer* container, const KnField* field);

@@ -19,7 +19,7 @@ KnFieldContainer* KnGraphWalk::next()
         if (!m_seen.insert(node).second)
             continue;
         const auto* const group = static_cast<const KnGroup*>(node);
-        for (int i = 0; i < group->getNumChildren(); ++i)
+        for (int i = 0; i < group->getNumMadeChildren(); ++i)
             m_waiting.push_back(group->getChild(i));
         return node;
     }

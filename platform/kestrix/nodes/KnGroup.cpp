@@ -30,13 +30,15 @@ KnGroup::~KnGroup()
 
 KnFieldContainer* KnGroup::getChild(int index) const
 {
-    return index >= 0 && index < getNumChildren()
+    lookAtChildren();
+    return index >= 0 && index < getNumMadeChildren()
         ? m_children[static_cast<std::size_t>(index)].get()
         : nullptr;
 }
 
 int KnGroup::findChild(const KnFieldContainer* child) const
 {
+    lookAtChildren();
     const auto found = std::find_if(m_children.begin(), m_children.end(),
         [child](const KnNodePtr& each) { return each.get() == child; });
     return found == m_children.end() ? -1 : static_cast<int>(found - m_children.begin());
@@ -83,6 +85,22 @@ bool KnGroup::moveChild(int from, int to)
     const int count = std::abs(to - from) + 1;
     report({ std::min(from, to), count, count });
     return true;
+}
+
+void KnGroup::replaceChildren(int first, int removed, std::vector<KnNodePtr> children)
+{
+    const auto place = m_children.begin() + first;
+    // Released only once the list is in order.
+    const std::vector<KnNodePtr> gone(place, place + removed);
+    const auto end = m_children.erase(place, place + removed);
+    m_children.insert(end, children.begin(), children.end());
+    report({ first, removed, static_cast<int>(children.size()) });
+}
+
+void KnGroup::firstLook()
+{
+    m_waitsForLook = false;
+    makeChildren();
 }
 
 void KnGroup::report(const KnGroupSensor::Change& change) const

@@ -17,7 +17,13 @@ class KnGroup : public KnNode {
 
     KnSFBool visible; ///< whether the children are drawn
 
-    int getNumChildren() const { return static_cast<int>(m_children.size()); }
+    int getNumChildren() const
+    {
+        lookAtChildren();
+        return getNumMadeChildren();
+    }
+    /// How many there are without making any, for whoever looks for a node that exists already.
+    int getNumMadeChildren() const { return static_cast<int>(m_children.size()); }
     /// Null for an index outside 0 to `getNumChildren() - 1`. The child stays the group's.
     KnFieldContainer* getChild(int index) const;
     /// -1 if it isn't a child.
@@ -42,12 +48,30 @@ protected:
     ~KnGroup() override;
     static KnFieldData& fieldData();
 
+    /// For a class that makes its children when somebody first looks at them: the next look calls
+    /// `makeChildren`, which hands them to `replaceChildren`.
+    void makeChildrenLater() { m_waitsForLook = true; }
+    bool waitsForLook() const { return m_waitsForLook; }
+    virtual void makeChildren() { }
+    /// Puts other children in place of `removed` children from `first` on, and tells the sensors.
+    /// None is null, and none is this group or has it among its descendants: nothing is checked,
+    /// since that would look at all that stands below them.
+    void replaceChildren(int first, int removed, std::vector<KnNodePtr> children);
+
 private:
     friend class KnGroupSensor;
+
+    void lookAtChildren() const
+    {
+        if (m_waitsForLook)
+            const_cast<KnGroup*>(this)->firstLook();
+    }
+    void firstLook();
 
     bool isBelow(KnFieldContainer* root) const;
     void report(const KnGroupSensor::Change& change) const;
 
     std::vector<KnNodePtr> m_children; // none is null
     std::vector<KnGroupSensor*> m_sensors; // not owned
+    bool m_waitsForLook = false;
 };

@@ -28,6 +28,7 @@ void KnGroupSensor::attach(KnGroup* group)
     detach();
     if (!group)
         return;
+    group->lookAtChildren(); // what a first look makes is no change
     m_group = group;
     group->m_sensors.push_back(this);
 }
