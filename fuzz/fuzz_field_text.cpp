@@ -1,27 +1,22 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "FuzzTarget.h"
 #include "KnDatabase.h"
 #include "KnMField.h"
 #include "KnReadError.h"
 #include "KnSFBitMask.h"
 
-#include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
-#include <string_view>
 
 namespace {
 
-constexpr std::array types { "SFBitMask", "SFBool", "SFBox3s", "SFDouble", "SFEnum", "SFFloat",
-    "SFImage", "SFInt32", "SFMatrix", "SFName", "SFString", "SFUInt32", "SFUShort", "SFVec3f",
-    "MFDouble", "MFFloat", "MFName", "MFRotation", "MFShort", "MFString", "MFVec2i32", "MFVec3f" };
-
 int errorCount = 0;
 
-std::unique_ptr<KnField> make(const char* type)
+/// Null where that is no type of a field that can be made.
+std::unique_ptr<KnField> make(const KnType& type)
 {
-    KnDatabase::init();
-    auto* field = static_cast<KnField*>(KnType::fromName(type).createInstance());
+    if (!type.isDerivedFrom(KnField::getClassTypeId()) || !type.canCreateInstance())
+        return nullptr;
+    auto* field = static_cast<KnField*>(type.createInstance());
     if (field->isOfType(KnSFEnum::getClassTypeId()))
         static_cast<KnSFEnum*>(field)->setEnums({ { "A", 1 }, { "B", 2 }, { "AB", 3 } });
     return std::unique_ptr<KnField>(field);
@@ -34,50 +29,47 @@ std::string textOf(const KnField& field)
     return text.toUtf8();
 }
 
-void require(bool condition, const char* what, const KnField& field)
+/// The rows of an array, one by one, make the same array.
+void requireRows(const KnMField& from)
 {
-    if (condition)
-        return;
-    std::fprintf(stderr, "%s: %s\n", textOf(field).c_str(), what);
-    std::abort();
+    const auto field = make(from.getObjectType());
+    auto& to = static_cast<KnMField&>(*field);
+    to.setNum(from.getNum());
+    for (int row = 0; row < from.getNum(); ++row) {
+        KbString value;
+        require(
+            from.get1(row, value) && to.set1(row, value), "a row isn't taken back", value.toUtf8());
+    }
+    require(textOf(to) == textOf(from), "the rows aren't given again", textOf(from));
 }
 
 } // namespace
 
-/// The first byte picks the field type, the rest is the text. When a field takes it, the text that
-/// the field then gives must be taken by another field of the type, and given back the same. When
-/// the field refuses it, nothing may change, and one error is posted.
-// NOLINTNEXTLINE(readability-identifier-naming): the name that libFuzzer calls
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+/// The first line names a field type, the rest is a text for a field of it. When the field refuses
+/// the text, nothing may change, and one error is posted.
+void fuzzInput(std::string_view input)
 {
-    if (size == 0)
-        return 0;
+    KnDatabase::init();
     KnReadError::setHandlerCallback([](const KnError*, void*) { ++errorCount; }, nullptr);
-    const char* const type = types[data[0] % types.size()];
-    const KbString text(std::string_view(reinterpret_cast<const char*>(data) + 1, size - 1));
+    const std::size_t line = input.find('\n');
+    if (line == std::string_view::npos)
+        return;
+    const KnType type = KnType::fromName(KbName(KbString(input.substr(0, line))));
     const auto field = make(type);
+    if (!field)
+        return;
     const std::string before = textOf(*field);
     const int errors = errorCount;
-    if (!field->set(text)) {
-        require(textOf(*field) == before, "a refused text changed the field", *field);
-        require(errorCount == errors + 1, "a refusal wasn't reported once", *field);
-        return 0;
+    if (!field->set(KbString(input.substr(line + 1)))) {
+        require(textOf(*field) == before, "a refused text changed the field", textOf(*field));
+        require(errorCount == errors + 1, "a refusal wasn't reported once");
+        return;
     }
-    require(errorCount == errors, "a text that was taken was reported", *field);
-    const std::string canonical = textOf(*field);
-    const auto other = make(type);
-    require(other->set(KbString(canonical)), "the text isn't taken back", *field);
-    require(textOf(*other) == canonical, "the text isn't given again", *field);
-    if (!field->isOfType(KnMField::getClassTypeId()))
-        return 0;
-    const auto& from = static_cast<const KnMField&>(*field);
-    const auto third = make(type);
-    auto& to = static_cast<KnMField&>(*third);
-    to.setNum(from.getNum());
-    for (int row = 0; row < from.getNum(); ++row) {
-        KbString value;
-        require(from.get1(row, value) && to.set1(row, value), "a row isn't taken back", from);
-    }
-    require(textOf(to) == canonical, "the rows aren't given again", from);
-    return 0;
+    require(errorCount == errors, "a text that was taken was reported");
+    requireFixedPoint(*field, textOf, [&](const std::string& text) {
+        auto other = make(type);
+        return other->set(KbString(text)) ? std::move(other) : nullptr;
+    });
+    if (field->isOfType(KnMField::getClassTypeId()))
+        requireRows(static_cast<const KnMField&>(*field));
 }

@@ -8,6 +8,7 @@ jobs=$(nproc)
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libbenchmark-dev)
 test_packages=(xvfb xauth openbox locales clang-format binutils)
 lint_packages=(clang-tidy)
+fuzz_packages=(clang libclang-rt-dev)
 
 fail() {
     echo "$(basename "$0"): $*" >&2
