@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "CrvEditor.h"
 #include "CrvProfileReader.h"
+#include "CrvProfileResolution.h"
 #include "CrvStrings.h"
 #include "FuzzTarget.h"
 #include "JsonText.h"
@@ -56,6 +58,26 @@ std::optional<Profiles> readProfiles(std::string_view json)
     return profiles;
 }
 
+template <class Base>
+struct Named : Base {
+    explicit Named(const char* name) { this->m_name = KbString(name); }
+};
+
+/// Finds extensions for the names of a profile, in a time that doesn't explode.
+void resolve(const CrvProfile& profile)
+{
+    Named<CrvExtension> console("Console");
+    Named<CrvExtension> dock("Field Editor");
+    Named<CrvEditor> editor("SFBool");
+    Named<CrvEditor> sameName("SFBool");
+    Named<CrvEditor> other("MField");
+    const CrvProfileResolution resolution(profile, { &console, &dock, &editor, &sameName, &other });
+    for (CrvExtension* const top : resolution.getTopExtensions()) {
+        require(resolution.getSetting(top) && (top == &console || top == &dock),
+            "an editor stands at the top, or an extension without a setting");
+    }
+}
+
 } // namespace
 
 /// A file of profiles is refused as a whole, with a reason, or all of it can be told again.
@@ -68,6 +90,7 @@ void fuzzInput(std::string_view input)
     for (const auto& profile : *profiles) {
         const std::string name(profile->getName().toUtf8());
         require(!name.empty() && names.insert(name).second, "a name is missing or is there twice");
+        resolve(*profile);
     }
     requireFixedPoint(*profiles, profilesText, readProfiles);
 }

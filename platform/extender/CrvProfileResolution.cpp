@@ -35,6 +35,7 @@ CrvProfileResolution::CrvProfileResolution(
             addChildren(makeSetting(extension), entry, extensions);
         }
     }
+    m_followed.clear();
 }
 
 CrvProfileResolution::~CrvProfileResolution() = default;
@@ -56,6 +57,8 @@ CrvProfileSetting* CrvProfileResolution::makeSetting(CrvExtension* extension)
 void CrvProfileResolution::addChildren(CrvProfileSetting* setting, const CrvProfileEntry& entry,
     const std::vector<CrvExtension*>& extensions)
 {
+    if (!m_followed.insert({ setting, &entry }).second)
+        return;
     for (const CrvProfileEntry& child : entry.children) {
         for (CrvExtension* extension : extensions) {
             if (!matches(child.extension, extension, false))

@@ -3,6 +3,9 @@
 
 #include "CrvProfile.h"
 
+#include <set>
+#include <utility>
+
 /// What a profile means for the extensions at hand: its names turned into extensions. A name that
 /// no extension has stands for nothing, one that several have stands for all of them. The name "*"
 /// stands, at the top, for every extension that isn't an editor, and below another extension
@@ -26,4 +29,7 @@ private:
 
     std::vector<CrvExtension*> m_topExtensions; // not owned
     std::map<const CrvExtension*, std::unique_ptr<CrvProfileSetting>> m_settings;
+    // Which entries were followed for which settings. Without it, names that match many extensions,
+    // a few levels deep, would take for ever.
+    std::set<std::pair<const CrvProfileSetting*, const CrvProfileEntry*>> m_followed;
 };
