@@ -62,7 +62,9 @@ struct Parser : QCommandLineParser {
                         "times."),
         QStringLiteral("file") };
     const QCommandLineOption selection { QStringLiteral("select"),
-        CommandLine::tr("Node, or node and field, to select."), QStringLiteral("node[.field]") };
+        CommandLine::tr("Node, or node and field, to select; see below for how nodes are "
+                        "called."),
+        QStringLiteral("node[.field]") };
     const QCommandLineOption picture { QStringLiteral("picture"),
         CommandLine::tr("Draws the window into a file, without a display, and ends. The suffix of "
                         "the file says the format: png, jpg, bmp..."),
@@ -173,7 +175,8 @@ QString scriptHelp()
         "  /Room/Lamp       The same, where Room is the root.\n"
         "  PointLight[2]    The third one, where several nodes are meant.\n"
         "  a\\/b             The node \"a/b\": a backslash stands before / [ = and itself,\n"
-        "                   where they are part of a name; \\n is a line end, \\t a tabulator.\n"
+        "                   where they are part of a name. \\n is a line end, \\t a\n"
+        "                   tabulator.\n"
         "\n"
         "  A node without a name goes by its type. The last point parts the field from\n"
         "  the node, so points in names need nothing. Upper and lower case matter only\n"

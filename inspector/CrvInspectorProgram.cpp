@@ -147,14 +147,16 @@ int CrvInspectorProgram::run(int argc, char** argv)
         return answer(argc, argv, commandLine.request);
 
     const bool forPerson = commandLine.picture.isEmpty();
+    const QString advice = CommandLine::tr(
+        "--picture FILE draws the window into a file, and --list, --get and --set show none");
     if (!forPerson)
         drawOffscreen();
     else if (!hasDisplay(commandLine))
         return fail(
-            CommandLine::tr("no display answers, so no window can be opened; --picture FILE "
-                            "draws it into a file, and --list, --get and --set show none"));
+            CommandLine::tr("no display answers, so no window can be opened; %1").arg(advice));
     std::optional<ToolkitMessages> messages(std::in_place,
-        forPerson ? ToolkitMessages::Manner::PassOn : ToolkitMessages::Manner::Hush, usageError);
+        forPerson ? ToolkitMessages::Manner::PassOn : ToolkitMessages::Manner::Hush,
+        forPerson ? advice : QString(), usageError);
     ApplicationArguments arguments(argv[0], commandLine.toolkitArguments);
     const QApplication application(arguments.count(), arguments.values());
     if (forPerson)

@@ -3,36 +3,43 @@
 
 #include "Messages.h"
 
-#include <atomic>
 #include <cstdlib>
 
-namespace {
+std::atomic<const ToolkitMessages*> ToolkitMessages::s_current;
 
-// The handler is a plain function, and may be called from any thread.
-std::atomic<QtMessageHandler> outerHandler;
-std::atomic<bool> isHushed;
-std::atomic<int> exitStatus;
-
-} // namespace
-
-ToolkitMessages::ToolkitMessages(Manner manner, int fatalStatus)
+ToolkitMessages::ToolkitMessages(Manner manner, const QString& advice, int fatalStatus)
+    : m_isHushed(manner == Manner::Hush && qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
+    , m_advice(advice)
+    , m_fatalStatus(fatalStatus)
 {
-    isHushed = manner == Manner::Hush && qEnvironmentVariableIsEmpty("QT_LOGGING_RULES");
-    exitStatus = fatalStatus;
-    outerHandler = qInstallMessageHandler(handle);
+    m_outer = qInstallMessageHandler(nullptr);
+    s_current = this;
+    qInstallMessageHandler(handle);
 }
 
-ToolkitMessages::~ToolkitMessages() { qInstallMessageHandler(outerHandler); }
+ToolkitMessages::~ToolkitMessages()
+{
+    qInstallMessageHandler(m_outer);
+    s_current = nullptr;
+}
 
 void ToolkitMessages::handle(
     QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (type == QtFatalMsg) {
-        complainToTerminal(tr("corvane: the window system can't be used: %1").arg(message));
-        // Half of the application object may be there, so nothing is cleaned up.
-        std::_Exit(exitStatus);
-    }
-    const QtMessageHandler outer = outerHandler;
-    if (!isHushed && outer)
-        outer(type, context, message);
+    const ToolkitMessages* const current = s_current;
+    if (!current)
+        return; // a thread that got here while the handler was taken away
+    if (type == QtFatalMsg)
+        current->giveUp(message);
+    if (!current->m_isHushed)
+        current->m_outer(type, context, message);
+}
+
+void ToolkitMessages::giveUp(const QString& reason) const
+{
+    complainToTerminal(tr("corvane: the window system can't be used: %1").arg(reason.trimmed()));
+    if (!m_advice.isEmpty())
+        complainToTerminal(QStringLiteral("corvane: ") + m_advice);
+    // Half of the application object may be there, so nothing is cleaned up.
+    std::_Exit(m_fatalStatus);
 }

@@ -165,12 +165,16 @@ QString FieldListModel::meaning(const Row& row) const
     return fieldMeaning(m_node->getContainerFieldData()->getInfo(row.number));
 }
 
+// As rich text, whose lines are broken where they get long.
 QString FieldListModel::toolTip(Row& row) const
 {
-    QStringList lines { tr("%1 (%2)").arg(row.name, typeName(row.field->getObjectType())),
-        meaning(row), valueText(row) };
+    QStringList lines { QStringLiteral("<b>%1</b>  %2")
+                            .arg(row.name.toHtmlEscaped(),
+                                typeName(row.field->getObjectType()).toHtmlEscaped()),
+        meaning(row).toHtmlEscaped(), valueText(row).toHtmlEscaped() };
     lines.removeAll(QString());
-    return toolTipText(lines.join(u'\n'));
+    return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>")
+        .arg(lines.join(QStringLiteral("<br>")));
 }
 
 double FieldListModel::light(const Row& row) const

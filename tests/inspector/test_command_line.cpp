@@ -84,7 +84,8 @@ private Q_SLOTS:
     void aWindowNeedsADisplay_data()
     {
         addTextRows({ { "" }, { "DISPLAY", ":4711" }, { "QT_QPA_PLATFORM", "xcb" },
-            { "WAYLAND_DISPLAY", "wayland-4711" }, { "QT_QPA_PLATFORM", "wayland;xcb" } });
+            { "WAYLAND_DISPLAY", "wayland-4711" }, { "QT_QPA_PLATFORM", "wayland;xcb" },
+            { "QT_QPA_PLATFORM", "nowhere" } });
     }
     void aWindowNeedsADisplay()
     {
