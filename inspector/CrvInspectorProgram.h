@@ -5,7 +5,7 @@
 class CrvInspectorProgram {
 public:
     /// Makes the application object, opens what the command line names and runs the event loop, or
-    /// answers a question or draws a picture without one. The result is the exit status of the
-    /// process.
+    /// answers a question, runs a script or draws a picture without one. The result is the exit
+    /// status of the process.
     static int run(int argc, char** argv);
 };

@@ -16,15 +16,12 @@ class NodePlaces {
 public:
     using Nodes = std::vector<KnFieldContainer*>;
 
-    /// What an address leads to.
+    /// What an address leads to. The rest says why, if there are no nodes.
     struct Result {
         Nodes nodes; ///< several if the address is ambiguous, in the order of the tree
-        /// If there are none: the step that leads nowhere,
-        std::size_t failedStep = 0;
-        /// the nodes among which it looked,
-        Nodes considered;
-        /// and how many of them go by its label, if only its index is too large.
-        std::size_t labelled = 0;
+        std::size_t failedStep = 0; ///< that leads nowhere
+        Nodes considered; ///< what that step had to choose from
+        std::size_t labelled = 0; ///< how many of these go by its label; its index is too large
     };
 
     /// Roots that aren't null, in order.

@@ -113,6 +113,23 @@ private Q_SLOTS:
         }
     }
 
+    // Each group stands twice in the one above, so that the leaf has 2^40 places.
+    void sharedPartsAreWalkedOnce()
+    {
+        constexpr int levels = 40;
+        KnNodePtr top(new KnGroup);
+        top->setName("Leaf");
+        for (int i = 0; i < levels; ++i) {
+            auto* const group = new KnGroup;
+            group->addChild(top.get());
+            group->addChild(top.get());
+            top = KnNodePtr(group);
+        }
+        SceneSearch search({ top.get() });
+        QCOMPARE(search.places().nodes().size(), levels + 1);
+        QVERIFY(search.find(u"Group[1]/Group/Group/Group"_s) && search.find(u"Leaf.visible"_s));
+    }
+
     void scripts_data()
     {
         // Steps parted by bars, what they print, and the error.
