@@ -117,8 +117,13 @@ private:
             return;
         const Value value = m_slider->getValue();
         show(m_owner.told);
-        require(m_slider->getValue() == value || value != value,
-            "what was told brings another value back", m_owner.told.toStdString());
+        const Value again = m_slider->getValue();
+        // A slider of reals rounds what it is to show.
+        if constexpr (std::is_same_v<Value, double>)
+            m_slider->setValue(value);
+        const Value expected = std::is_same_v<Value, double> ? m_slider->getValue() : value;
+        require(again == expected || value != value, "what was told brings another value back",
+            m_owner.told.toStdString());
     }
 
     /// Whether the line's text is a number in the slider's base.

@@ -73,7 +73,7 @@ run() {
     for finding in "$findings/$target"-*; do
         [ -f "$finding" ] && found=yes && keep "$target" "$finding"
     done
-    grep -vE '^(#|INFO:)' "$log" | tail -n 60
+    grep -vE '^(#|INFO:)' "$log" | tail -n 30
     [ -n "$found" ] || echo "Failed without an input: $log"
     return 1
 }
