@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FieldLines.h"
 
+#include "FieldTyping.h"
 #include "KnFieldContainer.h"
-#include "KnMFields.h"
+#include "KnMField.h"
 #include "KnReadErrorCapture.h"
-#include "KnSFields.h"
 #include "SceneText.h"
 
 #include <QStringList>
@@ -83,27 +83,6 @@ KnField* fieldNamed(KnFieldContainer& node, QStringView name)
             return data->getField(&node, i);
     }
     return nullptr;
-}
-
-bool isText(const KnField& field)
-{
-    return field.isOfType(KnSFString::getClassTypeId())
-        || field.isOfType(KnSFName::getClassTypeId());
-}
-
-bool isTextArray(const KnField& field)
-{
-    return field.isOfType(KnMFString::getClassTypeId())
-        || field.isOfType(KnMFName::getClassTypeId());
-}
-
-KbString quoted(const QString& text)
-{
-    KnSFString writer;
-    writer.setValue(toKbString(text));
-    KbString result;
-    writer.get(result);
-    return result;
 }
 
 KbString arrayText(const KnField& array, const QString& text)

@@ -29,11 +29,6 @@ std::vector<KnField*> fieldsOf(KnFieldContainer& node);
 /// Null if the node has none of that name. Unlike a KbName, the name of no field isn't kept.
 KnField* fieldNamed(KnFieldContainer& node, QStringView name);
 
-/// Whether the field holds one text, or an array of texts, which people write without quotes.
-bool isText(const KnField& field);
-bool isTextArray(const KnField& field);
-/// A text in quotes, with what is special in it escaped.
-KbString quoted(const QString& text);
 /// What somebody else's text is as the text of an array: each line is a row, and so is each cell of
 /// a line if a row is one number or text. A text in brackets is one already.
 KbString arrayText(const KnField& array, const QString& text);

@@ -3,6 +3,7 @@
 
 #include "FieldLines.h"
 #include "FieldStep.h"
+#include "FieldTyping.h"
 #include "KnFieldContainer.h"
 #include "KnMField.h"
 #include "SceneText.h"

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FieldListModel.h"
 
+#include "FieldStep.h"
+#include "FieldTyping.h"
 #include "KnField.h"
-#include "KnFieldSensor.h"
-#include "KnSFImage.h"
 #include "SceneText.h"
+#include "SharedFields.h"
 
 #include <QFont>
 #include <QTimerEvent>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -19,45 +19,15 @@ namespace {
 constexpr qint64 lightTime = 700;
 constexpr int lightStep = 36;
 
-/// Whether the summary of a field leaves nothing out.
-bool showsAll(const KnField& field, const QString& summary)
+/// What the class of its node says of a field.
+QString meaning(const KnField& field)
 {
-    const QChar ellipsis(0x2026);
-    return !summary.contains(ellipsis) && !field.isOfType(KnSFImage::getClassTypeId());
+    const KnFieldContainer* const node = field.getContainer();
+    const KnFieldData* const fields = node->getContainerFieldData();
+    return fieldMeaning(fields->getInfo(fields->getIndex(node, &field)));
 }
 
 } // namespace
-
-/// One field and the sensor that watches it.
-struct FieldListModel::Row {
-    Row(FieldListModel* rowModel, int rowNumber, KnField* rowField, const QString& rowName)
-        : model(rowModel)
-        , number(rowNumber)
-        , field(rowField)
-        , name(rowName)
-        , sensor(fieldChanged, this)
-    {
-        sensor.attach(field);
-    }
-
-    static void fieldChanged(void* data, KnSensor*)
-    {
-        auto* const row = static_cast<Row*>(data);
-        row->model->fieldChanged(*row);
-    }
-
-    FieldListModel* model;
-    int number;
-    KnField* field; // lives in the model's node
-    QString name;
-    KnFieldSensor sensor;
-    // What the list shows; null before anybody has asked.
-    QString value;
-    bool ignored = false;
-    qint64 changedAt = 0; // by the model's clock, in milliseconds
-    bool lit = false;
-    bool waits = false; // has changed since it was last announced
-};
 
 FieldListModel::FieldListModel(QObject* parent)
     : QAbstractTableModel(parent)
@@ -69,34 +39,70 @@ FieldListModel::~FieldListModel() = default;
 
 void FieldListModel::setNode(KnFieldContainer* node)
 {
+    setNodes(node ? std::vector { node } : std::vector<KnFieldContainer*>());
+}
+
+void FieldListModel::setNodes(const std::vector<KnFieldContainer*>& nodes, bool compared)
+{
     beginResetModel();
     m_timer.stop();
     m_rows.clear();
-    m_node = KnNodePtr(node);
-    const KnFieldData* const data = node ? node->getContainerFieldData() : nullptr;
-    for (int i = 0; data && i < data->getNum(); ++i) {
-        m_rows.push_back(std::make_unique<Row>(
-            this, i, data->getField(node, i), toQString(data->getName(i).getString())));
+    m_nodes.clear();
+    for (KnFieldContainer* node : nodes)
+        m_nodes.emplace_back(node);
+    m_compared = compared && nodes.size() == 2;
+    std::vector<SharedField> fields
+        = m_compared ? fieldPairs(*nodes[0], *nodes[1]) : sharedFields(nodes);
+    ListedField::Listener& listener = *this;
+    for (SharedField& shared : fields) {
+        KnField* const other = m_compared ? shared.fields[1] : nullptr;
+        if (m_compared)
+            shared.fields.resize(1);
+        m_rows.push_back(std::make_unique<ListedField>(listener, m_defaults,
+            static_cast<int>(m_rows.size()), shared.name, std::move(shared.fields), other));
     }
     if (m_held)
-        std::for_each(m_rows.begin(), m_rows.end(), [this](const auto& row) { valueText(*row); });
+        std::for_each(m_rows.begin(), m_rows.end(), [](const auto& row) { row->shown(); });
     endResetModel();
+}
+
+std::vector<KnFieldContainer*> FieldListModel::nodes() const
+{
+    std::vector<KnFieldContainer*> nodes;
+    for (const KnNodePtr& node : m_nodes)
+        nodes.push_back(node.get());
+    if (m_compared)
+        nodes.resize(1);
+    return nodes;
+}
+
+ListedField& FieldListModel::row(const QModelIndex& index) const
+{
+    return *m_rows[static_cast<std::size_t>(index.row())];
 }
 
 KnField* FieldListModel::field(const QModelIndex& index) const
 {
-    if (!index.isValid() || index.model() != this)
-        return nullptr;
-    return m_rows[static_cast<std::size_t>(index.row())]->field;
+    return index.isValid() && index.model() == this ? &row(index).field() : nullptr;
+}
+
+std::vector<KnField*> FieldListModel::fields(const QModelIndex& index) const
+{
+    return field(index) ? row(index).fields() : std::vector<KnField*>();
 }
 
 int FieldListModel::rowOf(const KnField* field) const
 {
     for (const auto& row : m_rows) {
-        if (row->field == field)
-            return row->number;
+        if (&row->field() == field)
+            return row->number();
     }
     return -1;
+}
+
+bool FieldListModel::isChanged(int row) const
+{
+    return m_rows[static_cast<std::size_t>(row)]->shown().isChanged;
 }
 
 int FieldListModel::rowCount(const QModelIndex& parent) const
@@ -111,76 +117,78 @@ int FieldListModel::columnCount(const QModelIndex& parent) const
 
 QVariant FieldListModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid())
-        return QVariant();
-    Row& row = *m_rows[static_cast<std::size_t>(index.row())];
+    return index.isValid() ? cell(row(index), index.column(), role) : QVariant();
+}
+
+QVariant FieldListModel::cell(ListedField& row, int column, int role) const
+{
+    const bool isValue = column == ValueColumn;
     switch (role) {
     case Qt::DisplayRole:
-        return text(row, index.column());
+        return text(row, column);
     case Qt::ToolTipRole:
-        return toolTip(row);
+        return toolTip(row, column);
     case Qt::StatusTipRole:
-        return meaning(row);
-    case Qt::FontRole:
-        valueText(row);
-        if (row.ignored) {
-            QFont font;
-            font.setStrikeOut(index.column() == ValueColumn);
-            return font;
-        }
-        return QVariant();
+        return meaning(row.field());
+    case Qt::FontRole: {
+        const ListedField::Shown& shown = row.shown();
+        const bool isBold = shown.isChanged && (isValue || column == NameColumn);
+        if (!isBold && !shown.isIgnored)
+            return QVariant();
+        QFont font;
+        font.setBold(isBold);
+        font.setStrikeOut(isValue && shown.isIgnored);
+        return font;
+    }
+    case Qt::CheckStateRole:
+        return isValue && row.isBool() ? QVariant(row.shown().check) : QVariant();
+    case Qt::DecorationRole:
+        return isValue && row.shown().color.isValid() ? QVariant(row.shown().color) : QVariant();
+    case Qt::EditRole:
+        // What the nodes don't agree on is typed anew.
+        return isValue && !row.shown().isMixed ? QVariant(typedText(row.field())) : QVariant();
     case LightRole:
-        return index.column() == ValueColumn ? light(row) : 0.0;
+        return isValue ? light(row) : 0.0;
+    case DiffersRole:
+        return (isValue || column == OtherColumn) && row.shown().differs;
     default:
         return QVariant();
     }
 }
 
-const QString& FieldListModel::valueText(Row& row) const
-{
-    if (row.value.isNull()) {
-        row.value = fieldSummary(*row.field);
-        row.ignored = row.field->isIgnored();
-    }
-    return row.value;
-}
-
-QString FieldListModel::text(Row& row, int column) const
+QString FieldListModel::text(ListedField& row, int column) const
 {
     switch (column) {
     case NameColumn:
-        return row.name;
+        return row.name();
     case TypeColumn:
-        return typeName(row.field->getObjectType());
+        return typeName(row.field().getObjectType());
     case ValueColumn:
-        return valueText(row);
+        return row.shown().value;
+    case OtherColumn:
+        return row.shown().other;
     default:
-        valueText(row);
-        return row.ignored ? tr("yes") : QString();
+        return row.shown().isIgnored ? tr("yes") : QString();
     }
 }
 
-QString FieldListModel::meaning(const Row& row) const
-{
-    return fieldMeaning(m_node->getContainerFieldData()->getInfo(row.number));
-}
-
 // As rich text, whose lines are broken where they get long.
-QString FieldListModel::toolTip(Row& row) const
+QString FieldListModel::toolTip(ListedField& row, int column) const
 {
+    const QString& value = column == OtherColumn ? row.shown().other : row.shown().value;
     QStringList lines { QStringLiteral("<b>%1</b>  %2")
-                            .arg(row.name.toHtmlEscaped(),
-                                typeName(row.field->getObjectType()).toHtmlEscaped()),
-        meaning(row).toHtmlEscaped(), valueText(row).toHtmlEscaped() };
+                            .arg(row.name().toHtmlEscaped(),
+                                typeName(row.field().getObjectType()).toHtmlEscaped()),
+        meaning(row.field()).toHtmlEscaped(), value.toHtmlEscaped() };
     lines.removeAll(QString());
     return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>")
         .arg(lines.join(QStringLiteral("<br>")));
 }
 
-double FieldListModel::light(const Row& row) const
+double FieldListModel::light(const ListedField& row) const
 {
     const auto age = static_cast<double>(m_clock.elapsed() - row.changedAt);
-    return row.lit ? std::max(0.0, 1 - age / lightTime) : 0;
+    return row.isLit ? std::max(0.0, 1 - age / lightTime) : 0;
 }
 
 QVariant FieldListModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -193,10 +201,44 @@ QVariant FieldListModel::headerData(int section, Qt::Orientation orientation, in
     case TypeColumn:
         return tr("Type");
     case ValueColumn:
-        return tr("Value");
+        return m_compared ? nodeLabel(*m_nodes.front().get()) : tr("Value");
+    case OtherColumn:
+        return m_compared ? nodeLabel(*m_nodes.back().get()) : QString();
     default:
         return tr("Ignored");
     }
+}
+
+Qt::ItemFlags FieldListModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    if (!index.isValid() || index.column() != ValueColumn)
+        return flags;
+    const ListedField& listed = row(index);
+    if (listed.isBool())
+        return flags | Qt::ItemIsUserCheckable;
+    return fitsLine(listed.field()) ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool FieldListModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (!index.isValid() || (role != Qt::EditRole && role != Qt::CheckStateRole))
+        return false;
+    const QPersistentModelIndex edited(index); // whoever hears of the edit may show another node
+    FieldStep step;
+    for (KnField* field : row(index).fields()) {
+        const bool isTaken = role == Qt::EditRole
+            ? step.setText(*field, fromTyped(*field, value.toString()))
+            : step.setText(*field, value.toInt() == Qt::Checked ? "TRUE" : "FALSE");
+        if (!isTaken)
+            m_refusal = step.refusal();
+    }
+    const bool isRefused = step.count() == 0 && !step.refusal().isEmpty();
+    step.finish(tr("Edit %1 of %2").arg(row(index).name(), nodesLabel(nodes())));
+    // At once, since the next key may come before the sensors run.
+    if (edited.isValid())
+        fieldChanged(row(edited));
+    return !isRefused;
 }
 
 void FieldListModel::setHeld(bool held)
@@ -204,31 +246,23 @@ void FieldListModel::setHeld(bool held)
     m_held = held;
     for (const auto& row : m_rows) {
         if (held)
-            valueText(*row);
-        else if (readAgain(*row))
+            row->shown();
+        else if (row->readAgain())
             showChange(*row);
     }
 }
 
-void FieldListModel::fieldChanged(Row& row)
+void FieldListModel::fieldChanged(ListedField& row)
 {
     // Of a value that isn't shown as a whole, something else may have changed.
-    if (readAgain(row) || !showsAll(*row.field, row.value))
+    if (row.readAgain() || row.leavesOut())
         showChange(row);
 }
 
-/// Whether the list shows something else now. A program may well write what a field holds already.
-bool FieldListModel::readAgain(Row& row)
-{
-    const QString before = std::exchange(row.value, QString());
-    const bool wasIgnored = row.ignored;
-    return valueText(row) != before || row.ignored != wasIgnored;
-}
-
-void FieldListModel::showChange(Row& row)
+void FieldListModel::showChange(ListedField& row)
 {
     row.changedAt = m_clock.elapsed();
-    row.lit = true;
+    row.isLit = true;
     // Otherwise the next step of the fading shows it.
     if (m_timer.isActive())
         return;
@@ -244,17 +278,17 @@ void FieldListModel::timerEvent(QTimerEvent* event)
     }
     bool isLit = false;
     for (const auto& row : m_rows) {
-        if (!row->lit)
+        if (!row->isLit)
             continue;
-        row->lit = m_clock.elapsed() - row->changedAt < lightTime;
-        isLit = isLit || row->lit;
+        row->isLit = m_clock.elapsed() - row->changedAt < lightTime;
+        isLit = isLit || row->isLit;
         announce(*row);
     }
     if (!isLit)
         m_timer.stop();
 }
 
-void FieldListModel::announce(const Row& row)
+void FieldListModel::announce(const ListedField& row)
 {
-    Q_EMIT dataChanged(index(row.number, ValueColumn), index(row.number, IgnoredColumn));
+    Q_EMIT dataChanged(index(row.number(), NameColumn), index(row.number(), OtherColumn));
 }

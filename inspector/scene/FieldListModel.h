@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "KnNodePtr.h"
+#include "FieldDefaults.h"
+#include "ListedField.h"
 
 #include <QAbstractTableModel>
 #include <QBasicTimer>
@@ -10,29 +11,43 @@
 #include <memory>
 #include <vector>
 
-class KnField;
-
-/// The fields of one node, one row each, kept up to date by one sensor per field. The texts of the
-/// values are made when a view asks for them, cut short, and kept until the field changes. A value
-/// that has just changed is lit for a moment.
-class FieldListModel : public QAbstractTableModel {
+/// The fields of one node, or those that several nodes share, one row each, kept up to date by
+/// sensors. What a row shows is read when a view asks for it, cut short, and kept until the field
+/// changes. A value that has just changed is lit for a moment.
+class FieldListModel : public QAbstractTableModel, private ListedField::Listener {
     Q_OBJECT
 public:
-    enum Column { NameColumn, TypeColumn, ValueColumn, IgnoredColumn, ColumnCount };
-    /// How brightly a value is lit: from 1, when it has just changed, down to 0.
-    enum Role { LightRole = Qt::UserRole };
+    enum Column { NameColumn, TypeColumn, ValueColumn, IgnoredColumn, OtherColumn, ColumnCount };
+    enum Role {
+        /// How brightly a value is lit: from 1, when it has just changed, down to 0.
+        LightRole = Qt::UserRole,
+        /// Whether the two nodes that are compared differ here.
+        DiffersRole,
+    };
 
     explicit FieldListModel(QObject* parent = nullptr);
     ~FieldListModel() override;
 
     /// Null for an empty list. The model holds a reference on the node.
     void setNode(KnFieldContainer* node);
-    KnFieldContainer* node() const { return m_node.get(); }
+    /// The fields that all of these nodes have, by name and type, or, compared, all fields of the
+    /// first one of two, beside those of the second. The model holds references on the nodes.
+    void setNodes(const std::vector<KnFieldContainer*>& nodes, bool compared = false);
+    /// The first of the nodes.
+    KnFieldContainer* node() const { return m_nodes.empty() ? nullptr : m_nodes.front().get(); }
+    /// All nodes that an edit in the list is for.
+    std::vector<KnFieldContainer*> nodes() const;
+    bool isComparing() const { return m_compared; }
 
     /// Null for an index that isn't one of this model.
     KnField* field(const QModelIndex& index) const;
+    /// The same of all nodes that are edited; empty for an index that isn't one of this model.
+    std::vector<KnField*> fields(const QModelIndex& index) const;
     /// -1 for a field of another node.
     int rowOf(const KnField* field) const;
+    /// Whether a value differs from its default.
+    bool isChanged(int row) const;
+    FieldDefaults& defaults() { return m_defaults; }
 
     /// Holds the texts as they are, also of fields whose change hasn't been announced yet. What is
     /// announced all the same is shown: a person's edit. At the end everything is read again.
@@ -42,25 +57,30 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// A person's edit of a value, as a text or as a check mark, in all nodes: one step of the undo
+    /// stack. False for a text that is refused; `refusal` says why then.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    const QString& refusal() const { return m_refusal; }
 
 protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    struct Row;
+    ListedField& row(const QModelIndex& index) const;
+    QVariant cell(ListedField& row, int column, int role) const;
+    QString text(ListedField& row, int column) const;
+    QString toolTip(ListedField& row, int column) const;
+    double light(const ListedField& row) const;
+    void fieldChanged(ListedField& row) override;
+    void showChange(ListedField& row);
+    void announce(const ListedField& row);
 
-    const QString& valueText(Row& row) const;
-    QString text(Row& row, int column) const;
-    QString meaning(const Row& row) const;
-    QString toolTip(Row& row) const;
-    double light(const Row& row) const;
-    void fieldChanged(Row& row);
-    bool readAgain(Row& row);
-    void showChange(Row& row);
-    void announce(const Row& row);
-
-    KnNodePtr m_node; // keeps the fields of the rows alive
-    std::vector<std::unique_ptr<Row>> m_rows;
+    std::vector<KnNodePtr> m_nodes; // keep the fields of the rows alive
+    std::vector<std::unique_ptr<ListedField>> m_rows;
+    FieldDefaults m_defaults;
+    QString m_refusal;
+    bool m_compared = false;
     bool m_held = false;
     QElapsedTimer m_clock;
     QBasicTimer m_timer; // runs while a value is lit

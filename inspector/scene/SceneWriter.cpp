@@ -88,7 +88,7 @@ void SceneWriter::writeNode(const KnFieldContainer& node, int level)
 void SceneWriter::writeFields(const KnFieldContainer& node, int level)
 {
     const KnFieldData* const data = node.getContainerFieldData();
-    const KnFieldContainer& defaults = defaultsOf(node);
+    const KnFieldContainer& defaults = *m_defaults.nodeLike(node);
     KbString text;
     KbString defaultText;
     bool first = true;
@@ -136,13 +136,4 @@ void SceneWriter::writeChildren(const KnFieldContainer& node, int level)
     m_json.append('\n');
     indent(level);
     m_json.append(']');
-}
-
-const KnFieldContainer& SceneWriter::defaultsOf(const KnFieldContainer& node)
-{
-    const KnType type = node.getObjectType();
-    KnNodePtr& defaults = m_defaults[type.getName().getString().toUtf8()];
-    if (!defaults)
-        defaults = KnNodePtr(static_cast<KnFieldContainer*>(type.createInstance()));
-    return *defaults.get();
 }

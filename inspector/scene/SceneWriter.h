@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "KnNodePtr.h"
+#include "FieldDefaults.h"
 
 #include <QByteArray>
 #include <QString>
-
-#include <map>
-#include <string>
 
 /// Writes a scene file, in the form that SceneReader reads. Of each node it writes only what
 /// differs from a fresh node of its type. Members stand in the order in which a person reads them,
@@ -28,10 +25,7 @@ private:
     void writeChildren(const KnFieldContainer& node, int level);
     void indent(int level) { m_json.append(2 * level, ' '); }
 
-    /// A fresh node of the same type.
-    const KnFieldContainer& defaultsOf(const KnFieldContainer& node);
-
     QByteArray m_json;
     QString m_error;
-    std::map<std::string, KnNodePtr> m_defaults; // by name of the type
+    FieldDefaults m_defaults;
 };

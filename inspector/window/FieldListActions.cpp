@@ -3,6 +3,8 @@
 
 #include "FieldClipboard.h"
 #include "FieldListModel.h"
+#include "FieldStep.h"
+#include "KnField.h"
 
 #include <QAction>
 #include <QMenu>
@@ -18,6 +20,8 @@ FieldListActions::FieldListActions(QTreeView* list, FieldListModel* model)
     , m_copyAll(addAction("copyAllFields", tr("Copy &All Fields"),
           QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &FieldListActions::copyAll))
     , m_paste(addAction("pasteFields", tr("&Paste"), QKeySequence::Paste, &FieldListActions::paste))
+    , m_reset(addAction(
+          "resetFields", tr("&Reset to Default"), QKeySequence::Delete, &FieldListActions::reset))
 {
 }
 
@@ -36,32 +40,38 @@ QAction* FieldListActions::addAction(
 
 void FieldListActions::addTo(QMenu& menu)
 {
-    m_copy->setEnabled(!chosenFields().empty());
+    m_copy->setEnabled(m_list->selectionModel()->hasSelection());
     m_copyAll->setEnabled(m_model->node());
     m_paste->setEnabled(m_model->node() && canPasteFields());
+    m_reset->setEnabled(m_list->selectionModel()->hasSelection());
     menu.addActions({ m_copy, m_copyAll, m_paste });
+    menu.addSeparator();
+    menu.addAction(m_reset);
     // The keys work at any time.
     connect(&menu, &QMenu::aboutToHide, this, [this] {
-        for (QAction* action : { m_copy, m_copyAll, m_paste })
+        for (QAction* action : { m_copy, m_copyAll, m_paste, m_reset })
             action->setEnabled(true);
     });
 }
 
-std::vector<KnField*> FieldListActions::chosenFields() const
+std::vector<KnField*> FieldListActions::chosenFields(Of which) const
 {
     QModelIndexList rows = m_list->selectionModel()->selectedRows();
     std::sort(rows.begin(), rows.end());
     std::vector<KnField*> fields;
     for (const QModelIndex& row : std::as_const(rows)) {
-        if (!m_list->isRowHidden(row.row(), QModelIndex()))
-            fields.push_back(m_model->field(row));
+        if (m_list->isRowHidden(row.row(), QModelIndex()))
+            continue;
+        const std::vector<KnField*> all = m_model->fields(row);
+        fields.insert(
+            fields.end(), all.begin(), which == Of::AllNodes ? all.end() : all.begin() + 1);
     }
     return fields;
 }
 
 void FieldListActions::copy()
 {
-    const std::vector<KnField*> fields = chosenFields();
+    const std::vector<KnField*> fields = chosenFields(Of::SelectedNode);
     if (!fields.empty())
         copyFields(fields);
     Q_EMIT told(QString());
@@ -77,5 +87,24 @@ void FieldListActions::copyAll()
 void FieldListActions::paste()
 {
     if (m_model->node())
-        Q_EMIT told(pasteFields({ m_model->node() }, chosenFields()));
+        Q_EMIT told(pasteFields(m_model->nodes(), chosenFields(Of::AllNodes)));
+}
+
+void FieldListActions::reset()
+{
+    FieldStep step;
+    QString message;
+    KbString text;
+    for (KnField* field : chosenFields(Of::AllNodes)) {
+        const KnField* const fresh = m_model->defaults().of(*field);
+        if (!fresh) {
+            message = tr("Nothing is known of the defaults of this node");
+            continue;
+        }
+        fresh->get(text);
+        if (!step.setText(*field, text))
+            message = step.refusal();
+    }
+    step.finish(tr("Reset %1 fields of %2").arg(step.count()).arg(nodesLabel(m_model->nodes())));
+    Q_EMIT told(message);
 }

@@ -29,14 +29,17 @@ Q_SIGNALS:
 private:
     QAction* addAction(const char* name, const QString& text, const QKeySequence& key,
         void (FieldListActions::*act)());
-    std::vector<KnField*> chosenFields() const;
+    enum class Of { SelectedNode, AllNodes };
+    std::vector<KnField*> chosenFields(Of which) const;
     void copy();
     void copyAll();
     void paste();
+    void reset();
 
     QTreeView* m_list;
     FieldListModel* m_model; // outlives this object
     QAction* m_copy; // child
     QAction* m_copyAll; // child
     QAction* m_paste; // child
+    QAction* m_reset; // child
 };

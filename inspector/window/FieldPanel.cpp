@@ -3,12 +3,12 @@
 
 #include "CrvServices.h"
 #include "FieldDrag.h"
+#include "FieldFilter.h"
 #include "FieldListActions.h"
+#include "FieldListView.h"
 #include "KnField.h"
-#include "PaneTree.h"
 #include "PauseAction.h"
 #include "SceneText.h"
-#include "ValueDelegate.h"
 #include "WatchMenu.h"
 
 #include <QHBoxLayout>
@@ -24,19 +24,18 @@ FieldPanel::FieldPanel(QWidget* parent)
     : QWidget(parent)
     , m_pauseAction(new PauseAction(this))
     , m_heading(new QLabel(this))
-    , m_list(new PaneTree(this))
+    , m_list(new FieldListView(this))
+    , m_filter(new FieldFilter(m_list, &m_model))
     , m_message(new QLabel(this))
 {
     setObjectName(QStringLiteral("fieldPanel"));
     m_list->setObjectName(QStringLiteral("fieldList"));
     m_list->setModel(&m_model);
-    m_list->setItemDelegateForColumn(FieldListModel::ValueColumn, new ValueDelegate(m_list));
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAlternatingRowColors(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setMouseTracking(true); // for the status tips
     QHeaderView& header = *m_list->header();
     const int character = fontMetrics().averageCharWidth();
@@ -46,6 +45,9 @@ FieldPanel::FieldPanel(QWidget* parent)
     header.resizeSection(FieldListModel::NameColumn, character * 20);
     header.resizeSection(FieldListModel::TypeColumn, character * 20);
     header.resizeSection(FieldListModel::IgnoredColumn, character * 11);
+    header.setSectionResizeMode(FieldListModel::OtherColumn, QHeaderView::Stretch);
+    header.moveSection(FieldListModel::OtherColumn, FieldListModel::IgnoredColumn);
+    header.hideSection(FieldListModel::OtherColumn);
 
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_actions = new FieldListActions(m_list, &m_model);
@@ -88,13 +90,17 @@ QLayout* FieldPanel::makeHeading()
     // As high as the filter line beside it, so that tree and list start level.
     m_heading->setMinimumHeight(QLineEdit().sizeHint().height());
 
-    auto* const pauseButton = new QToolButton(this);
-    pauseButton->setObjectName(QStringLiteral("pauseButton"));
-    pauseButton->setDefaultAction(m_pauseAction);
-    pauseButton->setFocusPolicy(Qt::TabFocus);
     auto* const line = new QHBoxLayout;
     line->addWidget(m_heading);
-    line->addWidget(pauseButton);
+    const auto addButton = [this, line](const QString& name, QAction* action) {
+        auto* const button = new QToolButton(this);
+        button->setObjectName(name);
+        button->setDefaultAction(action);
+        button->setFocusPolicy(Qt::TabFocus);
+        line->addWidget(button);
+    };
+    addButton(QStringLiteral("changedOnlyButton"), m_filter->action());
+    addButton(QStringLiteral("pauseButton"), m_pauseAction);
     return line;
 }
 
@@ -102,6 +108,7 @@ void FieldPanel::showNode(KnFieldContainer* node)
 {
     const QScopedValueRollback following(m_following, true);
     if (m_model.node() != node) {
+        m_list->commitTyping();
         tell(QString());
         m_model.setNode(node);
     }
@@ -149,6 +156,7 @@ void FieldPanel::showField(KnField* field)
     // Choosing several rows in the list, the person goes from one to the next.
     if (m_choosing && row == m_list->currentIndex().row())
         return;
+    m_filter->show(row);
     const QModelIndex index = m_model.index(row, FieldListModel::NameColumn);
     m_list->selectionModel()->setCurrentIndex(
         index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);

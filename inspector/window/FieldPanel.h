@@ -5,10 +5,11 @@
 
 #include <QWidget>
 
+class FieldFilter;
 class FieldListActions;
+class FieldListView;
 class QLabel;
 class QLayout;
-class PaneTree;
 class PauseAction;
 
 /// The fields of the selected node below a line that names it. A person's choice becomes the host's
@@ -39,7 +40,8 @@ private:
     FieldListModel m_model;
     PauseAction* m_pauseAction; // child
     QLabel* m_heading; // child
-    PaneTree* m_list; // child
+    FieldListView* m_list; // child
+    FieldFilter* m_filter; // child of the list
     QLabel* m_message; // child; hidden while there is nothing to tell
     FieldListActions* m_actions; // child of the list
     bool m_following = false; // the list is being brought in line with the host's selection

@@ -3,10 +3,15 @@
 
 #include "FieldListModel.h"
 
+#include <QIcon>
+#include <QPainter>
+
 namespace {
 
 // How much of the brightest light lies over the row; with more, text would be hard to read on it.
 constexpr double brightest = 0.45;
+// The same for a row in which two nodes differ.
+constexpr double differing = 0.2;
 
 // Away from the text, which stays readable.
 QColor litSelection(const QPalette& palette, double light)
@@ -17,11 +22,41 @@ QColor litSelection(const QPalette& palette, double light)
     return darker ? plain.darker(percent) : plain.lighter(percent);
 }
 
+// A pixmap of its own frames the color, which might otherwise be that of the row.
+QIcon swatch(const QColor& color, const QStyleOptionViewItem& option)
+{
+    const double ratio = option.widget ? option.widget->devicePixelRatioF() : 1.0;
+    const QSize size(option.fontMetrics.height() * 3 / 2, option.fontMetrics.ascent());
+    QPixmap pixmap(size * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.fillRect(QRect(QPoint(), size), color);
+    QColor frame = option.palette.color(QPalette::Text);
+    frame.setAlphaF(0.5F);
+    painter.setPen(frame);
+    painter.drawRect(0, 0, size.width() - 1, size.height() - 1);
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected); // which would be tinted otherwise
+    return icon;
+}
+
 } // namespace
 
 void ValueDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    const QColor own = index.data(Qt::DecorationRole).value<QColor>();
+    if (own.isValid()) {
+        option->icon = swatch(own, *option);
+        option->decorationSize = option->icon.availableSizes().constFirst();
+    }
+    if (index.data(FieldListModel::DiffersRole).toBool()) {
+        option->text = QStringLiteral("%1 %2").arg(QChar(0x2260)).arg(option->text);
+        QColor mark = option->palette.color(QPalette::Highlight);
+        mark.setAlphaF(static_cast<float>(differing));
+        option->backgroundBrush = mark;
+    }
     const double light = index.data(FieldListModel::LightRole).toDouble();
     if (light <= 0)
         return;

@@ -4,7 +4,7 @@
 #include <QStyledItemDelegate>
 
 /// Paints the values of the field list. A value that has just changed is lit by the color of
-/// selections, which fades.
+/// selections, which fades; a color has a swatch, and what differs in a comparison is marked.
 class ValueDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:

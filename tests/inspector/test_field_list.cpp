@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "CrvServices.h"
-#include "FieldListModel.h"
-#include "InspectorFixture.h"
+#include "FieldListFixture.h"
 #include "TextRows.h"
 
 #include <QClipboard>
-#include <QLabel>
-#include <QUndoStack>
 
 /// Copies and pastes in the list of fields.
-class TestFieldList : public InspectorTest {
+class TestFieldList : public FieldListTest {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { m_stack = CrvServices::getInstance()->getUndoStack(); }
 
     void isCopiedAsLines_data()
     {
@@ -32,7 +27,7 @@ private Q_SLOTS:
     {
         m_inspector->clickField(u"Desk lamp"_s, u"on"_s);
         QTest::keyClick(list(), Qt::Key_Down, Qt::ShiftModifier);
-        clickWith(u"location"_s, Qt::ControlModifier);
+        clickWith(Qt::ControlModifier, u"location"_s);
         QCOMPARE(list()->currentIndex().data().toString(), u"location"_s);
         m_inspector->press(QKeySequence::Copy);
         QCOMPARE(clipboardText(), u"on FALSE\nintensity 0.65\nlocation 0.6 1.2 0.4"_s);
@@ -40,7 +35,7 @@ private Q_SLOTS:
         m_inspector->field(u"Desk lamp.on"_s)->set("TRUE");
         m_inspector->press(QKeySequence::Paste);
         QCOMPARE(m_inspector->text(u"Desk lamp.on"_s), u"FALSE"_s);
-        QCOMPARE(m_stack->undoText(), u"Desk lamp.on: TRUE \u2192 FALSE"_s);
+        QCOMPARE(stack().undoText(), u"Desk lamp.on: TRUE \u2192 FALSE"_s);
     }
 
     void isPastedOntoAField_data()
@@ -61,15 +56,15 @@ private Q_SLOTS:
     {
         const auto [place, text, expected] = textRow<3>();
         const QString before = m_inspector->text(place);
-        m_inspector->clickField(place.section(u'.', 0, 0), place.section(u'.', 1));
+        choose(place);
         QGuiApplication::clipboard()->setText(text);
         m_inspector->press(QKeySequence::Paste);
         QCOMPARE(m_inspector->text(place), expected);
         QVERIFY(message().isEmpty());
-        QCOMPARE(m_stack->count(), 1);
-        m_stack->undo();
+        QCOMPARE(stack().count(), 1);
+        stack().undo();
         QCOMPARE(m_inspector->text(place), before);
-        m_stack->redo();
+        stack().redo();
         QCOMPARE(m_inspector->text(place), expected);
     }
 
@@ -80,10 +75,10 @@ private Q_SLOTS:
         m_inspector->clickField(u"Window light"_s, u"on"_s);
         m_inspector->press(QKeySequence::Paste);
         QCOMPARE(m_inspector->text(u"Window light.intensity"_s), u"0.65"_s);
-        QCOMPARE(m_stack->count(), 1);
-        QVERIFY(m_stack->undoText().endsWith(u"fields into Window light"_s));
+        QCOMPARE(stack().count(), 1);
+        QVERIFY(stack().undoText().endsWith(u"fields into Window light"_s));
         QVERIFY(message().contains(u"DirectionalLight has no field location"_s));
-        m_stack->undo();
+        stack().undo();
         QVERIFY(m_inspector->text(u"Window light.intensity"_s) != u"0.65"_s);
         // The message is gone with the node that it was about.
         m_inspector->clickNode(u"Oak"_s);
@@ -100,31 +95,16 @@ private Q_SLOTS:
     {
         const auto [place, text, expected] = textRow<3>();
         const QString before = m_inspector->text(place);
-        m_inspector->clickField(place.section(u'.', 0, 0), place.section(u'.', 1));
+        choose(place);
         QGuiApplication::clipboard()->setText(text);
         m_inspector->press(QKeySequence::Paste);
         QCOMPARE(m_inspector->text(place), before);
         QVERIFY2(message().contains(expected), qPrintable(message()));
-        QCOMPARE(m_stack->count(), 0);
+        QCOMPARE(stack().count(), 0);
     }
 
 private:
-    QTreeView* list() const { return m_inspector->view(u"fieldList"_s); }
-    QString message() const
-    {
-        const auto* const label = m_inspector->window.findChild<QLabel*>(u"fieldMessage"_s);
-        return label->isVisible() ? label->text() : QString();
-    }
     static QString clipboardText() { return QGuiApplication::clipboard()->text(); }
-    void clickWith(const QString& name, Qt::KeyboardModifiers modifiers) const
-    {
-        const QAbstractItemModel& model = *list()->model();
-        const QModelIndex found = model.match(model.index(0, 0), Qt::DisplayRole, name).value(0);
-        QTest::mouseClick(
-            list()->viewport(), Qt::LeftButton, modifiers, list()->visualRect(found).center());
-    }
-
-    QUndoStack* m_stack = nullptr; // of the services
 };
 
 QTEST_MAIN(TestFieldList)

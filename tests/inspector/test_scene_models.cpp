@@ -302,7 +302,7 @@ private Q_SLOTS:
         QCOMPARE(changes.size(), 1);
         QCOMPARE(changes[0][0].toModelIndex().row(), row);
         QStringList cells;
-        for (int column = 0; column < FieldListModel::ColumnCount; ++column)
+        for (int column = 0; column <= FieldListModel::IgnoredColumn; ++column)
             cells += model.index(row, column).data().toString();
         QCOMPARE(cells.join(u' '), u"transparency SFFloat 0.25 yes"_s);
 

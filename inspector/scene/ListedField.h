@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnFieldSensor.h"
+
+#include <QColor>
+#include <QString>
+
+#include <deque>
+#include <optional>
+#include <vector>
+
+class FieldDefaults;
+class KnField;
+
+/// A row of the list of fields: one field, or the same one of several nodes, and perhaps that of
+/// another node to compare it with. What the row shows is read when somebody asks, and kept until a
+/// field changes.
+class ListedField {
+public:
+    /// Is told that one of the fields of a row has changed.
+    class Listener {
+    public:
+        virtual void fieldChanged(ListedField& row) = 0;
+
+    protected:
+        ~Listener() = default;
+    };
+
+    /// What the list shows of a row.
+    struct Shown {
+        QString value;
+        bool isMixed = false; // the nodes don't agree; the value stands for that
+        bool isIgnored = false;
+        bool isChanged = false; // differs from the default in one of the nodes
+        Qt::CheckState check = Qt::Unchecked; // of a truth value
+        QColor color; // of a color; invalid for anything else
+        QString other; // the value of the other node
+        bool differs = false; // from that value
+
+        friend bool operator==(const Shown&, const Shown&) = default;
+    };
+
+    /// `fields` are those of the nodes, the one of the selected node first; `other` may be null.
+    /// They and what else is named here outlive this object.
+    ListedField(Listener& listener, FieldDefaults& defaults, int number, QString name,
+        std::vector<KnField*> fields, KnField* other);
+    ListedField(const ListedField&) = delete;
+    ListedField& operator=(const ListedField&) = delete;
+
+    int number() const { return m_number; }
+    const QString& name() const { return m_name; }
+    /// That of the selected node.
+    KnField& field() const { return *m_fields.front(); }
+    const std::vector<KnField*>& fields() const { return m_fields; }
+    bool isBool() const;
+
+    const Shown& shown();
+    /// Reads again what was shown; true if that is something else now.
+    bool readAgain();
+    /// Whether what is shown leaves something out, which may then have changed.
+    bool leavesOut();
+
+    // When the row has last changed, for its light.
+    qint64 changedAt = 0; // by the model's clock, in milliseconds
+    bool isLit = false;
+
+private:
+    static void sensorRan(void* data, KnSensor* sensor);
+    Shown read() const;
+    void watchOthers();
+
+    Listener& m_listener;
+    FieldDefaults& m_defaults;
+    int m_number;
+    QString m_name;
+    std::vector<KnField*> m_fields; // never empty
+    KnField* m_other;
+    std::optional<Shown> m_shown;
+    KnFieldSensor m_sensor; // of the selected node's field
+    // Of all others; they are watched when what they hold is shown.
+    std::deque<KnFieldSensor> m_otherSensors;
+};

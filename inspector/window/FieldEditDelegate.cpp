@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "FieldEditDelegate.h"
+
+#include "CrvStrings.h"
+#include "FieldLine.h"
+#include "FieldListModel.h"
+#include "KnSFBitMask.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+
+namespace {
+
+const FieldListModel& modelOf(const QModelIndex& index)
+{
+    return *static_cast<const FieldListModel*>(index.model());
+}
+
+/// The names to choose from; empty for a field that isn't one of several named values.
+QStringList choicesOf(KnField& field)
+{
+    auto* const choice = dynamic_cast<KnSFEnum*>(&field);
+    if (!choice || field.isOfType(KnSFBitMask::getClassTypeId()))
+        return {};
+    int count = 0;
+    int* values = nullptr;
+    KbName* names = nullptr;
+    choice->getEnums(count, values, names);
+    QStringList choices;
+    for (int i = 0; i < count; ++i)
+        choices += toQString(names[i]);
+    return choices;
+}
+
+} // namespace
+
+QWidget* FieldEditDelegate::createEditor(
+    QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+{
+    const QStringList choices = choicesOf(*modelOf(index).field(index));
+    if (choices.isEmpty()) {
+        m_line = new FieldLine(parent);
+        return m_line;
+    }
+    auto* const box = new QComboBox(parent);
+    box->setObjectName(QStringLiteral("fieldChoice"));
+    box->addItems(choices);
+    auto* const self = const_cast<FieldEditDelegate*>(this);
+    connect(box, &QComboBox::activated, self, [self, box] {
+        Q_EMIT self->commitData(box);
+        Q_EMIT self->closeEditor(box);
+    });
+    QMetaObject::invokeMethod(box, &QComboBox::showPopup, Qt::QueuedConnection);
+    return box;
+}
+
+void FieldEditDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    const QString text = index.data(Qt::EditRole).toString();
+    if (auto* const box = qobject_cast<QComboBox*>(editor)) {
+        if (!box->view()->isVisible())
+            box->setCurrentIndex(box->findText(text));
+        return;
+    }
+    // The field may change all the time; what was typed stays.
+    auto* const line = qobject_cast<FieldLine*>(editor);
+    if (line->isModified() || (line->text() == text && !text.isEmpty()))
+        return;
+    line->setText(text);
+    line->setPlaceholderText(text.isEmpty() ? index.data().toString() : QString());
+    line->selectAll();
+}
+
+void FieldEditDelegate::setModelData(
+    QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
+{
+    if (auto* const box = qobject_cast<QComboBox*>(editor)) {
+        if (box->currentIndex() >= 0 && box->currentText() != index.data(Qt::EditRole).toString())
+            model->setData(index, box->currentText(), Qt::EditRole);
+        return;
+    }
+    auto* const line = qobject_cast<FieldLine*>(editor);
+    if (!line->isModified())
+        return;
+    if (model->setData(index, line->text(), Qt::EditRole))
+        line->setModified(false);
+    else
+        line->refuse(modelOf(index).refusal());
+}
+
+void FieldEditDelegate::updateEditorGeometry(
+    QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const
+{
+    QRect place = option.rect;
+    // A combo box needs more than the height of a row.
+    const int missing = editor->minimumSizeHint().height() - place.height();
+    if (qobject_cast<QComboBox*>(editor) && missing > 0)
+        place.adjust(0, -missing / 2, 0, missing - missing / 2);
+    editor->setGeometry(place);
+}
+
+void FieldEditDelegate::destroyEditor(QWidget* editor, const QModelIndex& index) const
+{
+    if (editor == m_line)
+        m_line = nullptr; // it lives for a moment yet
+    ValueDelegate::destroyEditor(editor, index);
+}
+
+void FieldEditDelegate::commitTyping()
+{
+    if (m_line)
+        Q_EMIT commitData(m_line);
+}
+
+FieldLine* FieldEditDelegate::refusedLine() const
+{
+    return m_line && m_line->isRefused() ? m_line : nullptr;
+}
+
+bool FieldEditDelegate::write(FieldLine* line)
+{
+    Q_EMIT commitData(line);
+    return !line->isRefused();
+}
+
+bool FieldEditDelegate::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* const line = qobject_cast<FieldLine*>(watched);
+    if (!line)
+        return ValueDelegate::eventFilter(watched, event);
+    if (event->type() == QEvent::FocusOut) {
+        // The line's own menu is no leaving.
+        const bool isMenu = static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason;
+        return !isMenu && write(line) && ValueDelegate::eventFilter(watched, event);
+    }
+    if (event->type() != QEvent::KeyPress)
+        return ValueDelegate::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool isReturn = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (!isReturn && key != Qt::Key_Tab && key != Qt::Key_Backtab)
+        return ValueDelegate::eventFilter(watched, event);
+    if (write(line)) {
+        Q_EMIT closeEditor(line,
+            isReturn                 ? NoHint
+                : key == Qt::Key_Tab ? EditNextItem
+                                     : EditPreviousItem);
+    }
+    return true;
+}

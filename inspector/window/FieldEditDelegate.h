@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "ValueDelegate.h"
+
+#include <QPointer>
+
+class FieldLine;
+
+/// Paints the values of the field list and edits them in place: an enumeration with a combo box,
+/// anything else in a line. A line with a refused text stays open. What was typed is written when
+/// the line is left; Esc drops it.
+class FieldEditDelegate : public ValueDelegate {
+    Q_OBJECT
+public:
+    using ValueDelegate::ValueDelegate;
+
+    /// Writes what stands in an open line, as if it were left.
+    void commitTyping();
+    /// The line whose text was refused; null if there is none.
+    FieldLine* refusedLine() const;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(
+        QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+    void destroyEditor(QWidget* editor, const QModelIndex& index) const override;
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// False for a text that is refused.
+    bool write(FieldLine* line);
+
+    mutable QPointer<FieldLine> m_line; // the open one
+};

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "FieldLine.h"
+
+#include <QLabel>
+#include <QToolTip>
+
+#include <algorithm>
+
+FieldLine::FieldLine(QWidget* parent)
+    : QLineEdit(parent)
+{
+    setObjectName(QStringLiteral("fieldLine"));
+    setAutoFillBackground(true);
+    // A row is hardly higher than its text.
+    setFrame(false);
+    connect(this, &QLineEdit::textEdited, this, &FieldLine::dropReason);
+}
+
+FieldLine::~FieldLine() { dropReason(); }
+
+void FieldLine::refuse(const QString& reason)
+{
+    dropReason();
+    m_reason = new QLabel(reason, parentWidget());
+    m_reason->setObjectName(QStringLiteral("refusal"));
+    m_reason->setTextFormat(Qt::PlainText);
+    m_reason->setWordWrap(true);
+    m_reason->setMargin(fontMetrics().averageCharWidth());
+    m_reason->setFrameShape(QFrame::Box);
+    m_reason->setAutoFillBackground(true);
+    m_reason->setPalette(QToolTip::palette());
+    m_reason->setForegroundRole(QPalette::ToolTipText);
+    m_reason->setBackgroundRole(QPalette::ToolTipBase);
+    placeReason();
+    m_reason->show();
+}
+
+void FieldLine::dropReason() { delete m_reason; }
+
+// Below the line, or above it where there is no room.
+void FieldLine::placeReason()
+{
+    if (!m_reason)
+        return;
+    const QRect room = parentWidget()->rect();
+    const int width = std::min(room.width(), fontMetrics().averageCharWidth() * 60);
+    const int height = m_reason->heightForWidth(width);
+    const int x = std::clamp(geometry().left(), 0, room.width() - width);
+    const bool fitsBelow = geometry().bottom() + height < room.bottom();
+    m_reason->setGeometry(
+        x, fitsBelow ? geometry().bottom() + 1 : geometry().top() - height, width, height);
+    m_reason->raise();
+}
+
+void FieldLine::moveEvent(QMoveEvent* event)
+{
+    QLineEdit::moveEvent(event);
+    placeReason();
+}
+
+void FieldLine::resizeEvent(QResizeEvent* event)
+{
+    QLineEdit::resizeEvent(event);
+    placeReason();
+}
+
+void FieldLine::hideEvent(QHideEvent* event)
+{
+    dropReason();
+    QLineEdit::hideEvent(event);
+}

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QLineEdit>
+#include <QPointer>
+
+class QLabel;
+
+/// The line in which a value is edited in place. A text that was refused stays in it, with the
+/// reason beside it, until the person types on.
+class FieldLine : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit FieldLine(QWidget* parent);
+    ~FieldLine() override;
+
+    void refuse(const QString& reason);
+    bool isRefused() const { return m_reason; }
+
+protected:
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void dropReason();
+    void placeReason();
+
+    QPointer<QLabel> m_reason; // child of this line's parent; null while nothing is refused
+};
