@@ -167,7 +167,7 @@ QString scriptHelp()
         "  follows behind one more tabulator.\n"
         "\n"
         "  TEXT is the form in which a scene file holds values: 0.5, TRUE, \"a text\",\n"
-        "  1 0 0, [ 1, 2, 3 ]. The text \"\" gives a field its default value.\n"
+        "  1 0 0, [ 1, 2, 3 ]. The text \"\" is the default value of every type.\n"
         "\n"
         "Nodes:\n"
         "  Lamp             A node of this name or, if there is none, of this type.\n"
