@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvFieldEditors.h"
 
+#include "AccessibleNames.h"
 #include "KnField.h"
 #include "KnFieldSensor.h"
 
@@ -77,7 +78,11 @@ void CrvFieldEditors::unload()
     m_fieldSensor = nullptr;
 }
 
-void CrvFieldEditors::attachField(KnField* field) { m_fieldSensor->attach(field); }
+void CrvFieldEditors::attachField(KnField* field)
+{
+    m_fieldSensor->attach(field);
+    nameInputs(m_frame, field);
+}
 
 bool CrvFieldEditors::shows(const KnField* field) const
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfPopupWidget.h"
 
+#include "AccessibleNames.h"
 #include "ComponentValidator.h"
 #include "LineEdits.h"
 #include "PanelParts.h"
@@ -30,6 +31,7 @@ void WfPopupWidget::load()
     WfSFLineWidget::load();
 
     m_editButton = makeFocusableIconButton(getFrame(), "m_editButton", m_editPixmap);
+    setInputLabel(m_editButton, QStringLiteral("edit"));
     m_buttonLayout->insertWidget(0, m_editButton, 0);
     connect(m_editButton, &QPushButton::clicked, this, &WfPopupWidget::managePopFramePos);
     m_lineEdit->setEnabled(false);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfMFieldTableItemDelegate.h"
 
+#include "AccessibleNames.h"
 #include "CellEditing.h"
 #include "CellText.h"
 #include "NumberLimits.h"
@@ -49,6 +50,16 @@ QValidator* makeValidator(int kind, QObject* parent)
     default:
         return nullptr;
     }
+}
+
+/// Such as "row 3 x".
+QString cellName(const QModelIndex& index)
+{
+    const QAbstractItemModel& model = *index.model();
+    const QString row = QStringLiteral("row %1").arg(index.row() + 1);
+    return model.columnCount() > 1
+        ? row + QLatin1Char(' ') + model.headerData(index.column(), Qt::Horizontal).toString()
+        : row;
 }
 
 /// Whether a line's text may be written: it has no validator, or one that accepts it.
@@ -130,6 +141,7 @@ QWidget* WfMFieldTableItemDelegate::createEditor(
     QWidget* editor = isOnlyColumn ? makeSlider(parent, row, column) : nullptr;
     if (!editor)
         editor = makeLineEdit(parent);
+    nameCellInputs(editor, cellName(index));
     showText(editor, m_widget->getCellText(row, column));
     editor->setFocusPolicy(Qt::StrongFocus);
     return editor;

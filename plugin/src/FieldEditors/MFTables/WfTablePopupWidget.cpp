@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfTablePopupWidget.h"
 
+#include "AccessibleNames.h"
 #include "ComponentValidator.h"
 #include "LayoutMetrics.h"
 #include "PanelParts.h"
@@ -33,6 +34,7 @@ void WfTablePopupWidget::load()
     WfMFieldWidget::load();
 
     m_editButton = makeIconButton(getFrame(), "m_editButton", m_editPixmap);
+    setInputLabel(m_editButton, QStringLiteral("edit"));
     m_accessMoveSpacer->changeSize(layoutMetric(QStringLiteral("MFAccessMoveSpacerWidth"))
             - layoutMetric(QStringLiteral("buttonWidth")),
         layoutMetric(QStringLiteral("MFAccessMoveSpacerHeight")), QSizePolicy::Expanding,

@@ -2,6 +2,7 @@
 #include "WfMFieldWidget.h"
 
 #include "AccessButtonPrivate.h"
+#include "AccessibleNames.h"
 #include "FieldActions.h"
 #include "FieldButtons.h"
 #include "KnMField.h"
@@ -111,6 +112,7 @@ void WfMFieldWidget::buildButtonRow()
     m_buttonsLayout->addItem(m_manageAccessSpacer);
 
     m_accessBox = new AccessButtonPrivate(0, 0, 1, getWidget(), "m_accessBox");
+    setInputLabel(m_accessBox, QStringLiteral("row"));
     m_accessBox->setMaximumSize(layoutMetric(QStringLiteral("MFAccessWidth")),
         layoutMetric(QStringLiteral("buttonHeight")));
     m_buttonsLayout->addWidget(m_accessBox);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "PopupGrid.h"
 
+#include "AccessibleNames.h"
 #include "FittedFont.h"
 #include "LayoutMetrics.h"
 #include "PanelParts.h"
@@ -33,6 +34,7 @@ void addPopupLine(QFrame* popup, QLineEdit* line, int row, int column, int colum
         + (columns - 1) * layoutMetric(QStringLiteral("PopupLayoutSpacing"));
     const int width = (layoutMetric(QStringLiteral("PopupFrameWidth")) - gaps) / columns;
     fitNumberLine(line, QSize(width, line->sizeHint().height()));
+    setInputLabel(line, QStringLiteral("row %1, column %2").arg(row + 1).arg(column + 1));
     static_cast<QGridLayout*>(popup->layout())->addWidget(line, row, column);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfSFColorBox.h"
 
+#include "AccessibleNames.h"
 #include "ColorChannels.h"
 #include "FittedFont.h"
 #include "LayoutMetrics.h"
@@ -31,6 +32,7 @@ void WfSFColorBox::load()
     m_colorDisp->setObjectName(QStringLiteral("m_colorDisp"));
     m_colorDisp->setFixedHeight(layoutMetric(QStringLiteral("SFComponentHeight")));
     m_colorDisp->setFixedWidth(layoutMetric(QStringLiteral("SFColorDispWidth")));
+    setInputLabel(m_colorDisp, tr("colour"));
     displayColor(QColor(0, 0, 0, 255));
 
     m_editLayout->setSpacing(layoutMetric(QStringLiteral("SFColorSpacing")));
@@ -59,6 +61,7 @@ void WfSFColorBox::addChannel(QChar letter)
     line->setObjectName(QLatin1String(m_style.lineName));
     line->setFixedHeight(height);
     fitNumberLine(line, height);
+    setInputLabel(line, letter);
     layout->addWidget(line, 0);
     m_lines.push_back(line);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfSFColumnBox.h"
 
+#include "AccessibleNames.h"
 #include "FittedFont.h"
 #include "LayoutMetrics.h"
 #include "PanelParts.h"
@@ -48,11 +49,14 @@ void WfSFColumnBox::addColumn()
     input->setObjectName(QLatin1String(m_style.inputName));
     input->setFixedHeight(inputHeight);
     column->addWidget(input, 0);
+    m_inputs.push_back(input);
     m_editLayout->addLayout(column, 0);
 }
 
 void WfSFColumnBox::setLabels(const QString* nameArray)
 {
-    for (std::size_t i = 0; i < m_labels.size(); ++i)
+    for (std::size_t i = 0; i < m_labels.size(); ++i) {
         m_labels[i]->setText(tr("<p>") + nameArray[i] + tr("</p>"));
+        setInputLabel(m_inputs[i], nameArray[i]);
+    }
 }

@@ -41,4 +41,5 @@ private:
     int m_columns;
     const ColumnBoxStyle& m_style;
     std::vector<QLabel*> m_labels; // children of the edition frame
+    std::vector<QWidget*> m_inputs; // the same
 };

@@ -9,7 +9,8 @@ struct SFFilePathStringTraits : StringFieldAccess {
     static KnType fieldType() { return KnSFFilePathString::getClassTypeId(); }
 };
 
-/// Edits a KnSFFilePathString in one line, beside a button that opens the system's file dialog.
+/// Edits a KnSFFilePathString in one line, beside a button that opens the system's file dialog. A
+/// file may be dropped on either.
 class WfSFFilePathStringWidget : public WfSFTextWidget<SFFilePathStringTraits> {
     Q_OBJECT
 public:
@@ -24,5 +25,7 @@ protected Q_SLOTS:
     bool edited() override { return WfSFTextWidget::edited(); }
 
 private:
+    void takePath(const QString& path);
+
     QPushButton* m_openFileButton = nullptr;
 };

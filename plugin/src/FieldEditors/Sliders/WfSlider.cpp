@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WfSlider.h"
 
+#include "AccessibleNames.h"
 #include "CrvFieldEditors.h"
 #include "PanelParts.h"
 #include "SliderMath.h"
@@ -56,6 +57,9 @@ WfSlider::WfSlider(int inTable, CrvFieldEditors* owner, QWidget* parent, int row
     m_slider->setOrientation(Qt::Horizontal);
     m_notifyCheckBox = new QCheckBox(this);
     m_notifyCheckBox->setObjectName(QStringLiteral("m_notifyCheckBox"));
+
+    setInputLabel(m_slider, QStringLiteral("slider"));
+    setInputLabel(m_notifyCheckBox, QStringLiteral("follows the slider"));
 
     m_layout->addWidget(m_notifyCheckBox);
     m_layout->addWidget(m_slider);
