@@ -34,3 +34,4 @@ install(FILES cmake/corvaneConfig.cmake "${CMAKE_BINARY_DIR}/corvaneConfigVersio
 install(DIRECTORY scenes DESTINATION "${CMAKE_INSTALL_DATADIR}/corvane"
         FILES_MATCHING PATTERN "*.json")
 install(FILES README.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(DIRECTORY docs DESTINATION "${CMAKE_INSTALL_DOCDIR}")

@@ -33,10 +33,13 @@ void SceneFilterModel::setFilterText(const QString& text)
 
 QVariant SceneFilterModel::data(const QModelIndex& index, int role) const
 {
-    if (role != MatchRole)
-        return SceneModel::data(index, role);
-    KnFieldContainer* const shown = node(index);
-    return shown && isFiltering() && m_filter.isMatch(*shown);
+    return role == MatchRole ? QVariant(isMatch(index)) : SceneModel::data(index, role);
+}
+
+bool SceneFilterModel::isMatch(const QModelIndex& index) const
+{
+    KnFieldContainer* const rowNode = node(index);
+    return rowNode && isFiltering() && m_filter.isMatch(*rowNode);
 }
 
 void SceneFilterModel::graphChanged(void* data, KnSensor*)

@@ -28,6 +28,8 @@ public:
     const QString& errorText() const { return m_error; }
     /// Whether the rows are filtered; a new text may not have come that far.
     bool isFiltering() const { return !m_filter.query().isEmpty(); }
+    /// Whether the row stands there for its own node, and not for one below it.
+    bool isMatch(const QModelIndex& index) const;
     bool isSearching() const { return m_searching; }
     NodeFilter& filter() { return m_filter; }
 

@@ -6,6 +6,7 @@
 #include "ElidedLabel.h"
 #include "KnField.h"
 #include "KnFieldContainer.h"
+#include "PaneNames.h"
 #include "SceneText.h"
 
 #include <QDockWidget>
@@ -93,6 +94,7 @@ void EditorHeading::showObject()
     const CrvEditor* const editor = EditorPanes::editorIn(m_dock);
     const QString object = editor ? objectText(editor->getEditedObject()) : QString();
     const QString title = m_dock->windowTitle();
+    completeNames(m_dock, title);
     m_text->setWholeText(
         object.isEmpty() ? title : QStringLiteral("%1  %2  %3").arg(title, QChar(0x2013), object));
 }

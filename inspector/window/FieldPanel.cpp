@@ -126,6 +126,8 @@ void FieldPanel::showHeading()
     const KnFieldContainer* const node = m_model.node();
     const bool paused = CrvServices::getInstance()->isPaused();
     QString text = tr("Select a node in the scene");
+    m_list->setEmptyText(node ? tr("This node has no fields")
+                              : tr("The fields of the node that is selected in the scene"));
     if (node && node->getName().isEmpty()) {
         text = nodeLabel(*node);
     } else if (node) {

@@ -5,18 +5,23 @@
 #include "CrvServices.h"
 #include "EditMenu.h"
 #include "EditorHeading.h"
+#include "EditorOpener.h"
 #include "FieldPanel.h"
 #include "FileDialogs.h"
 #include "FileMenu.h"
 #include "FirstSizes.h"
 #include "GuestFileMenu.h"
+#include "HelpMenu.h"
 #include "KnField.h"
 #include "PaneColumns.h"
+#include "PaneNames.h"
+#include "PaneWalk.h"
 #include "PauseAction.h"
 #include "ProfileBoxes.h"
 #include "ProfileMemory.h"
 #include "ProfileMenu.h"
 #include "ScenePanel.h"
+#include "StatusLine.h"
 #include "UndoKeys.h"
 #include "ViewMenu.h"
 #include "WatchPanel.h"
@@ -25,6 +30,7 @@
 
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QToolBar>
@@ -72,6 +78,8 @@ MainWindow::MainWindow(QSettings* settings, Role role, QWidget* parent)
     buildFileMenu(settings);
     buildEditMenu();
     buildViewMenu();
+    menuBar()->addMenu(new HelpMenu(this));
+    buildHints();
     new UndoKeys(this);
 
     m_sizes->apply(m_sceneDock, m_historyDock);
@@ -90,6 +98,7 @@ void MainWindow::buildPanels()
     m_historyDock = addPanelDock(history, QStringLiteral("historyDock"), tr("History"));
     auto* const fields = new FieldPanel(this);
     setCentralWidget(fields);
+    completeNames(fields, tr("Fields"));
     buildWatch(fields);
     shareColumns(QStringLiteral("sceneTree"), sceneNameCharacters, { SceneModel::TypeColumn });
     shareColumns(QStringLiteral("fieldList"), valueCharacters,
@@ -125,6 +134,7 @@ QDockWidget* MainWindow::addPanelDock(QWidget* panel, const QString& name, const
     dock->setObjectName(name);
     dock->setWidget(panel);
     QMainWindow::addDockWidget(Qt::LeftDockWidgetArea, dock);
+    completeNames(dock, title);
     return dock;
 }
 
@@ -165,7 +175,23 @@ void MainWindow::buildViewMenu()
             m_watchDock->toggleViewAction() });
     m_viewMenu->insertSeparator(m_viewMenu->endOfExtensions());
     m_viewMenu->addMenu(new ProfileMenu(m_viewMenu));
+    m_viewMenu->addSeparator();
+    m_walk = new PaneWalk(this, { m_sceneDock, centralWidget() });
+    m_walk->addActions(m_viewMenu);
+    m_opener = new EditorOpener(findChild<QTreeView*>(QStringLiteral("fieldList")), m_viewMenu);
     menuBar()->addMenu(m_viewMenu);
+}
+
+void MainWindow::buildHints()
+{
+    m_statusLine = new StatusLine(this);
+    setStatusBar(m_statusLine);
+    m_statusLine->setHint(findChild<QLineEdit*>(QStringLiteral("sceneFilter")),
+        tr("Down or Return goes to the first match, Esc clears the filter"));
+    m_statusLine->setHint(centralWidget(),
+        tr("Return goes into the field's editor, F6 to the next pane; F1 lists all keys"));
+    m_statusLine->setHint(m_sceneDock->widget(),
+        tr("Choose a node to see and edit its fields; F6 goes on to them, F1 lists all keys"));
 }
 
 void MainWindow::showFileName() { setWindowTitle(WindowTitle::ofFile(m_document->fileName())); }
@@ -217,8 +243,13 @@ void MainWindow::addDockWidget(QDockWidget* dock, int area)
     }
     // Also at the bottom one above the other: curves and messages need the width.
     QMainWindow::addDockWidget(static_cast<Qt::DockWidgetArea>(area), dock, Qt::Vertical);
-    if (area == Qt::RightDockWidgetArea)
+    if (area == Qt::RightDockWidgetArea) {
         new EditorHeading(dock);
+        m_opener->addDock(dock);
+        m_statusLine->setHint(
+            dock, tr("Return applies, Esc drops what was typed and then goes back to the fields"));
+    }
+    completeNames(dock, dock->windowTitle());
     m_viewMenu->addPane(dock);
     m_sizes->follow(dock);
 }
@@ -245,6 +276,7 @@ void MainWindow::addToolBar(QToolBar* toolBar, int area)
     if (!m_places.takeBack(toolBar))
         QMainWindow::addToolBar(static_cast<Qt::ToolBarArea>(area), toolBar);
     m_viewMenu->addPane(toolBar);
+    completeNames(toolBar, toolBar->windowTitle());
     m_profileBoxes->follow(toolBar);
 }
 
@@ -272,6 +304,11 @@ void MainWindow::closeEvent(QCloseEvent* event)
     Q_EMIT closed();
 }
 
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    return m_walk->step(next) || QMainWindow::focusNextPrevChild(next);
+}
+
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     if (!draggedFile(event->mimeData()).isEmpty())
@@ -280,5 +317,6 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
+    event->acceptProposedAction();
     m_fileMenu->openFile(draggedFile(event->mimeData()));
 }

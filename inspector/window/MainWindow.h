@@ -10,12 +10,15 @@
 #include <memory>
 #include <vector>
 
+class EditorOpener;
 class FieldPanel;
 class FileMenu;
 class FirstSizes;
+class PaneWalk;
 class ProfileBoxes;
 class QSettings;
 class ScenePanel;
+class StatusLine;
 class ViewMenu;
 class WindowLayout;
 
@@ -63,12 +66,14 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void buildPanels();
     void buildFileMenu(QSettings* settings);
     void buildEditMenu();
     void buildViewMenu();
+    void buildHints();
     /// The dock owns the panel, and the window the dock.
     QDockWidget* addPanelDock(QWidget* panel, const QString& name, const QString& title);
     void buildWatch(FieldPanel* fields);
@@ -83,6 +88,9 @@ private:
     ScenePanel* m_scenePanel = nullptr; // child
     FileMenu* m_fileMenu = nullptr; // child; null for a guest
     ViewMenu* m_viewMenu = nullptr; // child
+    PaneWalk* m_walk = nullptr; // child
+    EditorOpener* m_opener = nullptr; // child of the list of fields
+    StatusLine* m_statusLine = nullptr; // child
     QDockWidget* m_sceneDock = nullptr; // child
     QDockWidget* m_historyDock = nullptr; // child
     QDockWidget* m_watchDock = nullptr; // child

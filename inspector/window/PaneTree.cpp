@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "PaneTree.h"
 
+#include <QPainter>
 #include <QScrollBar>
 
 #include <utility>
@@ -13,6 +14,24 @@ void PaneTree::focusInEvent(QFocusEvent* event)
     }
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
+}
+
+void PaneTree::setEmptyText(const QString& text)
+{
+    m_emptyText = text;
+    viewport()->update();
+}
+
+void PaneTree::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    if (m_emptyText.isEmpty() || !model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const int margin = 2 * fontMetrics().averageCharWidth();
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+        Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_emptyText);
 }
 
 void PaneTree::holdPlace()

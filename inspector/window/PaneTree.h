@@ -11,6 +11,9 @@ class PaneTree : public QTreeView {
 public:
     using QTreeView::QTreeView;
 
+    /// What the view shows while it has no rows: what would fill it.
+    void setEmptyText(const QString& text);
+
     /// To be called before rows come and go: what is at the top of the view stays there. A view
     /// that stands at its very beginning goes on showing the beginning.
     void holdPlace();
@@ -19,7 +22,9 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
+    QString m_emptyText;
     QList<QPersistentModelIndex> m_held; // from the top of the view on; empty if nothing is held
 };

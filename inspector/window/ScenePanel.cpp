@@ -2,6 +2,8 @@
 #include "ScenePanel.h"
 
 #include "CrvServices.h"
+#include "FilterKeys.h"
+#include "MatchDelegate.h"
 #include "NodeChoice.h"
 #include "PaneTree.h"
 #include "TreeExpansion.h"
@@ -42,12 +44,16 @@ ScenePanel::ScenePanel(QWidget* parent)
 
     m_tree->setObjectName(QStringLiteral("sceneTree"));
     setTreeModel(&m_model);
+    m_tree->setEmptyText(emptyText());
     m_tree->setUniformRowHeights(true);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(SceneModel::NameColumn, QHeaderView::Stretch);
     m_tree->header()->setSectionResizeMode(SceneModel::TypeColumn, QHeaderView::Interactive);
     m_tree->header()->resizeSection(SceneModel::TypeColumn, fontMetrics().averageCharWidth() * 21);
+
+    m_tree->setItemDelegate(new MatchDelegate(&m_filter, m_tree));
+    new FilterKeys(m_filterEdit, m_tree, &m_filter);
 
     setFocusProxy(m_tree);
     auto* layout = new QVBoxLayout(this);
@@ -92,6 +98,8 @@ void ScenePanel::showRoots()
     }
 }
 
+QString ScenePanel::emptyText() { return tr("The scene, once the program shows one"); }
+
 void ScenePanel::focusFilter()
 {
     m_filterEdit->setFocus(Qt::ShortcutFocusReason);
@@ -110,6 +118,8 @@ void ScenePanel::showFiltered()
     {
         const QScopedValueRollback following(m_following, true);
         const bool wasFiltering = m_tree->model() == &m_filter;
+        m_tree->setEmptyText(
+            m_filter.isFiltering() ? tr("No node matches the filter") : emptyText());
         if (m_filter.isFiltering()) {
             if (!wasFiltering) {
                 m_expansion->save();

@@ -22,6 +22,7 @@ public:
     void focusFilter();
 
 private:
+    static QString emptyText();
     void showRoots();
     void setFilterText(const QString& text);
     void showFiltered();

@@ -65,6 +65,15 @@ void ViewMenu::removePane(QWidget* pane)
     std::erase(m_panes, pane);
 }
 
+void ViewMenu::showPane(const QWidget* pane)
+{
+    for (const Entry& entry : m_entries) {
+        if (belongs(pane, entry.extension))
+            entry.extension->show();
+    }
+    refresh();
+}
+
 void ViewMenu::takeOverPanes()
 {
     for (QWidget* pane : std::vector<QWidget*>(m_panes))

@@ -20,6 +20,8 @@ public:
     /// A dock or a tool bar.
     void addPane(QWidget* pane);
     void removePane(QWidget* pane);
+    /// Shows a pane by way of its extension, as its entry does.
+    void showPane(const QWidget* pane);
     /// To be called when panes were shown or hidden without a signal, as a restored layout does
     /// while the window isn't on the screen.
     void takeOverPanes();

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CrvServices.h"
+#include "FieldListModel.h"
+#include "InspectorFixture.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QTableWidget>
+
+/// The window without a mouse.
+class TestKeyboard : public InspectorTest {
+    Q_OBJECT
+private Q_SLOTS:
+    void tabGoesFromTheSceneToTheEditor()
+    {
+        m_inspector->clickField(u"Front view"_s, u"position"_s);
+        filter()->setFocus();
+        QStringList way;
+        for (int i = 0; i < 6; ++i) {
+            way += QApplication::focusWidget()->objectName();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        way.removeOne(u"pauseButton"_s);
+        QCOMPARE(way.mid(0, 3), QStringList({ u"sceneFilter"_s, u"sceneTree"_s, u"fieldList"_s }));
+        QVERIFY(inFieldEditor());
+        for (int i = 0; i < 6; ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(QApplication::focusWidget(), filter());
+    }
+
+    void returnEntersAndEscLeaves_data()
+    {
+        QTest::addColumn<QString>("node");
+        QTest::addColumn<QString>("field");
+        QTest::newRow("line") << u"Front view"_s << u"description"_s;
+        QTest::newRow("numbers") << u"Front view"_s << u"position"_s;
+        QTest::newRow("slider") << u"Desk lamp"_s << u"intensity"_s;
+        QTest::newRow("box") << u"Desk lamp"_s << u"on"_s;
+        QTest::newRow("choice") << u"Opening hours"_s << u"justification"_s;
+        QTest::newRow("table") << u"Corners"_s << u"point"_s;
+        QTest::newRow("popup") << u"Frame place"_s << u"matrix"_s;
+    }
+    void returnEntersAndEscLeaves()
+    {
+        QFETCH(QString, node);
+        QFETCH(QString, field);
+        m_inspector->view(u"sceneTree"_s)->expandAll();
+        m_inspector->clickField(node, field);
+        auto* const list = m_inspector->view(u"fieldList"_s);
+        const QString before = m_inspector->text(node + u'.' + field);
+        QTest::keyClick(list, Qt::Key_Return);
+        QVERIFY(inFieldEditor());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(QApplication::focusWidget(), list);
+        QCOMPARE(m_inspector->text(node + u'.' + field), before);
+    }
+
+    void escDropsFirstAndLeavesThen()
+    {
+        m_inspector->clickField(u"Front view"_s, u"description"_s);
+        auto* const list = m_inspector->view(u"fieldList"_s);
+        m_inspector->dock(u"Field Editor"_s)->close();
+        QTest::keyClick(list, Qt::Key_Return); // opens it again
+        auto* const line = m_inspector->inEditor<QLineEdit>();
+        QCOMPARE(QApplication::focusWidget(), line);
+        QTest::keyClicks(line, u"typed"_s);
+        QTest::keyClick(line, Qt::Key_Escape);
+        QCOMPARE(line->text(), u"From the door"_s);
+        QVERIFY(line->hasFocus());
+        QTest::keyClick(line, Qt::Key_Escape);
+        QVERIFY(list->hasFocus());
+    }
+
+    void f6WalksThePanes()
+    {
+        m_inspector->clickField(u"Front view"_s, u"description"_s);
+        m_inspector->view(u"sceneTree"_s)->setFocus();
+        QStringList panes;
+        for (int i = 0; i < 4; ++i) {
+            m_inspector->press(QKeySequence(Qt::Key_F6));
+            panes += paneWithFocus();
+        }
+        QCOMPARE(panes.mid(0, 2), QStringList({ u"fieldPanel"_s, u"Field Editor"_s }));
+        QVERIFY(panes.contains(u"Console"_s));
+        for (int i = 0; i < 4; ++i)
+            m_inspector->press(QKeySequence(Qt::SHIFT | Qt::Key_F6));
+        QCOMPARE(QApplication::focusWidget(), m_inspector->view(u"sceneTree"_s));
+    }
+
+    void theFilterLeadsToAMatch_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("down") << int(Qt::Key_Down);
+        QTest::newRow("return") << int(Qt::Key_Return);
+    }
+    void theFilterLeadsToAMatch()
+    {
+        QFETCH(int, key);
+        QTest::keyClicks(filter(), u"oak"_s);
+        QTest::keyClick(filter(), static_cast<Qt::Key>(key));
+        auto* const tree = m_inspector->view(u"sceneTree"_s);
+        // Not the group above it, which the tree shows as well.
+        QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
+        QVERIFY(tree->hasFocus() && CrvServices::getInstance()->getSelectedField());
+        const QImage match = rowImage(tree->currentIndex());
+        filter()->setFocus();
+        QTest::keyClick(filter(), Qt::Key_Escape);
+        QVERIFY(filter()->text().isEmpty() && filter()->hasFocus());
+    }
+
+    void matchesLookDifferent()
+    {
+        CrvServices::getInstance()->selectNode(nullptr);
+        auto* const tree = m_inspector->view(u"sceneTree"_s);
+        QTest::keyClicks(filter(), u"table"_s); // the group and what is in it
+        const QImage asMatch = rowImage(rowOf(u"Table"_s));
+        filter()->setText(u"oak"_s);
+        QVERIFY(rowImage(rowOf(u"Table"_s)) != asMatch);
+        QVERIFY(tree->currentIndex() == QModelIndex());
+    }
+
+    /// Whatever a screen reader or a mouse meets says what it is for.
+    void everyControlHasAName()
+    {
+        m_inspector->choose(u"viewMenu"_s, u"Watch"_s);
+        QSet<QString> types;
+        auto* const tree = m_inspector->view(u"sceneTree"_s);
+        auto* const fields = m_inspector->view(u"fieldList"_s);
+        tree->expandAll();
+        for (QModelIndex node = tree->model()->index(0, 0); node.isValid();
+             node = tree->indexBelow(node)) {
+            tree->setCurrentIndex(node);
+            for (int row = 0; row < fields->model()->rowCount(); ++row) {
+                fields->setCurrentIndex(fields->model()->index(row, FieldListModel::NameColumn));
+                const QString type
+                    = fields->model()->index(row, FieldListModel::TypeColumn).data().toString();
+                if (types.contains(type))
+                    continue;
+                types += type;
+                checkNames(QAccessible::queryAccessibleInterface(&m_inspector->window), type);
+                for (const auto* button : m_inspector->window.findChildren<QAbstractButton*>()) {
+                    QVERIFY2(!button->text().isEmpty() || !button->toolTip().isEmpty()
+                            || !button->isVisible(),
+                        qPrintable(type + u' ' + button->objectName()));
+                }
+                if (QTest::currentTestFailed())
+                    return;
+            }
+        }
+        QVERIFY(types.size() >= 44);
+    }
+
+private:
+    QLineEdit* filter() const
+    {
+        return m_inspector->window.findChild<QLineEdit*>(u"sceneFilter"_s);
+    }
+    bool inFieldEditor() const
+    {
+        return m_inspector->dock(u"Field Editor"_s)->isAncestorOf(QApplication::focusWidget());
+    }
+    QString paneWithFocus() const
+    {
+        const QWidget* widget = QApplication::focusWidget();
+        while (widget && widget->parentWidget() != &m_inspector->window)
+            widget = widget->parentWidget();
+        return widget ? widget->objectName() : QString();
+    }
+    QModelIndex rowOf(const QString& text) const
+    {
+        const QAbstractItemModel* const model = m_inspector->view(u"sceneTree"_s)->model();
+        return model
+            ->match(
+                model->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly | Qt::MatchRecursive)
+            .value(0);
+    }
+    QImage rowImage(const QModelIndex& index) const
+    {
+        auto* const tree = m_inspector->view(u"sceneTree"_s);
+        return tree->viewport()->grab(tree->visualRect(index)).toImage();
+    }
+    static void checkNames(QAccessibleInterface* item, const QString& type)
+    {
+        const QList<QAccessible::Role> controls { QAccessible::EditableText, QAccessible::CheckBox,
+            QAccessible::PushButton, QAccessible::ComboBox, QAccessible::SpinBox,
+            QAccessible::Slider, QAccessible::Table, QAccessible::Tree, QAccessible::List };
+        if (item->state().invisible)
+            return;
+        const QObject* const object = item->object();
+        const bool isControl = controls.contains(item->role());
+        QVERIFY2(!isControl || !item->text(QAccessible::Name).isEmpty(),
+            qPrintable(type + u' '
+                + (object ? object->objectName() + QLatin1String(object->metaObject()->className())
+                          : QString())));
+        // What stands in a list or in an input is the content, not a control.
+        for (int i = 0; !isControl && i < item->childCount(); ++i) {
+            if (QAccessibleInterface* child = item->child(i))
+                checkNames(child, type);
+        }
+    }
+};
+
+QTEST_MAIN(TestKeyboard)
+#include "test_keyboard.moc"
