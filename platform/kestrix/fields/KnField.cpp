@@ -25,6 +25,7 @@ KnField::~KnField()
 
 void KnField::setIgnored(int ignored)
 {
+    aboutToWrite();
     m_ignored = ignored != 0;
     callSensors();
 }

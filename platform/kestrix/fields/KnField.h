@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "KnFieldRecorder.h"
 #include "KnTypedObject.h"
 
 #include <vector>
@@ -54,6 +55,13 @@ protected:
     /// The first sensor has been attached, or the last one detached. Not called any more while the
     /// field is being destroyed.
     virtual void watchedChanged() { }
+
+    /// Before each write: lets whoever records read what the field holds.
+    void aboutToWrite()
+    {
+        if (KnFieldRecorder* const recorder = KnFieldRecorder::current())
+            recorder->aboutToWrite(*this);
+    }
 
 private:
     friend class KnFieldOwner;

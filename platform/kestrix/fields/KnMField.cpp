@@ -16,3 +16,19 @@ void KnMField::reportRows(int start, int removed, int inserted)
     for (KnFieldSensor* sensor : m_sensors)
         sensor->rowsReplaced(start, removed, inserted);
 }
+
+std::unique_ptr<KnRows> KnMField::keepRows(int start, int num)
+{
+    KnFieldRecorder* const recorder = KnFieldRecorder::current();
+    if (!recorder)
+        return nullptr;
+    recorder->aboutToWrite(*this);
+    return recorder->keepsRows(*this, num) ? copyRows(start, num) : nullptr;
+}
+
+void KnMField::recordRows(int start, int removed, int inserted, std::unique_ptr<KnRows> former,
+    KnFieldRecorder::Writing writing)
+{
+    if (KnFieldRecorder* const recorder = KnFieldRecorder::current())
+        recorder->rowsReplaced(*this, start, removed, inserted, std::move(former), writing);
+}

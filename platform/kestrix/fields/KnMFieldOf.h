@@ -46,7 +46,13 @@ public:
     void insertValues(int start, int num) override;
     void removeValues(int start, int num) override;
 
+    std::unique_ptr<KnRows> copyRows(int start, int num) const override;
+    bool holdsRows(int start, const KnRows& rows) const override;
+    void writeRows(int start, const KnRows& rows) override;
+
 private:
+    class Rows;
+
     /// False, after a KnMemoryError, if there is no memory for so many values.
     bool resize(std::int64_t num);
     static bool readArray(KnTextReader& reader, std::vector<Value>& values);

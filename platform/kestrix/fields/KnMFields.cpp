@@ -6,8 +6,10 @@
 #include "KnTextForm.h"
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 #include <stdexcept>
+#include <type_traits>
 
 namespace {
 
@@ -15,6 +17,29 @@ namespace {
 constexpr std::size_t sampleSize = 256;
 
 } // namespace
+
+template <class FieldValue>
+class KnMFieldOf<FieldValue>::Rows : public KnRows {
+public:
+    template <class Iterator>
+    Rows(Iterator begin, Iterator end)
+        : m_values(begin, end)
+    {
+    }
+
+    int getNum() const override { return static_cast<int>(m_values.size()); }
+    void get1(int row, KbString& text) const override
+    {
+        std::string out;
+        {
+            KnTextWriter writer(out);
+            KnTextForm<Value>::write(writer, m_values[static_cast<std::size_t>(row)]);
+        }
+        text = KbString(std::move(out));
+    }
+
+    const std::vector<Value> m_values;
+};
 
 template <class FieldValue>
 bool KnMFieldOf<FieldValue>::resize(std::int64_t num)
@@ -38,10 +63,12 @@ template <class FieldValue>
 void KnMFieldOf<FieldValue>::setNum(int num)
 {
     const int old = getNum();
+    const int kept = std::clamp(num, 0, old);
+    std::unique_ptr<KnRows> former = keepRows(kept, old - kept);
     if (!resize(std::max(num, 0)))
         return;
-    const int kept = std::min(old, getNum());
     reportRows(kept, old - kept, getNum() - kept);
+    recordRows(kept, old - kept, getNum() - kept, std::move(former));
     touch();
 }
 
@@ -51,15 +78,19 @@ void KnMFieldOf<FieldValue>::set1Value(int row, const Value& value)
     if (row < 0)
         return;
     if (row < getNum()) {
+        std::unique_ptr<KnRows> former = keepRows(row, 1);
         m_values[static_cast<std::size_t>(row)] = value;
         reportRows(row, 1, 1);
+        recordRows(row, 1, 1, std::move(former));
     } else {
         Value copy = value; // it may be one of our own rows, which are about to move
         const int old = getNum();
+        aboutToWrite();
         if (!resize(std::int64_t { row } + 1))
             return;
         m_values.back() = std::move(copy);
         reportRows(old, 0, getNum() - old);
+        recordRows(old, 0, getNum() - old, nullptr);
     }
     touch();
 }
@@ -71,11 +102,15 @@ void KnMFieldOf<FieldValue>::setValues(int start, int num, const Value* values)
         return;
     const std::vector<Value> copy(values, values + num); // of what may be our own rows, too
     const int old = getNum();
+    const int first = std::min(start, old);
+    const int removed
+        = static_cast<int>(std::min<std::int64_t>(std::int64_t { start } + num, old)) - first;
+    std::unique_ptr<KnRows> former = keepRows(first, removed);
     if (!resize(std::max<std::int64_t>(old, std::int64_t { start } + num)))
         return;
     std::copy(copy.begin(), copy.end(), m_values.begin() + start);
-    const int first = std::min(start, old);
-    reportRows(first, std::min(start + num, old) - first, start + num - first);
+    reportRows(first, removed, start + num - first);
+    recordRows(first, removed, start + num - first, std::move(former));
     touch();
 }
 
@@ -85,11 +120,13 @@ void KnMFieldOf<FieldValue>::insertValues(int start, int num)
     if (num <= 0)
         return;
     const int old = getNum();
+    aboutToWrite();
     if (!resize(std::int64_t { old } + num))
         return;
     start = std::clamp(start, 0, old);
     std::rotate(m_values.begin() + start, m_values.begin() + old, m_values.end());
     reportRows(start, 0, num);
+    recordRows(start, 0, num, nullptr);
     touch();
 }
 
@@ -101,8 +138,10 @@ void KnMFieldOf<FieldValue>::removeValues(int start, int num)
     start = std::max(start, 0);
     if (start >= end)
         return;
+    std::unique_ptr<KnRows> former = keepRows(start, end - start);
     m_values.erase(m_values.begin() + start, m_values.begin() + end);
     reportRows(start, end - start, 0);
+    recordRows(start, end - start, 0, std::move(former));
     touch();
 }
 
@@ -153,6 +192,7 @@ bool KnMFieldOf<FieldValue>::set(const KbString& text)
 {
     if (!knAcceptsText(*this))
         return false;
+    aboutToWrite();
     KnTextReader reader(text.toUtf8());
     std::vector<Value> values;
     const bool read = reader.acceptDefault() || readArray(reader, values);
@@ -162,8 +202,10 @@ bool KnMFieldOf<FieldValue>::set(const KbString& text)
         return false;
     }
     const int old = getNum();
+    std::unique_ptr<KnRows> former = keepRows(0, old);
     m_values = std::move(values);
     reportRows(0, old, getNum());
+    recordRows(0, old, getNum(), std::move(former));
     touch();
     return true;
 }
@@ -190,10 +232,40 @@ bool KnMFieldOf<FieldValue>::set1(int row, const KbString& text)
         return false;
     }
     Value& value = m_values[static_cast<std::size_t>(row)];
+    std::unique_ptr<KnRows> former = keepRows(row, 1);
     if (!knReadWhole(*this, row, text, value, &KnTextForm<Value>::read))
         return false;
+    recordRows(row, 1, 1, std::move(former), KnFieldRecorder::Writing::Text);
     touch();
     return true;
+}
+
+template <class FieldValue>
+std::unique_ptr<KnRows> KnMFieldOf<FieldValue>::copyRows(int start, int num) const
+{
+    return std::make_unique<Rows>(m_values.begin() + start, m_values.begin() + start + num);
+}
+
+template <class FieldValue>
+bool KnMFieldOf<FieldValue>::holdsRows(int start, const KnRows& rows) const
+{
+    const std::vector<Value>& values = static_cast<const Rows&>(rows).m_values;
+    const int num = rows.getNum();
+    if (start < 0 || std::int64_t { start } + num > getNum())
+        return false;
+    const auto first = m_values.begin() + start;
+    // A zero has a sign, and what is no number equals itself.
+    if constexpr (std::is_trivially_copyable_v<Value>)
+        return num == 0 || std::memcmp(&*first, values.data(), values.size() * sizeof(Value)) == 0;
+    else
+        return std::equal(values.begin(), values.end(), first);
+}
+
+template <class FieldValue>
+void KnMFieldOf<FieldValue>::writeRows(int start, const KnRows& rows)
+{
+    const int num = std::min(rows.getNum(), getNum() - start);
+    setValues(start, num, static_cast<const Rows&>(rows).m_values.data());
 }
 
 #define KN_MFIELD_SOURCE(Name, ValueType)                                                          \

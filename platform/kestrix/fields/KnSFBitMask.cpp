@@ -68,6 +68,7 @@ bool KnSFBitMask::set(const KbString& text)
         } while (reader.accept('|'));
         return !bracket || reader.accept(')') || reader.fail("| or a closing bracket");
     };
+    aboutToWrite();
     if (!knReadWhole(*this, -1, text, m_value, read))
         return false;
     touch();

@@ -7,6 +7,7 @@ KN_TYPE_SOURCE(KnSFEnum, KnSField)
 
 void KnSFEnum::setValue(int value)
 {
+    aboutToWrite();
     m_value = value;
     touch();
 }
@@ -94,6 +95,7 @@ bool KnSFEnum::set(const KbString& text)
         reader.setPosition(start);
         return reader.fail(describeNames());
     };
+    aboutToWrite();
     if (!knReadWhole(*this, -1, text, m_value, read))
         return false;
     touch();

@@ -50,6 +50,7 @@ void KnSFImage::setValue(const KbVec2s& size, int components, const unsigned cha
         else
             picture.bytes.resize(count);
     }
+    aboutToWrite();
     m_picture = std::move(picture);
     touch();
 }
@@ -110,6 +111,7 @@ bool KnSFImage::read(KnTextReader& reader, Picture& picture)
 
 bool KnSFImage::set(const KbString& text)
 {
+    aboutToWrite();
     if (!knReadWhole(*this, -1, text, m_picture, &KnSFImage::read))
         return false;
     touch();

@@ -16,6 +16,7 @@ public:
     const Value& getValue() const { return m_value; }
     void setValue(const Value& value)
     {
+        aboutToWrite();
         m_value = value;
         touch();
     }

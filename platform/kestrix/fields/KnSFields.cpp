@@ -18,6 +18,7 @@ void KnSFieldOf<FieldValue>::get(KbString& text) const
 template <class FieldValue>
 bool KnSFieldOf<FieldValue>::set(const KbString& text)
 {
+    aboutToWrite();
     if (!knReadWhole(*this, -1, text, m_value, &KnTextForm<Value>::read))
         return false;
     touch();

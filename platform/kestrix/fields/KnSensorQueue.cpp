@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "KnSensorQueue.h"
 
+#include "KnFieldRecorder.h"
 #include "KnFieldSensor.h"
 
 #include <algorithm>
@@ -66,6 +67,7 @@ void KnSensorQueue::run(std::size_t count)
     if (m_processing)
         return;
     m_processing = true;
+    const KnFieldRecorder::Pause unrecorded;
     for (m_remaining = count; m_remaining > 0;) {
         KnSensor* sensor = m_sensors.front();
         m_sensors.pop_front();

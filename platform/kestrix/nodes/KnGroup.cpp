@@ -2,6 +2,7 @@
 #include "KnGroup.h"
 
 #include "KnDebugError.h"
+#include "KnFieldRecorder.h"
 #include "KnGraphWalk.h"
 #include "KnWriteThread.h"
 
@@ -106,6 +107,8 @@ void KnGroup::firstLook()
 void KnGroup::report(const KnGroupSensor::Change& change) const
 {
     KnWriteThread::check();
+    if (KnFieldRecorder* const recorder = KnFieldRecorder::current())
+        recorder->childrenChanged();
     for (KnGroupSensor* sensor : m_sensors)
         sensor->childrenReplaced(change);
 }
