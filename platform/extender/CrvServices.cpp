@@ -3,14 +3,13 @@
 
 #include "CrvCommand.h"
 #include "CrvSensorPump.h"
-#include "CrvStrings.h"
+#include "CrvUndoSteps.h"
 #include "KnDatabase.h"
 #include "KnField.h"
 #include "KnFieldContainer.h"
 
 #include <QCoreApplication>
 #include <QScopedValueRollback>
-#include <QUndoCommand>
 #include <QUndoStack>
 
 #include <memory>
@@ -19,61 +18,6 @@
 namespace {
 
 CrvServices* instance = nullptr; // owned, until the application object goes away
-
-/// A command's place on the undo stack. It has no merge identity: two edits stay two steps.
-class UndoEntry : public QUndoCommand {
-public:
-    /// `field` is what the command most likely writes; null if nothing is known.
-    UndoEntry(std::unique_ptr<CrvCommand> command, const QString& text, KnFieldContainer* node,
-        KnField* field, CrvSensorPump& pump)
-        : QUndoCommand(text)
-        , m_node(node)
-        , m_fieldNode(field ? field->getContainer() : nullptr)
-        , m_field(field)
-        , m_pump(pump)
-        , m_command(std::move(command))
-    {
-    }
-
-    void undo() override
-    {
-        m_command->undo();
-        m_pump.hurry(m_field);
-    }
-
-    void redo() override
-    {
-        // The stack calls redo for the first time when it takes the entry.
-        if (std::exchange(m_executed, true))
-            m_command->redo();
-        else
-            m_command->execute();
-        m_pump.hurry(m_field);
-    }
-
-private:
-    KnNodePtr m_node;
-    KnNodePtr m_fieldNode; // another one than m_node while a new selection is being announced
-    const KnField* m_field;
-    CrvSensorPump& m_pump; // outlives the stack
-    std::unique_ptr<CrvCommand> m_command; // names fields of the nodes, so it goes first
-    bool m_executed = false;
-};
-
-/// A command has no description of its own; it comes from the editor of the selected field.
-QString undoText(const KnField* field)
-{
-    const KnFieldContainer* node = field ? field->getContainer() : nullptr;
-    if (!node)
-        return CrvServices::tr("Edit");
-    const KnFieldData* fields = node->getContainerFieldData();
-    const QString name
-        = toQString(node->getName().isEmpty() ? node->getObjectType().getName() : node->getName());
-    const QString text = CrvServices::tr("Edit %1.%2")
-                             .arg(name, toQString(fields->getName(fields->getIndex(node, field))));
-    // A line break would split the text in two for the undo stack.
-    return text.simplified();
-}
 
 } // namespace
 
@@ -89,8 +33,8 @@ CrvServices* CrvServices::getInstance()
 }
 
 CrvServices::CrvServices()
-    : m_undoStack(new QUndoStack(this))
-    , m_pump(new CrvSensorPump(this))
+    : m_pump(new CrvSensorPump(this))
+    , m_undoSteps(new CrvUndoSteps(*m_pump, this))
 {
     KnDatabase::init();
     connect(m_pump, &CrvSensorPump::hurried, this, &CrvServices::fieldEdited);
@@ -99,7 +43,7 @@ CrvServices::CrvServices()
 CrvServices::~CrvServices()
 {
     // The commands name fields that may live in the selected node.
-    m_undoStack->clear();
+    getUndoStack()->clear();
 }
 
 CrvServices::SelectionHold::SelectionHold(CrvServices& services)
@@ -117,10 +61,10 @@ CrvServices::SelectionHold::~SelectionHold()
 CrvServices::StepGroup::StepGroup(CrvServices& services, const QString& text)
     : m_services(services)
 {
-    m_services.m_undoStack->beginMacro(text);
+    m_services.m_undoSteps->beginGroup(text);
 }
 
-CrvServices::StepGroup::~StepGroup() { m_services.m_undoStack->endMacro(); }
+CrvServices::StepGroup::~StepGroup() { m_services.m_undoSteps->endGroup(); }
 
 void CrvServices::setRoots(std::vector<KnNodePtr> roots)
 {
@@ -183,6 +127,7 @@ void CrvServices::apply(const Selection& selection)
         Q_EMIT selectedNodeChanged(m_node.get());
     if (m_field != selection.field || selection.again)
         announceField(selection.field);
+    m_undoSteps->setShown(m_node.get(), m_shownField);
 }
 
 void CrvServices::announceField(KnField* field)
@@ -190,6 +135,7 @@ void CrvServices::announceField(KnField* field)
     m_field = field;
     Q_EMIT selectedFieldChanged(field);
     m_shownField = field;
+    m_undoSteps->setShown(m_node.get(), m_shownField);
 }
 
 KnFieldContainer* CrvServices::getSelectedNode() const { return m_node.get(); }
@@ -200,12 +146,12 @@ void CrvServices::executeCommand(CrvCommand* command)
 {
     if (!command)
         return;
-    auto entry = std::make_unique<UndoEntry>(std::unique_ptr<CrvCommand>(command),
-        undoText(m_shownField), m_node.get(), m_shownField, *m_pump);
-    m_undoStack->push(entry.release()); // which owns it
+    m_undoSteps->execute(std::unique_ptr<CrvCommand>(command), m_node.get(), m_shownField);
 }
 
-QUndoStack* CrvServices::getUndoStack() const { return m_undoStack; }
+QUndoStack* CrvServices::getUndoStack() const { return m_undoSteps->stack(); }
+
+CrvUndoSteps* CrvServices::getUndoSteps() const { return m_undoSteps; }
 
 void CrvServices::setRefreshInterval(int milliseconds) { m_pump->setInterval(milliseconds); }
 

@@ -10,6 +10,7 @@
 
 class CrvCommand;
 class CrvSensorPump;
+class CrvUndoSteps;
 class KnField;
 class KnFieldContainer;
 class QUndoStack;
@@ -54,11 +55,12 @@ public:
         CrvServices& m_services; // outlives this object
     };
 
-    /// Takes ownership, calls `execute` once and keeps the command for undo and redo, under the
-    /// name of the selected field: "Edit Material.transparency". Null is ignored.
+    /// Takes ownership, calls `execute` once and keeps the command for undo and redo; what steps
+    /// that makes is up to `getUndoSteps()`. Null is ignored.
     virtual void executeCommand(CrvCommand* command);
     /// Commands that are executed while it lives become one step of the undo stack, which bears
-    /// this text; the order is kept. One in another one belongs to the outer step.
+    /// this text; the order is kept. One in another one belongs to the outer step. If nothing was
+    /// executed, or all of it certainly has changed nothing, there is no step.
     class StepGroup {
     public:
         StepGroup(CrvServices& services, const QString& text);
@@ -72,6 +74,8 @@ public:
     /// Owned by this object. A step keeps the node alive that was selected when it was made, and
     /// that of the selected field; a command that names others must keep them itself.
     QUndoStack* getUndoStack() const;
+    /// Makes the steps; owned by this object.
+    CrvUndoSteps* getUndoSteps() const;
 
     /// Lets the kernel's sensors run at most once in this time, however often the program writes;
     /// 0, the default, as soon as the event loop has nothing more urgent. What a command writes is
@@ -115,6 +119,6 @@ private:
     int m_holds = 0; // nobody is told of a selection while there are any
     // What an editor may still show, and commit, while a new selection is being announced.
     KnField* m_shownField = nullptr;
-    QUndoStack* m_undoStack; // child
     CrvSensorPump* m_pump; // child
+    CrvUndoSteps* m_undoSteps; // child
 };
