@@ -2,6 +2,7 @@
 #include "SceneDocument.h"
 
 #include "CrvServices.h"
+#include "CrvUndoSteps.h"
 #include "KnSensorQueue.h"
 #include "Messages.h"
 #include "SceneReader.h"
@@ -26,6 +27,7 @@ SceneDocument::~SceneDocument()
 
 bool SceneDocument::isModified()
 {
+    CrvServices::getInstance()->getUndoSteps()->endGesture();
     KnSensorQueue::getInstance().process();
     return m_changes.isModified();
 }
@@ -48,6 +50,7 @@ void SceneDocument::openStarter() { replace(SceneReader().readStarter(), QString
 
 bool SceneDocument::save(const QString& fileName, QString* error)
 {
+    CrvServices::getInstance()->getUndoSteps()->endGesture();
     SceneWriter writer;
     if (!writer.writeFile(*m_root.get(), fileName)) {
         *error = writer.errorText();

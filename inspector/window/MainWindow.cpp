@@ -3,6 +3,7 @@
 
 #include "CrvPluginsManager.h"
 #include "CrvServices.h"
+#include "EditGestures.h"
 #include "EditMenu.h"
 #include "EditorHeading.h"
 #include "EditorOpener.h"
@@ -12,6 +13,7 @@
 #include "FirstSizes.h"
 #include "GuestFileMenu.h"
 #include "HelpMenu.h"
+#include "HistoryView.h"
 #include "KnField.h"
 #include "PaneColumns.h"
 #include "PaneNames.h"
@@ -35,7 +37,7 @@
 #include <QMimeData>
 #include <QToolBar>
 #include <QTreeView>
-#include <QUndoView>
+#include <QUndoStack>
 
 #include <utility>
 
@@ -81,6 +83,7 @@ MainWindow::MainWindow(QSettings* settings, Role role, QWidget* parent)
     menuBar()->addMenu(new HelpMenu(this));
     buildHints();
     new UndoKeys(this);
+    m_gestures = new EditGestures(CrvServices::getInstance()->getUndoSteps(), this);
 
     m_sizes->apply(m_sceneDock, m_historyDock);
     m_scenePanel->setFocus();
@@ -92,8 +95,7 @@ void MainWindow::buildPanels()
 {
     m_scenePanel = new ScenePanel;
     m_sceneDock = addPanelDock(m_scenePanel, QStringLiteral("sceneDock"), tr("Scene"));
-    auto* const history = new QUndoView(CrvServices::getInstance()->getUndoStack());
-    history->setObjectName(QStringLiteral("historyView"));
+    auto* const history = new HistoryView(CrvServices::getInstance()->getUndoSteps());
     history->setEmptyLabel(m_document ? tr("Scene as opened") : tr("Before the first edit"));
     m_historyDock = addPanelDock(history, QStringLiteral("historyDock"), tr("History"));
     auto* const fields = new FieldPanel(this);
@@ -237,6 +239,7 @@ bool MainWindow::returnPlaces()
 
 void MainWindow::addDockWidget(QDockWidget* dock, int area)
 {
+    m_gestures->watch(dock);
     if (m_places.takeBack(dock)) {
         m_viewMenu->addPane(dock);
         return;
@@ -259,6 +262,7 @@ void MainWindow::removeDockWidget(QDockWidget* dock)
     m_viewMenu->removePane(dock);
     if (m_places.remove(dock))
         EditorHeading::remove(dock);
+    m_gestures->unwatch(dock);
 }
 
 void MainWindow::registerExtension(CrvExtension* extension, int)

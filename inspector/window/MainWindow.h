@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+class EditGestures;
 class EditorOpener;
 class FieldPanel;
 class FileMenu;
@@ -91,6 +92,7 @@ private:
     PaneWalk* m_walk = nullptr; // child
     EditorOpener* m_opener = nullptr; // child of the list of fields
     StatusLine* m_statusLine = nullptr; // child
+    EditGestures* m_gestures = nullptr; // child
     QDockWidget* m_sceneDock = nullptr; // child
     QDockWidget* m_historyDock = nullptr; // child
     QDockWidget* m_watchDock = nullptr; // child

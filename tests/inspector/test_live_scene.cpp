@@ -92,7 +92,7 @@ private Q_SLOTS:
                     << QString::fromLatin1(place) << QString::fromLatin1(value) << hasStep << steps;
             };
             add("popup", "MatrixTransform.matrix", "2 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1", 1);
-            add("cell", "IndexedFaceSet.coordIndex", "[ 1, 2 ]", 0); // written without a step
+            add("cell", "IndexedFaceSet.coordIndex", "[ 1, 2 ]", 1);
             add("text cell", "Text.string", "[ \"a\", \"b\" ]", 1);
             add("color dialog", "Material.diffuseColor", "[ 1 0 0 ]", 0);
             add("drag", "Material.transparency", "0.5", 0);
