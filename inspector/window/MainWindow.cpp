@@ -37,7 +37,6 @@
 #include <QMimeData>
 #include <QToolBar>
 #include <QTreeView>
-#include <QUndoStack>
 
 #include <utility>
 
