@@ -214,8 +214,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         commandLine.pictureSize = parseSize(parser.value(parser.size));
         if (!commandLine.pictureSize.isValid()) {
             return refusal(tr("Bad size '%1': two numbers up to %2 expected, as in 1280x800.")
-                               .arg(parser.value(parser.size))
-                               .arg(maxPictureSide));
+                               .arg(parser.value(parser.size), QString::number(maxPictureSide)));
         }
         if (!parser.isSet(parser.picture))
             return refusal(tr("'--size' needs '--picture'."));

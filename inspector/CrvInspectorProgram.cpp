@@ -63,6 +63,7 @@ int fail(const QString& error)
 // Help and version need no display.
 int answer(int argc, char** argv, CommandLine::Request request)
 {
+    const ToolkitMessages messages(ToolkitMessages::Manner::Hush, QString(), usageError);
     const QCoreApplication application(argc, argv);
     if (request == CommandLine::Request::Help)
         sayToTerminal(CommandLine::helpText().trimmed());

@@ -116,7 +116,7 @@ bool SceneSearch::chooseField(const QString& nodeText, const QString& name)
 
 QString SceneSearch::ambiguity(QStringView text, const NodePlaces::Nodes& nodes) const
 {
-    QString error = tr("\"%1\" may be any of %2 nodes:").arg(text).arg(nodes.size());
+    QString error = tr("\"%1\" may be any of %2 nodes:").arg(text, QString::number(nodes.size()));
     const std::size_t shown = std::min(nodes.size(), maxCandidates);
     for (std::size_t i = 0; i < shown; ++i)
         error += QStringLiteral("\n  ") + m_places.path(nodes[i]);
