@@ -35,7 +35,7 @@ private Q_SLOTS:
             { "--picture|missing/a.png", "missing/a.png: ", "2" },
             { "--picture|a.odd", "a.odd: pictures are written as bmp, ", "2" },
             { "--size|1280x", "Bad size '1280x'", "2" }, { "--size|%2x5", "Bad size '%2x5'", "2" },
-            { "--size|16385x5", "up to 16384 expected", "2" },
+            { "--size|0x5", "'0x5'", "2" }, { "--size|16385x5", "up to 16384 expected", "2" },
             { "-platform|nowhere", "no Qt platform plugin could be initialized", "2" },
             { "", "Wrote " }, { "all_fields.json|--select|pointlight.INTENSITY", "Wrote " },
             { "--plugin|" CORVANE_PLUGIN "|--plugin|" CORVANE_EXAMPLE_PLUGIN, "Wrote " },
