@@ -180,7 +180,10 @@ void InspectorSession::showRoots(const std::vector<KnNodePtr>& roots)
     const KnFieldContainer* const selected = services->getSelectedNode();
     if (findRoot(services->getRoots(), selected) && !findRoot(roots, selected))
         services->selectNode(nullptr);
+    const bool wasEmpty = services->getRoots().empty();
     services->setRoots(roots);
+    if (wasEmpty)
+        NodeChoice::chooseFirst();
 }
 
 bool InspectorSession::loadPlugin(const QString& fileName, QString* error)

@@ -5,6 +5,8 @@
 
 #include <QEvent>
 
+#include <algorithm>
+
 ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget* parent)
     : QLabel(parent)
     , m_mode(mode)
@@ -45,7 +47,8 @@ void ElidedLabel::resizeEvent(QResizeEvent* event)
 
 void ElidedLabel::elide()
 {
-    const QString shown = fontMetrics().elidedText(m_text, m_mode, contentsRect().width());
+    const QString shown
+        = fontMetrics().elidedText(m_text, m_mode, contentsRect().width() - std::max(indent(), 0));
     if (shown == text())
         return;
     setText(shown);

@@ -2,6 +2,7 @@
 #include "FieldPanel.h"
 
 #include "CrvServices.h"
+#include "ElidedLabel.h"
 #include "FieldDrag.h"
 #include "FieldFilter.h"
 #include "FieldListActions.h"
@@ -13,7 +14,6 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScopedValueRollback>
@@ -23,7 +23,7 @@
 FieldPanel::FieldPanel(QWidget* parent)
     : QWidget(parent)
     , m_pauseAction(new PauseAction(this))
-    , m_heading(new QLabel(this))
+    , m_heading(new ElidedLabel(Qt::ElideRight, this))
     , m_list(new FieldListView(this))
     , m_filter(new FieldFilter(m_list, &m_model))
     , m_message(new QLabel(this))
@@ -84,9 +84,7 @@ FieldPanel::FieldPanel(QWidget* parent)
 QLayout* FieldPanel::makeHeading()
 {
     m_heading->setObjectName(QStringLiteral("fieldHeading"));
-    m_heading->setTextFormat(Qt::PlainText);
     m_heading->setIndent(fontMetrics().averageCharWidth());
-    m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     // As high as the filter line beside it, so that tree and list start level.
     m_heading->setMinimumHeight(QLineEdit().sizeHint().height());
 
@@ -138,7 +136,7 @@ void FieldPanel::showHeading()
     QFont font = m_heading->font();
     font.setBold(paused);
     m_heading->setFont(font);
-    m_heading->setText(paused ? tr("Paused:  %1").arg(text) : text);
+    m_heading->setWholeText(paused ? tr("Paused:  %1").arg(text) : text);
 }
 
 void FieldPanel::setPaused(bool paused)

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class ElidedLabel;
 class FieldFilter;
 class FieldListActions;
 class FieldListView;
@@ -39,7 +40,7 @@ private:
 
     FieldListModel m_model;
     PauseAction* m_pauseAction; // child
-    QLabel* m_heading; // child
+    ElidedLabel* m_heading; // child
     FieldListView* m_list; // child
     FieldFilter* m_filter; // child of the list
     QLabel* m_message; // child; hidden while there is nothing to tell

@@ -24,7 +24,7 @@ constexpr int bottomHeight = 250;
 constexpr int scenePart = 25;
 constexpr int historyPart = 20;
 constexpr int editorPart = 37;
-constexpr int bottomPart = 30;
+constexpr int bottomPart = 34;
 constexpr int mostOfAll = 53;
 constexpr int editorHeight = 40; // where docks stand one above the other
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "MainWindow.h"
 
-#include "CrvPluginsManager.h"
 #include "CrvServices.h"
 #include "EditGestures.h"
 #include "EditMenu.h"
 #include "EditorHeading.h"
-#include "EditorOpener.h"
 #include "FieldPanel.h"
 #include "FileDialogs.h"
 #include "FileMenu.h"
@@ -17,22 +15,20 @@
 #include "KnField.h"
 #include "PaneColumns.h"
 #include "PaneNames.h"
-#include "PaneWalk.h"
 #include "PauseAction.h"
 #include "ProfileBoxes.h"
 #include "ProfileMemory.h"
 #include "ProfileMenu.h"
 #include "ScenePanel.h"
-#include "StatusLine.h"
 #include "UndoKeys.h"
 #include "ViewMenu.h"
 #include "WatchPanel.h"
+#include "WindowGuide.h"
 #include "WindowLayout.h"
 #include "WindowTitle.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QToolBar>
@@ -80,7 +76,6 @@ MainWindow::MainWindow(QSettings* settings, Role role, QWidget* parent)
     buildEditMenu();
     buildViewMenu();
     menuBar()->addMenu(new HelpMenu(this));
-    buildHints();
     new UndoKeys(this);
     m_gestures = new EditGestures(CrvServices::getInstance()->getUndoSteps(), this);
 
@@ -176,33 +171,13 @@ void MainWindow::buildViewMenu()
             m_watchDock->toggleViewAction() });
     m_viewMenu->insertSeparator(m_viewMenu->endOfExtensions());
     m_viewMenu->addMenu(new ProfileMenu(m_viewMenu));
-    m_viewMenu->addSeparator();
-    m_walk = new PaneWalk(this, { m_sceneDock, centralWidget() });
-    m_walk->addActions(m_viewMenu);
-    m_opener = new EditorOpener(findChild<QTreeView*>(QStringLiteral("fieldList")), m_viewMenu);
+    m_guide = new WindowGuide(this, m_sceneDock, m_viewMenu);
     menuBar()->addMenu(m_viewMenu);
-}
-
-void MainWindow::buildHints()
-{
-    m_statusLine = new StatusLine(this);
-    setStatusBar(m_statusLine);
-    m_statusLine->setHint(findChild<QLineEdit*>(QStringLiteral("sceneFilter")),
-        tr("Down or Return goes to the first match, Esc clears the filter"));
-    m_statusLine->setHint(centralWidget(),
-        tr("Return goes into the field's editor, F6 to the next pane; F1 lists all keys"));
-    m_statusLine->setHint(m_sceneDock->widget(),
-        tr("Choose a node to see and edit its fields; F6 goes on to them, F1 lists all keys"));
 }
 
 void MainWindow::showFileName() { setWindowTitle(WindowTitle::ofFile(m_document->fileName())); }
 
-void MainWindow::chooseLastProfile()
-{
-    CrvProfile* const profile = m_settings ? ProfileMemory::lastProfile(*m_settings) : nullptr;
-    if (profile)
-        CrvPluginsManager::getInstance()->setActiveProfile(profile);
-}
+void MainWindow::chooseLastProfile() { ProfileMemory::chooseLast(m_settings); }
 
 // Which docks are shown follows from the profile and the selection. From last time only their
 // places come back, and which of them the person had closed.
@@ -247,9 +222,7 @@ void MainWindow::addDockWidget(QDockWidget* dock, int area)
     QMainWindow::addDockWidget(static_cast<Qt::DockWidgetArea>(area), dock, Qt::Vertical);
     if (area == Qt::RightDockWidgetArea) {
         new EditorHeading(dock);
-        m_opener->addDock(dock);
-        m_statusLine->setHint(
-            dock, tr("Return applies, Esc drops what was typed and then goes back to the fields"));
+        m_guide->addEditorDock(dock);
     }
     completeNames(dock, dock->windowTitle());
     m_viewMenu->addPane(dock);
@@ -309,7 +282,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 bool MainWindow::focusNextPrevChild(bool next)
 {
-    return m_walk->step(next) || QMainWindow::focusNextPrevChild(next);
+    return m_guide->step(next) || QMainWindow::focusNextPrevChild(next);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -11,16 +11,14 @@
 #include <vector>
 
 class EditGestures;
-class EditorOpener;
 class FieldPanel;
 class FileMenu;
 class FirstSizes;
-class PaneWalk;
 class ProfileBoxes;
 class QSettings;
 class ScenePanel;
-class StatusLine;
 class ViewMenu;
+class WindowGuide;
 class WindowLayout;
 
 /// The inspector's window: the scene on the left, the fields of the selected node in the middle,
@@ -74,7 +72,6 @@ private:
     void buildFileMenu(QSettings* settings);
     void buildEditMenu();
     void buildViewMenu();
-    void buildHints();
     /// The dock owns the panel, and the window the dock.
     QDockWidget* addPanelDock(QWidget* panel, const QString& name, const QString& title);
     void buildWatch(FieldPanel* fields);
@@ -89,9 +86,7 @@ private:
     ScenePanel* m_scenePanel = nullptr; // child
     FileMenu* m_fileMenu = nullptr; // child; null for a guest
     ViewMenu* m_viewMenu = nullptr; // child
-    PaneWalk* m_walk = nullptr; // child
-    EditorOpener* m_opener = nullptr; // child of the list of fields
-    StatusLine* m_statusLine = nullptr; // child
+    WindowGuide* m_guide = nullptr; // child
     EditGestures* m_gestures = nullptr; // child
     QDockWidget* m_sceneDock = nullptr; // child
     QDockWidget* m_historyDock = nullptr; // child

@@ -12,7 +12,10 @@
 
 namespace {
 
-constexpr int smallestColumn = 8; // in characters: what is still worth being shown
+// In characters: what is still worth being shown of a column, and of the one that stays.
+constexpr int smallestColumn = 8;
+constexpr int smallestLast = 13;
+
 constexpr int maxWidth = 10000; // in pixels
 
 } // namespace
@@ -27,8 +30,9 @@ PaneColumns::PaneColumns(QTreeView* view, int characters, std::vector<int> other
     const int character = m_view->fontMetrics().averageCharWidth();
     for (const int column : m_columns) {
         const int width = m_view->header()->sectionSize(column);
-        m_sharing.push_back({ width, std::min(width, smallestColumn * character),
-            m_columns.size() > 1 && column == m_columns.back() });
+        const bool stays = m_columns.size() > 1 && column == m_columns.back();
+        const int smallest = (stays ? smallestLast : smallestColumn) * character;
+        m_sharing.push_back({ width, std::min(width, smallest), stays });
     }
     m_view->viewport()->installEventFilter(this);
     connect(m_view->header(), &QHeaderView::sectionResized, this,

@@ -33,3 +33,10 @@ CrvProfile* ProfileMemory::lastProfile(const QSettings& settings)
     }
     return nullptr;
 }
+
+void ProfileMemory::chooseLast(const QSettings* settings)
+{
+    CrvProfile* const profile = settings ? lastProfile(*settings) : nullptr;
+    if (profile)
+        CrvPluginsManager::getInstance()->setActiveProfile(profile);
+}

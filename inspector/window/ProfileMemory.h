@@ -15,4 +15,6 @@ public:
 
     /// The one chosen last time, of those that there are now; null if there is none.
     static CrvProfile* lastProfile(const QSettings& settings);
+    /// Makes it active, if there is one. `settings` may be null.
+    static void chooseLast(const QSettings* settings);
 };

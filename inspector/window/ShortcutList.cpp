@@ -73,7 +73,7 @@ ShortcutList::ShortcutList(const QMenuBar& menus, QWidget* parent)
     layout->addWidget(m_list);
     layout->addWidget(buttons);
     const int character = fontMetrics().averageCharWidth();
-    resize(QSize(character * 80, character * 80).boundedTo(parent->size()));
+    resize(QSize(character * 110, character * 95).boundedTo(parent->size()));
     m_list->setCurrentItem(m_list->topLevelItem(0));
     m_list->setFocus();
 }

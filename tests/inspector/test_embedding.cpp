@@ -46,6 +46,13 @@ struct Room {
     const KnNodePtr holder { group };
 };
 
+/// A window of the program's own that works with keys.
+class KeyCounter : public QWidget {
+public:
+    void keyPressEvent(QKeyEvent*) override { ++count; }
+    int count = 0;
+};
+
 void touchFields(KnFieldContainer& node)
 {
     const KnFieldData* const fields = node.getContainerFieldData();
@@ -120,6 +127,27 @@ private Q_SLOTS:
         QCOMPARE(entries, QStringList({ u"saveCopyAction"_s, QString(), u"closeAction"_s }));
         QTest::keySequence(inspector.window()->focusWidget(), QKeySequence(u"Ctrl+W"_s));
         QVERIFY(!inspector.isOpen() && !inspector.window()->isVisible());
+    }
+
+    void theHostKeepsItsKeys()
+    {
+        const Room room;
+        CrvInspector inspector(room.group);
+        showActive(inspector);
+        QCOMPARE(CrvServices::getInstance()->getSelectedField(), room.group->getField("visible"));
+        QTest::keyClick(inspector.window()->focusWidget(), Qt::Key_F6);
+        const QWidget* const ours = inspector.window()->focusWidget();
+        QCOMPARE(ours->objectName(), u"fieldList"_s);
+
+        KeyCounter host;
+        host.show();
+        host.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&host));
+        for (const Qt::Key key : { Qt::Key_F1, Qt::Key_F6, Qt::Key_Return, Qt::Key_Escape })
+            QTest::keyClick(&host, key);
+        QCOMPARE(host.count, 4);
+        QCOMPARE(inspector.window()->focusWidget(), ours);
+        QVERIFY(!inspector.window()->findChild<QDialog*>());
     }
 
     void editsOutliveTheWindow()
