@@ -4,8 +4,12 @@
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QLineEdit>
+#include <QVariant>
 
 namespace {
+
+// Set on a button whose tool tip was given here.
+constexpr const char* givenTip = "corvaneGivenTip";
 
 QString nameOf(const QWidget& control, const QString& title)
 {
@@ -29,7 +33,10 @@ void completeNames(QWidget* pane, const QString& title)
             continue;
         if (control->accessibleName().isEmpty())
             control->setAccessibleName(nameOf(*control, title));
-        if (button && button->toolTip().isEmpty())
+        // An editor serves many fields in turn, and its names change with them.
+        if (button && (button->toolTip().isEmpty() || button->property(givenTip).toBool())) {
             button->setToolTip(button->accessibleName());
+            button->setProperty(givenTip, true);
+        }
     }
 }

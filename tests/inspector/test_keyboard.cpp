@@ -104,7 +104,6 @@ private Q_SLOTS:
         // Not the group above it, which the tree shows as well.
         QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);
         QVERIFY(tree->hasFocus() && CrvServices::getInstance()->getSelectedField());
-        const QImage match = rowImage(tree->currentIndex());
         filter()->setFocus();
         QTest::keyClick(filter(), Qt::Key_Escape);
         QVERIFY(filter()->text().isEmpty() && filter()->hasFocus());
@@ -121,10 +120,21 @@ private Q_SLOTS:
         QVERIFY(tree->currentIndex() == QModelIndex());
     }
 
+    void aTipFollowsTheField()
+    {
+        for (const char* field : { "ambientColor", "specularColor" }) {
+            m_inspector->clickField(u"Oak"_s, QLatin1String(field));
+            QCOMPARE(m_inspector->dock(u"Field Editor"_s)
+                         ->findChild<QAbstractButton*>(u"m_colorDisp"_s)
+                         ->toolTip(),
+                QLatin1String(field) + u" colour"_s);
+        }
+    }
+
     /// Whatever a screen reader or a mouse meets says what it is for.
     void everyControlHasAName()
     {
-        m_inspector->choose(u"viewMenu"_s, u"Watch"_s);
+        m_inspector->dock(u"watchDock"_s)->show();
         QSet<QString> types;
         auto* const tree = m_inspector->view(u"sceneTree"_s);
         auto* const fields = m_inspector->view(u"fieldList"_s);

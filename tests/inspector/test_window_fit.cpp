@@ -5,12 +5,14 @@
 #include "FieldListModel.h"
 #include "InspectorFixture.h"
 #include "PaneColumns.h"
+#include "WatchPanel.h"
 
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QSplitter>
 
 namespace {
 
@@ -192,6 +194,29 @@ private Q_SLOTS:
         QTRY_COMPARE(places(), before);
         header = m_inspector->view(u"fieldList"_s)->header();
         QCOMPARE(header->sectionSize(FieldListModel::NameColumn), width);
+    }
+
+    void theSplitterComesBack()
+    {
+        const auto splitter = [this] {
+            m_inspector->dock(u"watchDock"_s)->show();
+            m_inspector->window.findChild<WatchPanel*>()->watch(
+                m_inspector->field(u"Desk lamp.intensity"_s), 0);
+            QCoreApplication::processEvents();
+            return m_inspector->window.findChild<QSplitter*>(u"watchSplitter"_s);
+        };
+        const QList<int> fresh = splitter()->sizes();
+        QWidget* const handle = splitter()->handle(1);
+        const QPoint start = handle->rect().center();
+        QTest::mousePress(handle, Qt::LeftButton, {}, start);
+        QTest::mouseMove(handle, start - QPoint(40, 40));
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, start - QPoint(40, 40));
+        const QList<int> sizes = splitter()->sizes();
+        QVERIFY(sizes != fresh);
+        m_inspector->window.close();
+        m_inspector.reset();
+        m_inspector = std::make_unique<InspectorFixture>(*m_folder);
+        QTRY_COMPARE(splitter()->sizes(), sizes);
     }
 
 private:
