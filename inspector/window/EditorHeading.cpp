@@ -35,6 +35,7 @@ EditorHeading::EditorHeading(QDockWidget* dock)
     , m_dock(dock)
     , m_text(new ElidedLabel(Qt::ElideMiddle, this))
 {
+    remove(dock); // it may have kept an earlier one
     setObjectName(QStringLiteral("editorHeading"));
     m_text->setObjectName(QStringLiteral("editorHeadingText"));
     auto* const layout = new QHBoxLayout(this);

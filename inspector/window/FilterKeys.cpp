@@ -27,7 +27,10 @@ bool FilterKeys::eventFilter(QObject* watched, QEvent* event)
         goToMatch();
         return true;
     case Qt::Key_Escape:
-        m_line->clear();
+        if (m_line->text().isEmpty())
+            m_tree->setFocus(Qt::OtherFocusReason);
+        else
+            m_line->clear();
         return true;
     default:
         return QObject::eventFilter(watched, event);

@@ -8,7 +8,7 @@ class QTreeView;
 class SceneFilterModel;
 
 /// The keys of a filter line above a tree: Down and Return go to the first row that matches, and
-/// choose it; Esc clears the line.
+/// choose it; Esc clears the line, and leaves one that is empty.
 class FilterKeys : public QObject {
     Q_OBJECT
 public:

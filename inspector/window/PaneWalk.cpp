@@ -98,15 +98,14 @@ QList<QWidget*> PaneWalk::panes() const
     const auto place = [this](QWidget* pane) {
         constexpr int floating = 4;
         constexpr int toolBar = 5;
-        const auto* const dock = qobject_cast<QDockWidget*>(pane);
         const QList<Qt::DockWidgetArea> areas { Qt::RightDockWidgetArea, Qt::BottomDockWidgetArea,
             Qt::LeftDockWidgetArea, Qt::TopDockWidgetArea };
+        auto* const dock = qobject_cast<QDockWidget*>(pane);
         int rank = toolBar;
-        if (dock)
-            rank = dock->isFloating()
-                ? floating
-                : static_cast<int>(
-                    areas.indexOf(m_window->dockWidgetArea(const_cast<QDockWidget*>(dock))));
+        if (dock && dock->isFloating())
+            rank = floating;
+        else if (dock)
+            rank = static_cast<int>(areas.indexOf(m_window->dockWidgetArea(dock)));
         return std::make_tuple(rank, pane->y(), pane->x());
     };
     QList<QWidget*> others;

@@ -23,7 +23,7 @@ constexpr PaneKeys paneKeys[] = {
         QT_TRANSLATE_NOOP("ShortcutList", "the next input: scene, fields, editor, other panes") },
     { QT_TRANSLATE_NOOP("ShortcutList", "Filter of the scene"), "Down, Return",
         QT_TRANSLATE_NOOP("ShortcutList", "to the first match") },
-    { "", "Esc", QT_TRANSLATE_NOOP("ShortcutList", "clear the filter") },
+    { "", "Esc", QT_TRANSLATE_NOOP("ShortcutList", "clear the filter; then on to the tree") },
     { QT_TRANSLATE_NOOP("ShortcutList", "List of fields"), "Return",
         QT_TRANSLATE_NOOP("ShortcutList", "into the editor of the field") },
     { QT_TRANSLATE_NOOP("ShortcutList", "Editor"), "Return",

@@ -124,7 +124,7 @@ private Q_SLOTS:
         m_inspector->press(QKeySequence(Qt::Key_F1));
         auto* const keys = m_inspector->window.findChild<QTreeWidget*>(u"shortcuts"_s);
         QVERIFY(keys && keys->isVisible());
-        for (const char* text : { "Undo", "Find Node", "Next Pane", "Open", "clear the filter" })
+        for (const char* text : { "Undo", "Find Node", "Next Pane", "Open", "to the first match" })
             QVERIFY2(!keys->findItems(QLatin1String(text), Qt::MatchExactly | Qt::MatchRecursive, 1)
                           .isEmpty(),
                 text);

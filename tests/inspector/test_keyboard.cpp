@@ -107,6 +107,8 @@ private Q_SLOTS:
         filter()->setFocus();
         QTest::keyClick(filter(), Qt::Key_Escape);
         QVERIFY(filter()->text().isEmpty() && filter()->hasFocus());
+        QTest::keyClick(filter(), Qt::Key_Escape);
+        QVERIFY(tree->hasFocus());
     }
 
     void matchesLookDifferent()
