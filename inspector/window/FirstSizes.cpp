@@ -48,12 +48,25 @@ void FirstSizes::apply(QDockWidget* scene, QDockWidget* history)
 
 void FirstSizes::fitScreen()
 {
+    shrinkToScreen();
+    shareSpace();
+}
+
+void FirstSizes::keep()
+{
+    m_ended = true;
+    shrinkToScreen();
+}
+
+void FirstSizes::shrinkToScreen()
+{
     // The frame, which the window doesn't have yet, must fit in, too.
     const QStyle& style = *m_window->style();
     const int border = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
     const QSize frame(2 * border, style.pixelMetric(QStyle::PM_TitleBarHeight) + border);
-    m_window->resize(windowSize.boundedTo(m_window->screen()->availableGeometry().size() - frame));
-    shareSpace();
+    const QSize room = m_window->screen()->availableGeometry().size() - frame;
+    if (m_window->size().boundedTo(room) != m_window->size())
+        m_window->resize(m_window->size().boundedTo(room));
 }
 
 void FirstSizes::shareSpace()

@@ -20,12 +20,14 @@ public:
     void fitScreen();
     /// Sizes the dock when it is seen for the first time.
     void follow(QDockWidget* dock);
-    /// From now on docks keep the sizes that they have.
-    void end() { m_ended = true; }
+    /// From now on docks keep the sizes that they have, and the window its own, unless that was made
+    /// for a larger screen.
+    void keep();
 
 private:
     void resize(QDockWidget* dock);
 
+    void shrinkToScreen();
     void shareSpace();
 
     QMainWindow* const m_window; // the parent

@@ -191,7 +191,7 @@ void MainWindow::restoreLayout()
     QList<QDockWidget*> hidden = findChildren<QDockWidget*>();
     hidden.removeIf([](const QDockWidget* dock) { return !dock->isHidden(); });
     if (m_layout->restore())
-        m_sizes->end();
+        m_sizes->keep();
     else
         m_sizes->fitScreen();
     for (QDockWidget* dock : std::as_const(hidden))

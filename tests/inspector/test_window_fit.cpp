@@ -47,6 +47,15 @@ private Q_SLOTS:
         }
     }
 
+    void aLargerScreenIsForgotten()
+    {
+        m_inspector->window.resize(3000, 2500);
+        m_inspector->window.close();
+        m_inspector.reset();
+        m_inspector = std::make_unique<InspectorFixture>(*m_folder);
+        theWindowFitsItsScreen();
+    }
+
     /// What a column gives is taken from the first ones first.
     void columnsGiveWayInOrder_data()
     {
