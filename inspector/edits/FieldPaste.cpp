@@ -2,7 +2,6 @@
 #include "FieldPaste.h"
 
 #include "FieldLines.h"
-#include "FieldStep.h"
 #include "FieldTyping.h"
 #include "KnFieldContainer.h"
 #include "KnMField.h"
@@ -112,4 +111,16 @@ QString pasteOntoNodes(const std::vector<KnFieldContainer*>& nodes, const QStrin
     const QString message = report(step.count(), messages);
     step.finish(tr("Paste %1 fields into %2").arg(step.count()).arg(nodesLabel(nodes)));
     return message;
+}
+
+QString pasteRows(KnMField& array, int start, FieldStep::Rows how, const QString& text, bool named)
+{
+    const std::vector<FieldLine> lines = named ? readFieldLines(text) : std::vector<FieldLine>();
+    if (lines.size() > 1)
+        return tr("The rows of one field can be pasted here, but these are several fields");
+    FieldStep step;
+    const QString rows = named && !lines.empty() ? lines.front().value.toString() : text;
+    step.setRows(array, start, how, arrayText(array, rows));
+    step.finish(QString());
+    return step.refusal();
 }

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QString>
+#include "FieldStep.h"
 
 #include <vector>
 
 class KnField;
 class KnFieldContainer;
+class KnMField;
 
 /// A text that a person pastes onto fields or nodes. Each of these functions is one step of the
 /// undo stack, writes what fits and gives a message about what doesn't; empty if everything did.
@@ -18,3 +19,5 @@ QString pasteOntoFields(const std::vector<KnFieldContainer*>& nodes,
     const std::vector<KnField*>& chosen, const QString& text, bool named);
 /// Each line onto the field of its name, in all of the nodes.
 QString pasteOntoNodes(const std::vector<KnFieldContainer*>& nodes, const QString& text);
+/// The text's rows into an array; see FieldStep::setRows. `named` as above.
+QString pasteRows(KnMField& array, int start, FieldStep::Rows how, const QString& text, bool named);

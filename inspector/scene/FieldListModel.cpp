@@ -71,9 +71,12 @@ std::vector<KnFieldContainer*> FieldListModel::nodes() const
     std::vector<KnFieldContainer*> nodes;
     for (const KnNodePtr& node : m_nodes)
         nodes.push_back(node.get());
-    if (m_compared)
-        nodes.resize(1);
     return nodes;
+}
+
+std::vector<KnFieldContainer*> FieldListModel::editedNodes() const
+{
+    return m_compared ? std::vector { node() } : nodes();
 }
 
 ListedField& FieldListModel::row(const QModelIndex& index) const
@@ -234,7 +237,7 @@ bool FieldListModel::setData(const QModelIndex& index, const QVariant& value, in
             m_refusal = step.refusal();
     }
     const bool isRefused = step.count() == 0 && !step.refusal().isEmpty();
-    step.finish(tr("Edit %1 of %2").arg(row(index).name(), nodesLabel(nodes())));
+    step.finish(tr("Edit %1 of %2").arg(row(index).name(), nodesLabel(editedNodes())));
     // At once, since the next key may come before the sensors run.
     if (edited.isValid())
         fieldChanged(row(edited));

@@ -35,8 +35,9 @@ public:
     void setNodes(const std::vector<KnFieldContainer*>& nodes, bool compared = false);
     /// The first of the nodes.
     KnFieldContainer* node() const { return m_nodes.empty() ? nullptr : m_nodes.front().get(); }
-    /// All nodes that an edit in the list is for.
     std::vector<KnFieldContainer*> nodes() const;
+    /// Those that an edit in the list is for: all of them, or the first one of two compared.
+    std::vector<KnFieldContainer*> editedNodes() const;
     bool isComparing() const { return m_compared; }
 
     /// Null for an index that isn't one of this model.

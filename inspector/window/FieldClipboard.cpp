@@ -41,3 +41,10 @@ QString pasteFields(
         return QString();
     return pasteOntoFields(nodes, chosen, data->text(), data->hasFormat(ownFormat()));
 }
+
+QString pasteFieldRows(KnMField& array, int start, FieldStep::Rows how)
+{
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    return data ? pasteRows(array, start, how, data->text(), data->hasFormat(ownFormat()))
+                : QString();
+}

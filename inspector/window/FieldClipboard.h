@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QString>
+#include "FieldStep.h"
 
 #include <vector>
 
 class KnField;
 class KnFieldContainer;
+class KnMField;
 
 /// Fields on the clipboard: a text with a line for each, such as `intensity 0.65`.
 
@@ -19,3 +20,5 @@ bool canPasteFields();
 /// gives a message on what didn't fit, empty if everything did.
 QString pasteFields(
     const std::vector<KnFieldContainer*>& nodes, const std::vector<KnField*>& chosen = {});
+/// Pastes rows, such as those of a spreadsheet, into an array; see FieldStep::setRows.
+QString pasteFieldRows(KnMField& array, int start, FieldStep::Rows how);

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FieldListActions.h"
 
+#include "CrvServices.h"
 #include "FieldClipboard.h"
 #include "FieldListModel.h"
 #include "FieldStep.h"
-#include "KnField.h"
+#include "KnMField.h"
 
 #include <QAction>
 #include <QMenu>
+#include <QTableView>
 #include <QTreeView>
 
 #include <algorithm>
@@ -45,6 +47,7 @@ void FieldListActions::addTo(QMenu& menu)
     m_paste->setEnabled(m_model->node() && canPasteFields());
     m_reset->setEnabled(m_list->selectionModel()->hasSelection());
     menu.addActions({ m_copy, m_copyAll, m_paste });
+    addRowsMenu(menu);
     menu.addSeparator();
     menu.addAction(m_reset);
     // The keys work at any time.
@@ -87,7 +90,47 @@ void FieldListActions::copyAll()
 void FieldListActions::paste()
 {
     if (m_model->node())
-        Q_EMIT told(pasteFields(m_model->nodes(), chosenFields(Of::AllNodes)));
+        Q_EMIT told(pasteFields(m_model->editedNodes(), chosenFields(Of::AllNodes)));
+}
+
+// To paste onto an array in the list replaces it, as onto any other field. These leave the other
+// rows alone.
+void FieldListActions::addRowsMenu(QMenu& menu)
+{
+    auto* const array = dynamic_cast<KnMField*>(m_model->field(m_list->currentIndex()));
+    if (!array || m_model->editedNodes().size() > 1)
+        return;
+    QMenu* const places = menu.addMenu(tr("Paste R&ows"));
+    places->setObjectName(QStringLiteral("pasteRows"));
+    places->setEnabled(canPasteFields());
+    const auto addPlace = [&](const QString& text, int row, FieldStep::Rows how) {
+        // The host may drop the node while the menu is open.
+        connect(places->addAction(text), &QAction::triggered, this,
+            [this, node = KnNodePtr(array->getContainer()), array, row, how] {
+                Q_EMIT told(pasteFieldRows(*array, std::min(row, array->getNum()), how));
+            });
+    };
+    const int row = chosenRow(*array);
+    if (row >= 0 && row < array->getNum()) {
+        // The array's editor counts them from 1.
+        addPlace(tr("&Insert Before Row %1").arg(row + 1), row, FieldStep::Rows::Insert);
+        addPlace(tr("&Overwrite From Row %1").arg(row + 1), row, FieldStep::Rows::Overwrite);
+    }
+    addPlace(tr("Insert at the &Beginning"), 0, FieldStep::Rows::Insert);
+    addPlace(tr("Append at the &End"), array->getNum(), FieldStep::Rows::Insert);
+}
+
+/// The current row in the array's editor, which other extensions bring; -1 if there is none.
+int FieldListActions::chosenRow(const KnField& array) const
+{
+    if (CrvServices::getInstance()->getSelectedField() != &array)
+        return -1;
+    const auto tables = m_list->window()->findChildren<QTableView*>(QStringLiteral("m_table"));
+    for (const QTableView* table : tables) {
+        if (table->isVisible() && table->currentIndex().isValid())
+            return table->currentIndex().row();
+    }
+    return -1;
 }
 
 void FieldListActions::reset()
@@ -105,6 +148,7 @@ void FieldListActions::reset()
         if (!step.setText(*field, text))
             message = step.refusal();
     }
-    step.finish(tr("Reset %1 fields of %2").arg(step.count()).arg(nodesLabel(m_model->nodes())));
+    step.finish(
+        tr("Reset %1 fields of %2").arg(step.count()).arg(nodesLabel(m_model->editedNodes())));
     Q_EMIT told(message);
 }

@@ -34,6 +34,8 @@ private:
     void copy();
     void copyAll();
     void paste();
+    void addRowsMenu(QMenu& menu);
+    int chosenRow(const KnField& array) const;
     void reset();
 
     QTreeView* m_list;

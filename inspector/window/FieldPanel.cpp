@@ -7,11 +7,13 @@
 #include "FieldFilter.h"
 #include "FieldListActions.h"
 #include "FieldListView.h"
+#include "FieldStep.h"
 #include "KnField.h"
 #include "PauseAction.h"
 #include "SceneText.h"
 #include "WatchMenu.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -20,9 +22,30 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
+namespace {
+
+/// The name and the type, or how many nodes there are and their type if they have one in common.
+QString nodesHeading(const std::vector<KnFieldContainer*>& nodes, bool compared)
+{
+    const KnFieldContainer& first = *nodes.front();
+    if (compared)
+        return FieldPanel::tr("%1 and %2").arg(nodeLabel(first), nodeLabel(*nodes.back()));
+    const bool isOneType = std::all_of(nodes.begin(), nodes.end(),
+        [&first](const auto* node) { return node->getObjectType() == first.getObjectType(); });
+    if (!isOneType || (nodes.size() == 1 && first.getName().isEmpty()))
+        return nodesLabel(nodes);
+    return QStringLiteral("%1  %2  %3")
+        .arg(nodesLabel(nodes), QChar(0x2013), typeName(first.getObjectType()));
+}
+
+} // namespace
+
 FieldPanel::FieldPanel(QWidget* parent)
     : QWidget(parent)
     , m_pauseAction(new PauseAction(this))
+    , m_compareAction(new QAction(tr("C&ompare"), this))
     , m_heading(new ElidedLabel(Qt::ElideRight, this))
     , m_list(new FieldListView(this))
     , m_filter(new FieldFilter(m_list, &m_model))
@@ -96,7 +119,15 @@ QLayout* FieldPanel::makeHeading()
         button->setDefaultAction(action);
         button->setFocusPolicy(Qt::TabFocus);
         line->addWidget(button);
+        return button;
     };
+    m_compareAction->setObjectName(QStringLiteral("compareNodes"));
+    m_compareAction->setToolTip(tr("Show the two selected nodes side by side"));
+    m_compareAction->setCheckable(true);
+    m_compareAction->setVisible(false);
+    connect(m_compareAction, &QAction::toggled, this, &FieldPanel::compare);
+    m_compareButton = addButton(QStringLiteral("compareButton"), m_compareAction);
+    m_compareButton->hide();
     addButton(QStringLiteral("changedOnlyButton"), m_filter->action());
     addButton(QStringLiteral("pauseButton"), m_pauseAction);
     return line;
@@ -104,13 +135,37 @@ QLayout* FieldPanel::makeHeading()
 
 void FieldPanel::showNode(KnFieldContainer* node)
 {
+    if (m_model.node() != node)
+        fill(node ? std::vector { node } : std::vector<KnFieldContainer*>());
+    else
+        showHeading();
+}
+
+void FieldPanel::showNodes(const std::vector<KnFieldContainer*>& nodes)
+{
+    if (!nodes.empty() && nodes.front() == m_model.node() && nodes != m_model.nodes())
+        fill(nodes);
+}
+
+void FieldPanel::fill(const std::vector<KnFieldContainer*>& nodes)
+{
     const QScopedValueRollback following(m_following, true);
-    if (m_model.node() != node) {
-        m_list->commitTyping();
-        tell(QString());
-        m_model.setNode(node);
-    }
+    m_list->commitTyping();
+    tell(QString());
+    const bool isPair = nodes.size() == 2;
+    m_compareAction->setVisible(isPair);
+    m_compareButton->setVisible(isPair);
+    m_compareAction->setChecked(isPair && m_compareAction->isChecked());
+    m_model.setNodes(nodes, m_compareAction->isChecked());
+    m_list->header()->setSectionHidden(FieldListModel::OtherColumn, !m_model.isComparing());
     showHeading();
+    showField(CrvServices::getInstance()->getSelectedField());
+}
+
+void FieldPanel::compare()
+{
+    if (!m_following)
+        fill(m_model.nodes());
 }
 
 void FieldPanel::tell(const QString& message)
@@ -121,18 +176,14 @@ void FieldPanel::tell(const QString& message)
 
 void FieldPanel::showHeading()
 {
-    const KnFieldContainer* const node = m_model.node();
     const bool paused = CrvServices::getInstance()->isPaused();
-    QString text = tr("Select a node in the scene");
-    m_list->setEmptyText(node ? tr("This node has no fields")
-                              : tr("The fields of the node that is selected in the scene"));
-    if (node && node->getName().isEmpty()) {
-        text = nodeLabel(*node);
-    } else if (node) {
-        text = QStringLiteral("%1  %2  %3")
-                   .arg(nodeLabel(*node), QChar(0x2013), typeName(node->getObjectType()));
-    }
-    m_heading->setEnabled(node || paused);
+    const std::vector<KnFieldContainer*> nodes = m_model.nodes();
+    const QString text = nodes.empty() ? tr("Select a node in the scene")
+                                       : nodesHeading(nodes, m_model.isComparing());
+    m_heading->setEnabled(!nodes.empty() || paused);
+    m_list->setEmptyText(nodes.empty() ? tr("The fields of the node that is selected in the scene")
+            : nodes.size() == 1        ? tr("This node has no fields")
+                                       : tr("These nodes share no fields"));
     QFont font = m_heading->font();
     font.setBold(paused);
     m_heading->setFont(font);
@@ -184,5 +235,6 @@ void FieldPanel::showMenu(const QPoint& position)
         menu->addSeparator();
     }
     m_actions->addTo(*menu);
+    menu->addAction(m_compareAction);
     menu->popup(m_list->viewport()->mapToGlobal(position));
 }

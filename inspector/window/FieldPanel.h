@@ -9,8 +9,10 @@ class ElidedLabel;
 class FieldFilter;
 class FieldListActions;
 class FieldListView;
+class QAction;
 class QLabel;
 class QLayout;
+class QToolButton;
 class PauseAction;
 
 /// The fields of the selected node below a line that names it. A person's choice becomes the host's
@@ -24,6 +26,10 @@ public:
     /// The button beside the heading has it; a menu may have it, too.
     PauseAction* pauseAction() const { return m_pauseAction; }
 
+    /// Shows what these nodes have in common, or the differences of two. The first one is the
+    /// host's selected node; others are ignored.
+    void showNodes(const std::vector<KnFieldContainer*>& nodes);
+
 Q_SIGNALS:
     /// A person wants to see a number of a field over time.
     void watchRequested(KnField* field, int component);
@@ -33,6 +39,8 @@ private:
     void showHeading();
     void setPaused(bool paused);
     void showNode(KnFieldContainer* node);
+    void fill(const std::vector<KnFieldContainer*>& nodes);
+    void compare();
     void showField(KnField* field);
     void currentChanged(const QModelIndex& current);
     void showMenu(const QPoint& position);
@@ -40,6 +48,8 @@ private:
 
     FieldListModel m_model;
     PauseAction* m_pauseAction; // child
+    QAction* m_compareAction; // child; visible while there are two nodes
+    QToolButton* m_compareButton = nullptr; // child; as visible as its action
     ElidedLabel* m_heading; // child
     FieldListView* m_list; // child
     FieldFilter* m_filter; // child of the list

@@ -95,6 +95,7 @@ void MainWindow::buildPanels()
     auto* const fields = new FieldPanel(this);
     setCentralWidget(fields);
     completeNames(fields, tr("Fields"));
+    connect(m_scenePanel, &ScenePanel::nodesSelected, fields, &FieldPanel::showNodes);
     buildWatch(fields);
     shareColumns(QStringLiteral("sceneTree"), sceneNameCharacters, { SceneModel::TypeColumn });
     shareColumns(QStringLiteral("fieldList"), valueCharacters,

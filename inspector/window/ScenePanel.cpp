@@ -46,6 +46,7 @@ ScenePanel::ScenePanel(QWidget* parent)
     setTreeModel(&m_model);
     m_tree->setEmptyText(emptyText());
     m_tree->setUniformRowHeights(true);
+    m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(SceneModel::NameColumn, QHeaderView::Stretch);
@@ -158,6 +159,8 @@ void ScenePanel::setTreeModel(SceneModel* model)
     m_expansion->follow();
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &ScenePanel::currentChanged);
+    connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &ScenePanel::selectionChanged);
 }
 
 SceneModel& ScenePanel::treeModel() { return m_filter.isFiltering() ? m_filter : m_model; }
@@ -172,6 +175,7 @@ void ScenePanel::currentChanged(const QModelIndex& current)
     if (m_following)
         return;
     m_place = m_filter.isFiltering() ? m_model.counterpart(current) : current;
+    const QScopedValueRollback choosing(m_choosing, true);
     NodeChoice::choose(m_model.node(m_place));
 }
 
@@ -179,8 +183,11 @@ void ScenePanel::showSelection()
 {
     m_placeLost = false;
     findPlace();
-    showPlace();
     const QModelIndex index = toTree(m_place);
+    // Choosing several rows, the person goes from one to the next.
+    if (m_choosing && index == m_tree->currentIndex())
+        return;
+    showPlace();
     if (index.isValid())
         m_tree->scrollTo(index);
 }
@@ -242,4 +249,33 @@ void ScenePanel::lookForSelection()
     showPlace();
     m_tree->setAutoScroll(true);
     m_placeLost = !m_place.isValid(); // it may have to be announced yet
+}
+
+// Later, when the current row has followed as well.
+void ScenePanel::selectionChanged()
+{
+    if (!std::exchange(m_announces, true))
+        QMetaObject::invokeMethod(this, &ScenePanel::announceNodes, Qt::QueuedConnection);
+}
+
+void ScenePanel::announceNodes()
+{
+    m_announces = false;
+    QItemSelectionModel& selection = *m_tree->selectionModel();
+    const QModelIndexList rows = selection.selectedRows();
+    // The current row may just have been taken out of the selection.
+    if (!rows.isEmpty()
+        && !selection.isRowSelected(m_tree->currentIndex().row(), m_tree->currentIndex().parent()))
+        selection.setCurrentIndex(rows.constLast(), QItemSelectionModel::NoUpdate);
+    std::vector<KnFieldContainer*> nodes;
+    if (KnFieldContainer* const selected = CrvServices::getInstance()->getSelectedNode())
+        nodes.push_back(selected);
+    // A node may stand in several places.
+    std::unordered_set<const KnFieldContainer*> known(nodes.begin(), nodes.end());
+    for (const QModelIndex& row : rows) {
+        KnFieldContainer* const node = treeModel().node(row);
+        if (node && known.insert(node).second)
+            nodes.push_back(node);
+    }
+    Q_EMIT nodesSelected(nodes);
 }

@@ -21,6 +21,10 @@ public:
 
     void focusFilter();
 
+Q_SIGNALS:
+    /// The nodes whose rows are selected, the host's selected node first. None is null.
+    void nodesSelected(const std::vector<KnFieldContainer*>& nodes);
+
 private:
     static QString emptyText();
     void showRoots();
@@ -39,6 +43,8 @@ private:
     void structureAboutToChange();
     void structureChanged();
     void lookForSelection();
+    void selectionChanged();
+    void announceNodes();
 
     SceneModel m_model;
     SceneFilterModel m_filter; // what the tree shows instead while there is a filter text
@@ -49,5 +55,7 @@ private:
     QPersistentModelIndex m_place; // of the selected node, in m_model
     bool m_placed = false; // whether there was a place before the structure changed
     bool m_placeLost = false; // the place went while its node was selected
+    bool m_choosing = false; // a person is choosing a row
+    bool m_announces = false; // the selected nodes are about to be announced
     bool m_following = false; // the tree is being brought in line with scene or selection
 };

@@ -3,6 +3,7 @@
 #include "TextRows.h"
 
 #include <QClipboard>
+#include <QTableView>
 
 /// Copies and pastes in the list of fields.
 class TestFieldList : public FieldListTest {
@@ -83,6 +84,34 @@ private Q_SLOTS:
         // The message is gone with the node that it was about.
         m_inspector->clickNode(u"Oak"_s);
         QVERIFY(message().isEmpty());
+    }
+
+    void rowsArePastedIntoAnArray_data()
+    {
+        addTextRows({ { "", "B", "[ 7, 8, 0, 80, 64.5 ]" }, { "", "E", "[ 0, 80, 64.5, 7, 8 ]" },
+            { "1", "I", "[ 0, 7, 8, 80, 64.5 ]" }, { "1", "O", "[ 0, 7, 8 ]" },
+            { "2", "O", "[ 0, 80, 7, 8 ]" } });
+    }
+    void rowsArePastedIntoAnArray()
+    {
+        const auto [row, key, expected] = textRow<3>();
+        choose(u"Opening hours.width"_s);
+        if (!row.isEmpty())
+            m_inspector->inEditor<QTableView>()->setCurrentIndex(
+                m_inspector->inEditor<QTableView>()->model()->index(row.toInt(), 0));
+        QGuiApplication::clipboard()->setText(u"7\n8\n"_s);
+        Q_EMIT list()->customContextMenuRequested(
+            list()->visualRect(list()->currentIndex()).center());
+        auto* const menu = m_inspector->window.findChild<QMenu*>(u"pasteRows"_s);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_O);
+        QTRY_VERIFY(menu->isVisible());
+        QTest::keyClick(menu, key.front().toLatin1());
+        QTRY_COMPARE(m_inspector->text(u"Opening hours.width"_s), expected);
+        QCOMPARE(stack().count(), 1);
+        stack().undo();
+        QCOMPARE(m_inspector->text(u"Opening hours.width"_s), u"[ 0, 80, 64.5 ]"_s);
+        stack().redo();
+        QCOMPARE(m_inspector->text(u"Opening hours.width"_s), expected);
     }
 
     void aBadTextIsRefused_data()
