@@ -39,10 +39,11 @@ QWidget* FieldEditDelegate::createEditor(
 {
     const QStringList choices = choicesOf(*modelOf(index).field(index));
     if (choices.isEmpty()) {
-        m_line = new FieldLine(parent);
-        return m_line;
+        m_editor = new FieldLine(parent);
+        return m_editor;
     }
     auto* const box = new QComboBox(parent);
+    m_editor = box;
     box->setObjectName(QStringLiteral("fieldChoice"));
     box->addItems(choices);
     auto* const self = const_cast<FieldEditDelegate*>(this);
@@ -101,20 +102,27 @@ void FieldEditDelegate::updateEditorGeometry(
 
 void FieldEditDelegate::destroyEditor(QWidget* editor, const QModelIndex& index) const
 {
-    if (editor == m_line)
-        m_line = nullptr; // it lives for a moment yet
+    if (editor == m_editor)
+        m_editor = nullptr; // it lives for a moment yet
     ValueDelegate::destroyEditor(editor, index);
 }
 
-void FieldEditDelegate::commitTyping()
+QString FieldEditDelegate::finish()
 {
-    if (m_line)
-        Q_EMIT commitData(m_line);
+    if (!m_editor)
+        return QString();
+    Q_EMIT commitData(m_editor);
+    const FieldLine* const line = refusedLine();
+    const QString reason = line ? line->reason() : QString();
+    if (m_editor)
+        Q_EMIT closeEditor(m_editor);
+    return reason;
 }
 
 FieldLine* FieldEditDelegate::refusedLine() const
 {
-    return m_line && m_line->isRefused() ? m_line : nullptr;
+    auto* const line = qobject_cast<FieldLine*>(m_editor);
+    return line && line->isRefused() ? line : nullptr;
 }
 
 bool FieldEditDelegate::write(FieldLine* line)

@@ -15,8 +15,9 @@ class FieldEditDelegate : public ValueDelegate {
 public:
     using ValueDelegate::ValueDelegate;
 
-    /// Writes what stands in an open line, as if it were left.
-    void commitTyping();
+    /// Ends an edit before the rows are replaced: writes what was typed. A text that is refused is
+    /// dropped, and this is the reason.
+    QString finish();
     /// The line whose text was refused; null if there is none.
     FieldLine* refusedLine() const;
 
@@ -36,5 +37,5 @@ private:
     /// False for a text that is refused.
     bool write(FieldLine* line);
 
-    mutable QPointer<FieldLine> m_line; // the open one
+    mutable QPointer<QWidget> m_editor; // the open one, a line or a combo box
 };

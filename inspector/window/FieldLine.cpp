@@ -35,6 +35,8 @@ void FieldLine::refuse(const QString& reason)
     m_reason->show();
 }
 
+QString FieldLine::reason() const { return m_reason ? m_reason->text() : QString(); }
+
 void FieldLine::dropReason() { delete m_reason; }
 
 // Below the line, or above it where there is no room.

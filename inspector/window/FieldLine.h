@@ -16,6 +16,8 @@ public:
 
     void refuse(const QString& reason);
     bool isRefused() const { return m_reason; }
+    /// Empty if nothing is refused.
+    QString reason() const;
 
 protected:
     void moveEvent(QMoveEvent* event) override;

@@ -14,7 +14,7 @@ FieldListView::FieldListView(QWidget* parent)
     setEditTriggers(DoubleClicked | EditKeyPressed);
 }
 
-void FieldListView::commitTyping() { m_delegate->commitTyping(); }
+QString FieldListView::finishEditing() { return m_delegate->finish(); }
 
 bool FieldListView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {

@@ -12,8 +12,8 @@ class FieldListView : public PaneTree {
 public:
     explicit FieldListView(QWidget* parent = nullptr);
 
-    /// Writes what stands in an open line, before the rows are replaced.
-    void commitTyping();
+    /// To be called before the rows are replaced; see FieldEditDelegate.
+    QString finishEditing();
 
 protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;

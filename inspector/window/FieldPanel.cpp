@@ -150,8 +150,7 @@ void FieldPanel::showNodes(const std::vector<KnFieldContainer*>& nodes)
 void FieldPanel::fill(const std::vector<KnFieldContainer*>& nodes)
 {
     const QScopedValueRollback following(m_following, true);
-    m_list->commitTyping();
-    tell(QString());
+    tell(m_list->finishEditing());
     const bool isPair = nodes.size() == 2;
     m_compareAction->setVisible(isPair);
     m_compareButton->setVisible(isPair);

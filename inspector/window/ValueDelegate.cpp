@@ -12,6 +12,8 @@ namespace {
 constexpr double brightest = 0.45;
 // The same for a row in which two nodes differ.
 constexpr double differing = 0.2;
+// Above and below the text together, in pixels: room for a check mark and for a line.
+constexpr int rowMargin = 4;
 
 // Away from the text, which stays readable.
 QColor litSelection(const QPalette& palette, double light)
@@ -42,6 +44,13 @@ QIcon swatch(const QColor& color, const QStyleOptionViewItem& option)
 }
 
 } // namespace
+
+// As high whatever stands in the row, since the first row stands for all of them.
+QSize ValueDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    return { QStyledItemDelegate::sizeHint(option, index).width(),
+        option.fontMetrics.height() + rowMargin };
+}
 
 void ValueDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {

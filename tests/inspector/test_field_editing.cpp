@@ -73,7 +73,7 @@ private Q_SLOTS:
     {
         choose(u"Oak.transparency"_s);
         QTest::keyClick(list(), Qt::Key_F2);
-        auto* const line = open<FieldLine>();
+        auto* line = open<FieldLine>();
         QTest::keyClicks(line, u"0,5"_s);
         for (const int key : { Qt::Key_Return, Qt::Key_Tab }) {
             QTest::keyClick(line, static_cast<Qt::Key>(key));
@@ -87,6 +87,14 @@ private Q_SLOTS:
         QTest::keyClick(list(), Qt::Key_F2);
         QVERIFY(line->hasFocus());
         QCOMPARE(m_inspector->text(u"Oak.transparency"_s), u"0.05"_s);
+        // Where the line has to go, the reason stays.
+        m_inspector->clickNode(u"Front view"_s);
+        QVERIFY(message().contains(u"expected the end of the text"_s));
+        choose(u"Oak.transparency"_s);
+        QVERIFY(message().isEmpty());
+        QTest::keyClick(list(), Qt::Key_F2);
+        line = open<FieldLine>();
+        QTest::keyClicks(line, u"0,5\r"_s);
         // A better one is taken.
         QTest::keyClick(line, Qt::Key_Backspace);
         QVERIFY(!open<QLabel>());
