@@ -11,6 +11,7 @@
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -240,7 +241,7 @@ bool FieldListModel::setData(const QModelIndex& index, const QVariant& value, in
     step.finish(tr("Edit %1 of %2").arg(row(index).name(), nodesLabel(editedNodes())));
     // At once, since the next key may come before the sensors run.
     if (edited.isValid())
-        fieldChanged(row(edited));
+        refresh(row(edited));
     return !isRefused;
 }
 
@@ -250,16 +251,42 @@ void FieldListModel::setHeld(bool held)
     for (const auto& row : m_rows) {
         if (held)
             row->shown();
-        else if (row->readAgain())
-            showChange(*row);
+        else
+            refresh(*row, Written::Unknown);
     }
 }
 
+// A row of several nodes is read once for all of them.
 void FieldListModel::fieldChanged(ListedField& row)
 {
+    if (m_nodes.size() == 1) {
+        refresh(row);
+        return;
+    }
+    row.waits = true;
+    if (!std::exchange(m_refreshes, true))
+        QMetaObject::invokeMethod(this, &FieldListModel::refreshWaiting, Qt::QueuedConnection);
+}
+
+void FieldListModel::refreshWaiting()
+{
+    m_refreshes = false;
+    for (const auto& row : m_rows) {
+        if (std::exchange(row->waits, false))
+            refresh(*row);
+    }
+}
+
+void FieldListModel::refresh(ListedField& row, Written written)
+{
+    const bool wasChanged = row.isShownChanged();
     // Of a value that isn't shown as a whole, something else may have changed.
-    if (row.readAgain() || row.leavesOut())
+    if (row.readAgain() || (written == Written::Certainly && row.leavesOut()))
         showChange(row);
+    if (row.isShownChanged() != wasChanged) {
+        const QModelIndex name = index(row.number(), NameColumn);
+        Q_EMIT dataChanged(name, name);
+    }
 }
 
 void FieldListModel::showChange(ListedField& row)
@@ -293,5 +320,5 @@ void FieldListModel::timerEvent(QTimerEvent* event)
 
 void FieldListModel::announce(const ListedField& row)
 {
-    Q_EMIT dataChanged(index(row.number(), NameColumn), index(row.number(), OtherColumn));
+    Q_EMIT dataChanged(index(row.number(), ValueColumn), index(row.number(), OtherColumn));
 }

@@ -74,6 +74,9 @@ private:
     QString toolTip(ListedField& row, int column) const;
     double light(const ListedField& row) const;
     void fieldChanged(ListedField& row) override;
+    enum class Written { Certainly, Unknown };
+    void refresh(ListedField& row, Written written = Written::Certainly);
+    void refreshWaiting();
     void showChange(ListedField& row);
     void announce(const ListedField& row);
 
@@ -83,6 +86,7 @@ private:
     QString m_refusal;
     bool m_compared = false;
     bool m_held = false;
+    bool m_refreshes = false; // rows wait to be read again
     QElapsedTimer m_clock;
     QBasicTimer m_timer; // runs while a value is lit
 };

@@ -56,6 +56,8 @@ public:
     bool isBool() const;
 
     const Shown& shown();
+    /// Whether what was shown last differs from the default; false before anybody has asked.
+    bool isShownChanged() const { return m_shown && m_shown->isChanged; }
     /// Reads again what was shown; true if that is something else now.
     bool readAgain();
     /// Whether what is shown leaves something out, which may then have changed.
@@ -64,6 +66,7 @@ public:
     // When the row has last changed, for its light.
     qint64 changedAt = 0; // by the model's clock, in milliseconds
     bool isLit = false;
+    bool waits = false; // to be read again
 
 private:
     static void sensorRan(void* data, KnSensor* sensor);

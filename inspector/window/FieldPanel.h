@@ -29,6 +29,9 @@ public:
     /// Shows what these nodes have in common, or the differences of two. The first one is the
     /// host's selected node; others are ignored.
     void showNodes(const std::vector<KnFieldContainer*>& nodes);
+    /// Shows a message below the list, until the next one comes or another node is selected; an
+    /// empty text takes it away. For whoever pastes as well.
+    void tell(const QString& message);
 
 Q_SIGNALS:
     /// A person wants to see a number of a field over time.
@@ -44,7 +47,6 @@ private:
     void showField(KnField* field);
     void currentChanged(const QModelIndex& current);
     void showMenu(const QPoint& position);
-    void tell(const QString& message);
 
     FieldListModel m_model;
     PauseAction* m_pauseAction; // child

@@ -114,6 +114,23 @@ private Q_SLOTS:
         QCOMPARE(m_inspector->text(u"Opening hours.width"_s), expected);
     }
 
+    // All of them, where the host shows nothing but what a person does.
+    void isSeenDuringAPause()
+    {
+        choose(u"Desk lamp.on"_s);
+        m_inspector->press(QKeySequence(Qt::CTRL | Qt::Key_P));
+        QGuiApplication::clipboard()->setText(u"intensity 0.125\nlocation 1 2 3"_s);
+        m_inspector->press(QKeySequence::Paste);
+        const auto shown = [this] {
+            return cell(u"intensity"_s).data().toString() + u", "_s
+                + cell(u"location"_s).data().toString();
+        };
+        QTRY_COMPARE(shown(), u"0.125, 1 2 3"_s);
+        stack().undo();
+        QTRY_COMPARE(shown(), u"0.65, 0.6 1.2 0.4"_s);
+        m_inspector->press(QKeySequence(Qt::CTRL | Qt::Key_P));
+    }
+
     void aBadTextIsRefused_data()
     {
         addTextRows({ { "Oak.transparency", "abc", "expected a number" },
