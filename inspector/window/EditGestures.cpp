@@ -14,12 +14,8 @@
 #include <QWidget>
 
 #include <memory>
-#include <utility>
 
 namespace {
-
-// In milliseconds: who stops for so long has finished something.
-constexpr int pauseTime = 1000;
 
 QEvent::Type inputHandled()
 {
@@ -153,7 +149,7 @@ void EditGestures::goOn(Kind kind, QObject* widget)
         input();
     else
         begin(kind, widget);
-    m_pause.start(pauseTime, this);
+    m_pause.start(m_pauseTime, this);
 }
 
 /// The widget is about to handle something. It may do so with a detour over the event loop, as a
@@ -161,8 +157,7 @@ void EditGestures::goOn(Kind kind, QObject* widget)
 void EditGestures::input()
 {
     m_steps->beginInput();
-    if (std::exchange(m_posted, true))
-        return;
+    ++m_posted;
     auto handled = std::make_unique<QEvent>(inputHandled());
     QCoreApplication::postEvent(this, handled.release()); // the event queue owns it
 }
@@ -183,7 +178,10 @@ void EditGestures::customEvent(QEvent* event)
 {
     if (event->type() != inputHandled())
         return;
-    m_posted = false;
+    if (--m_posted > 0) {
+        m_steps->beginInput();
+        return;
+    }
     m_steps->endInput();
     if (m_ending != m_serial)
         return;

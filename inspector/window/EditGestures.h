@@ -23,6 +23,9 @@ public:
     void watch(QObject* pane);
     void unwatch(QObject* pane);
 
+    /// In milliseconds: after so long without a key or a turn, the next one is another gesture.
+    void setPause(int milliseconds) { m_pauseTime = milliseconds; }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -51,6 +54,7 @@ private:
     QPointer<QObject> m_widget; // that the gesture is made in
     int m_serial = 0; // of the gesture
     int m_ending = 0; // serial of the gesture that ends as soon as its input has been handled
-    bool m_posted = false; // an event is under way that ends the input
+    int m_posted = 0; // events under way, each of which says that an input has been handled
+    int m_pauseTime = 1000; // who stops for so long has finished something
     QBasicTimer m_pause; // runs out when the next key or turn is another gesture
 };

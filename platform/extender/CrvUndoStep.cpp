@@ -47,6 +47,11 @@ void CrvUndoStep::setFixedText(const QString& text)
     setText(text.simplified());
 }
 
+bool CrvUndoStep::endsWithCell() const
+{
+    return !isEmpty() && dynamic_cast<const CrvRowsCommand*>(m_parts.back().command.get());
+}
+
 bool CrvUndoStep::isIdle() const
 {
     return !m_changes.hasOthers && !m_changes.records.empty()
@@ -62,6 +67,7 @@ bool CrvUndoStep::mergeWith(const QUndoCommand* later)
 
 void CrvUndoStep::undo()
 {
+    const KnFieldRecorder::Pause unrecorded;
     {
         // The text that a slider saves need not be one that the field reads. What the field held
         // comes back all the same, so that nobody needs to hear of it.
@@ -80,6 +86,7 @@ void CrvUndoStep::redo()
     // The stack calls redo when it takes the step, which was executed by then.
     if (!std::exchange(m_isPushed, true))
         return;
+    const KnFieldRecorder::Pause unrecorded;
     for (const Part& part : m_parts)
         part.command->redo();
     announce();

@@ -33,6 +33,8 @@ public:
     void setFixedText(const QString& text);
     int gesture() const { return m_gesture; }
     bool isEmpty() const { return m_parts.empty(); }
+    /// Whether the last that it did was to write cells without a command.
+    bool endsWithCell() const;
     /// What is known to have been written.
     const CrvChanges& changes() const { return m_changes; }
     /// Whether the fields certainly hold what they held before.

@@ -222,8 +222,13 @@ bool CrvUndoSteps::mayGrow() const
 void CrvUndoSteps::addPart(CrvUndoStep::Part part, CrvChanges changes)
 {
     m_pump.hurry(part.field);
+    // What was typed into a cell is an edit of its own, also if a click on a button ends it.
+    const bool isCell = dynamic_cast<const CrvRowsCommand*>(part.command.get());
+    const bool grows = m_gesture != 0 && mayGrow() && m_open->gesture() == m_gesture;
+    if (grows && m_open->endsWithCell() != isCell)
+        m_gesture = ++m_lastGesture;
     auto step = std::make_unique<CrvUndoStep>(*this, m_gesture);
-    if (m_gesture != 0 && mayGrow() && m_open->gesture() == m_gesture) {
+    if (grows && m_open->gesture() == m_gesture) {
         m_open->add(std::move(part), std::move(changes));
     } else {
         step->add(std::move(part), std::move(changes));
