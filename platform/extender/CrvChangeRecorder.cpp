@@ -11,6 +11,7 @@ namespace {
 // More than a person edits at once. What is beyond them counts as changed.
 constexpr std::size_t maxFields = 64;
 constexpr int maxRows = 4096;
+constexpr std::ptrdiff_t maxPlaces = 64;
 
 } // namespace
 
@@ -26,6 +27,13 @@ const CrvFieldRecord* CrvChanges::find(const KnField* field) const
     const auto found = std::find_if(records.begin(), records.end(),
         [field](const CrvFieldRecord& record) { return record.field == field; });
     return found == records.end() ? nullptr : &*found;
+}
+
+void CrvChanges::keepOnly(const KnField* field)
+{
+    const auto erased = std::erase_if(
+        records, [field](const CrvFieldRecord& record) { return record.field != field; });
+    hasOthers = hasOthers || erased > 0;
 }
 
 void CrvChanges::append(CrvChanges later)
@@ -80,9 +88,13 @@ void CrvChangeRecorder::aboutToWrite(KnField& field)
         m_changes.hasOthers = true;
 }
 
-bool CrvChangeRecorder::keepsRows(const KnMField& field, int num) const
+bool CrvChangeRecorder::keepsRows(const KnMField& field, int num, Writing writing) const
 {
-    return num <= maxRows && m_changes.find(&field);
+    const CrvFieldRecord* const record = num <= maxRows ? m_changes.find(&field) : nullptr;
+    if (!record)
+        return false;
+    const bool isText = writing == Writing::Text;
+    return record->places(isText) < maxPlaces && (isText || !record->hasUnknownRows);
 }
 
 void CrvChangeRecorder::rowsReplaced(KnMField& field, int start, int removed, int inserted,

@@ -12,6 +12,8 @@ struct CrvChanges {
     bool areIdle() const;
     /// Null if the field wasn't written.
     const CrvFieldRecord* find(const KnField* field) const;
+    /// What was written to others is no longer known.
+    void keepOnly(const KnField* field);
     /// Adds what came later.
     void append(CrvChanges later);
 
@@ -32,7 +34,7 @@ public:
 
 private:
     void aboutToWrite(KnField& field) override;
-    bool keepsRows(const KnMField& field, int num) const override;
+    bool keepsRows(const KnMField& field, int num, Writing writing) const override;
     void rowsReplaced(KnMField& field, int start, int removed, int inserted,
         std::unique_ptr<KnRows> former, Writing writing) override;
     void childrenChanged() override { m_changes.hasOthers = true; }

@@ -70,6 +70,12 @@ void CrvFieldRecord::addRows(int start, std::shared_ptr<const KnRows> formerRows
         rows.push_back({ start, std::move(formerRows), asText });
 }
 
+std::ptrdiff_t CrvFieldRecord::places(bool asText) const
+{
+    return std::count_if(
+        rows.begin(), rows.end(), [asText](const Rows& place) { return place.asText == asText; });
+}
+
 void CrvFieldRecord::addSplice(const Splice& splice)
 {
     isChanged = true;

@@ -5,6 +5,7 @@
 #include "KnNodePtr.h"
 #include "KnRows.h"
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -35,6 +36,8 @@ struct CrvFieldRecord {
     /// Before another write, and after the last: notices whether the one before changed anything.
     void look();
     void addRows(int start, std::shared_ptr<const KnRows> formerRows, bool asText);
+    /// How many places of the array were written, as text or otherwise.
+    std::ptrdiff_t places(bool asText) const;
     void addSplice(const Splice& splice);
     /// Whether the field differs from what it held before all writes, or may differ.
     bool differs() const;

@@ -11,6 +11,16 @@
 #include <optional>
 #include <utility>
 
+namespace {
+
+/// Whether what the field held is known to the last digit.
+bool isRestored(const CrvFieldRecord& record)
+{
+    return record.isChanged && !record.isLarge && !record.array();
+}
+
+} // namespace
+
 CrvUndoStep::CrvUndoStep(CrvUndoSteps& steps, int gesture)
     : m_steps(steps)
     , m_gesture(gesture)
@@ -72,7 +82,7 @@ void CrvUndoStep::undo()
         // The text that a slider saves need not be one that the field reads. What the field held
         // comes back all the same, so that nobody needs to hear of it.
         std::optional<KnReadErrorCapture> capture;
-        if (!m_changes.records.empty())
+        if (std::any_of(m_changes.records.begin(), m_changes.records.end(), isRestored))
             capture.emplace();
         for (auto part = m_parts.rbegin(); part != m_parts.rend(); ++part)
             part->command->undo();
@@ -96,7 +106,7 @@ void CrvUndoStep::redo()
 void CrvUndoStep::restoreValues()
 {
     for (const CrvFieldRecord& record : m_changes.records) {
-        if (!record.isChanged || record.isLarge || record.array())
+        if (!isRestored(record))
             continue;
         KbString text;
         record.field->get(text);

@@ -150,8 +150,7 @@ void CrvUndoSteps::settle()
 {
     CrvChanges changes = m_recorder.take();
     // What else was written without a command is the program's.
-    std::erase_if(
-        changes.records, [this](const CrvFieldRecord& record) { return record.field != m_field; });
+    changes.keepOnly(m_field);
     changes.hasOthers = false;
     if (changes.records.empty())
         return;
@@ -182,6 +181,8 @@ void CrvUndoSteps::execute(
     ++m_executedCommands;
     const bool isInput = this->isInput();
     CrvChanges changes = m_recorder.take();
+    if (isInput && field)
+        changes.keepOnly(field);
     // An operation on rows first writes the cell that is open, which needs no command for that.
     const CrvFieldRecord* const shown = isInput ? changes.find(field) : nullptr;
     std::unique_ptr<CrvRowsCommand> cell = shown ? CrvRowsCommand::make(*shown) : nullptr;

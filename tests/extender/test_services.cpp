@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvSensorPump.h"
 #include "CrvServices.h"
+#include "CrvUndoSteps.h"
 #include "KnDebugError.h"
 #include "KnFieldSensor.h"
 #include "KnMaterial.h"
@@ -24,6 +25,26 @@ public:
         ref();
         setName(KbName(name));
     }
+};
+
+/// Sets a number, as an edit does.
+class SetNumber : public CrvCommand {
+public:
+    SetNumber(KnSFFloat& field, float value)
+        : m_field(field)
+        , m_before(field.getValue())
+        , m_after(value)
+    {
+    }
+
+    void execute() override { m_field.setValue(m_after); }
+    void undo() override { m_field.setValue(m_before); }
+    void redo() override { execute(); }
+
+private:
+    KnSFFloat& m_field;
+    const float m_before;
+    const float m_after;
 };
 
 } // namespace
@@ -143,6 +164,97 @@ private Q_SLOTS:
         }
         QCOMPARE(texts,
             u"Edit Material.transparency;Edit two lines %2.transparency;Edit;Edit A.transparency;"_s);
+    }
+
+    void groupsAreOneStep_data()
+    {
+        QTest::addColumn<QList<float>>("values"); // that commands write, one each
+        QTest::addColumn<bool>("plain"); // with a command that writes nothing
+        QTest::addColumn<QString>("steps");
+        QTest::newRow("nothing") << QList<float> {} << false << QString();
+        QTest::newRow("what is there already") << QList<float> { 0, 0 } << false << QString();
+        QTest::newRow("there and back") << QList<float> { 1, 0 } << false << u"outer"_s;
+        QTest::newRow("two") << QList<float> { 1, 2 } << false << u"outer"_s;
+        QTest::newRow("one of which nothing is known") << QList<float> { 0 } << true << u"outer"_s;
+    }
+    void groupsAreOneStep()
+    {
+        QFETCH(const QList<float>, values);
+        QFETCH(const bool, plain);
+        QFETCH(const QString, steps);
+        QUndoStack* const stack = m_services->getUndoStack();
+        m_number.setValue(0);
+        {
+            const CrvServices::StepGroup outer(*m_services, u"outer"_s);
+            for (const float value : values) {
+                const CrvServices::StepGroup inner(*m_services, u"inner"_s);
+                m_services->executeCommand(new SetNumber(m_number, value));
+                QCOMPARE(m_number.getValue(), value); // at once
+            }
+            if (plain)
+                m_services->executeCommand(new NotingCommand);
+        }
+        QCOMPARE(stack->count() > 0 ? stack->text(0) : QString(), steps);
+        QVERIFY(stack->count() < 2);
+        stack->undo();
+        QCOMPARE(m_number.getValue(), 0.0F);
+        stack->redo();
+        QCOMPARE(m_number.getValue(), values.isEmpty() ? 0.0F : values.last());
+        takeCalls();
+    }
+
+    /// An edit that is lost is worse than a step too many.
+    void gesturesKeepWhatIsUncertain_data()
+    {
+        QTest::addColumn<bool>("input");
+        QTest::addColumn<bool>("first"); // the value is written before the command is handed over
+        QTest::addColumn<float>("value");
+        QTest::addColumn<QStringList>("steps");
+        const QString moved = u"A.transparency: 0 → 2"_s;
+        QTest::newRow("edit") << true << true << 2.0F << QStringList { moved };
+        QTest::newRow("late edit") << true << false << 2.0F << QStringList { moved };
+        QTest::newRow("idle") << true << true << 0.0F << QStringList();
+        QTest::newRow("program") << false << false << 2.0F << QStringList { moved };
+        QTest::newRow("program wrote before")
+            << false << true << 2.0F << QStringList { u"Edit A.transparency"_s };
+        QTest::newRow("program, perhaps idle")
+            << false << false << 0.0F << QStringList { u"Edit A.transparency"_s };
+    }
+    void gesturesKeepWhatIsUncertain()
+    {
+        QFETCH(const bool, input);
+        QFETCH(const bool, first);
+        QFETCH(const float, value);
+        QFETCH(QStringList, steps);
+        CrvUndoSteps* const undoSteps = m_services->getUndoSteps();
+        QUndoStack* const stack = undoSteps->stack();
+        undoSteps->setGrouping(CrvUndoSteps::Grouping::Gestures);
+        m_number.setValue(0);
+        m_services->selectField(&m_number);
+        const int before = undoSteps->executedCommands();
+        undoSteps->beginGesture();
+        for (int i = 0; i < 2; ++i) {
+            if (input)
+                undoSteps->beginInput();
+            auto command = std::make_unique<SetNumber>(m_number, value);
+            if (first)
+                m_number.setValue(value);
+            m_services->executeCommand(command.release());
+            undoSteps->endInput();
+        }
+        undoSteps->endGesture();
+        QCOMPARE(undoSteps->executedCommands() - before, 2);
+        // Nobody but a person makes several commands in one go.
+        if (!input)
+            steps = { steps.first(), u"Edit A.transparency"_s };
+        QStringList texts;
+        for (int i = 0; i < stack->count(); ++i)
+            texts += stack->text(i);
+        QCOMPARE(texts, steps);
+        stack->setIndex(0);
+        QCOMPARE(m_number.getValue(), 0.0F);
+        stack->clear();
+        takeCalls();
     }
 
     void sensorsRunOnceABatch()

@@ -12,6 +12,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCheckBox>
+#include <QColorDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -23,6 +24,8 @@
 /// What a person does in the editors of the window, and what becomes of it in the history.
 class TestUndoSteps : public InspectorTest {
     Q_OBJECT
+public:
+    static void initMain() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
 private Q_SLOTS:
     void init()
@@ -88,6 +91,16 @@ private Q_SLOTS:
         add("check box", "Desk lamp.on",
             [this] { QTest::mouseClick(find<QCheckBox>(), Qt::LeftButton, {}, QPoint(8, 8)); },
             { u"Desk lamp.on: FALSE → TRUE"_s });
+        add("color of a dialog", "Desk lamp.color", [this] { chooseColor(Qt::red); },
+            { u"Desk lamp.color: 1 0.8 0.55 → 1 0 0"_s });
+        add("same color again", "Oak.specularColor",
+            [this] {
+                chooseColor(Qt::red);
+                chooseColor(Qt::red);
+            },
+            { u"Oak.specularColor: 0.1 0.1 0.1 → 1 0 0"_s });
+        add("row of a color dialog", "Oak.diffuseColor", [this] { chooseColor(Qt::red, true); },
+            { u"Oak.diffuseColor: row 1: 0.55 0.4 0.25 → 1 0 0"_s });
         add("ignore", "Desk lamp.intensity", [this] { click("m_ignoreButton"); },
             { u"Desk lamp.intensity: ignored"_s });
         add("default", "Desk lamp.intensity", [this] { click("m_defaultButton"); },
@@ -435,6 +448,24 @@ private:
     void click(const char* button)
     {
         QTest::mouseClick(find<QPushButton>(QString::fromLatin1(button)), Qt::LeftButton);
+    }
+    void chooseColor(const QColor& color, bool inTable = false)
+    {
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, &timer, [&] {
+            auto* const dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            timer.stop();
+            dialog->setCurrentColor(color);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        timer.start(0);
+        if (inTable)
+            cell(0);
+        else
+            click("m_colorDisp");
+        QCoreApplication::processEvents();
     }
     void drag(int pixels, int back = 0)
     {

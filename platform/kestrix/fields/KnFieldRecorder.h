@@ -45,8 +45,8 @@ public:
     /// The value of a field or its ignore flag is about to be written, perhaps with an equal one,
     /// or a text is about to be read that may yet be refused. Called for arrays, too.
     virtual void aboutToWrite(KnField& field) = 0;
-    /// Whether `rowsReplaced` wants so many rows.
-    virtual bool keepsRows(const KnMField& field, int num) const = 0;
+    /// Whether `rowsReplaced` wants so many rows that are about to be written.
+    virtual bool keepsRows(const KnMField& field, int num, Writing writing) const = 0;
     /// An array has replaced rows from `start` on by `inserted` others. `former` is null if they
     /// weren't wanted; `removed` is how many there were.
     virtual void rowsReplaced(KnMField& field, int start, int removed, int inserted,

@@ -17,13 +17,13 @@ void KnMField::reportRows(int start, int removed, int inserted)
         sensor->rowsReplaced(start, removed, inserted);
 }
 
-std::unique_ptr<KnRows> KnMField::keepRows(int start, int num)
+std::unique_ptr<KnRows> KnMField::keepRows(int start, int num, KnFieldRecorder::Writing writing)
 {
     KnFieldRecorder* const recorder = KnFieldRecorder::current();
     if (!recorder)
         return nullptr;
     recorder->aboutToWrite(*this);
-    return recorder->keepsRows(*this, num) ? copyRows(start, num) : nullptr;
+    return recorder->keepsRows(*this, num, writing) ? copyRows(start, num) : nullptr;
 }
 
 void KnMField::recordRows(int start, int removed, int inserted, std::unique_ptr<KnRows> former,

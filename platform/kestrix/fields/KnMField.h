@@ -45,7 +45,8 @@ protected:
     /// KnFieldSensor::rowsReplaced.
     void reportRows(int start, int removed, int inserted);
     /// For whoever records: copies rows that are about to be written, if they are wanted.
-    std::unique_ptr<KnRows> keepRows(int start, int num);
+    std::unique_ptr<KnRows> keepRows(
+        int start, int num, KnFieldRecorder::Writing writing = KnFieldRecorder::Writing::Values);
     /// For whoever records: hands over what `keepRows` gave before the write.
     void recordRows(int start, int removed, int inserted, std::unique_ptr<KnRows> former,
         KnFieldRecorder::Writing writing = KnFieldRecorder::Writing::Values);

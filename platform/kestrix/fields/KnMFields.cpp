@@ -232,7 +232,7 @@ bool KnMFieldOf<FieldValue>::set1(int row, const KbString& text)
         return false;
     }
     Value& value = m_values[static_cast<std::size_t>(row)];
-    std::unique_ptr<KnRows> former = keepRows(row, 1);
+    std::unique_ptr<KnRows> former = keepRows(row, 1, KnFieldRecorder::Writing::Text);
     if (!knReadWhole(*this, row, text, value, &KnTextForm<Value>::read))
         return false;
     recordRows(row, 1, 1, std::move(former), KnFieldRecorder::Writing::Text);
