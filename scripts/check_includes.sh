@@ -50,14 +50,15 @@ BEGIN {
     layer("inspector/edits", platform " inspector/text")
     layer("inspector/scene", platform " inspector/text inspector/edits")
     layer("inspector/script", platform " inspector/text inspector/scene")
+    layer("inspector/structure", platform " inspector/text inspector/scene")
     layer("inspector/watch", platform " inspector/text")
     layer("inspector/window", platform \
-        " inspector/text inspector/edits inspector/scene inspector/watch")
+        " inspector/text inspector/edits inspector/scene inspector/structure inspector/watch")
     layer("inspector/process", platform " inspector/text")
     published = "inspector/CrvInspector.h"
     layer(published, "")
     layer("inspector", platform " " published \
-        " inspector/text inspector/edits inspector/scene inspector/script inspector/watch inspector/window" \
+        " inspector/text inspector/edits inspector/scene inspector/script inspector/structure inspector/watch inspector/window" \
         " inspector/process")
     layer("examples", platform " " published) # written as if by somebody else
 }

@@ -4,6 +4,7 @@
 #include "KnGroup.h"
 #include "ListDiff.h"
 #include "NodeFinder.h"
+#include "NodeMimeData.h"
 #include "SceneBranch.h"
 #include "SceneRoots.h"
 #include "SceneText.h"
@@ -139,6 +140,9 @@ QVariant SceneModel::data(const QModelIndex& index, int role) const
     };
     if (role == Qt::DisplayRole)
         return text();
+    // To be edited it is the name itself, which may be empty.
+    if (role == Qt::EditRole && index.column() == NameColumn)
+        return toQString(shown->getName());
     if (role == Qt::ToolTipRole)
         return toolTipText(text());
     // A node without a name stands under its type's.
@@ -155,6 +159,65 @@ QVariant SceneModel::headerData(int section, Qt::Orientation orientation, int ro
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QVariant();
     return section == NameColumn ? tr("Node") : tr("Type");
+}
+
+Qt::ItemFlags SceneModel::flags(const QModelIndex& index) const
+{
+    Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    const KnFieldContainer* const shown = node(index);
+    if (!shown)
+        return m_rootsFixed ? flags : flags | Qt::ItemIsDropEnabled;
+    if (index.column() == NameColumn)
+        flags |= Qt::ItemIsEditable;
+    if (!m_rootsFixed || index.parent().isValid())
+        flags |= Qt::ItemIsDragEnabled;
+    if (dynamic_cast<const KnGroup*>(shown))
+        flags |= Qt::ItemIsDropEnabled;
+    return flags;
+}
+
+bool SceneModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    KnFieldContainer* const shown = node(index);
+    if (!shown || role != Qt::EditRole || index.column() != NameColumn)
+        return false;
+    Q_EMIT renameRequested(shown, value.toString());
+    return true;
+}
+
+QStringList SceneModel::mimeTypes() const { return { NodeMimeData::format() }; }
+
+QMimeData* SceneModel::mimeData(const QModelIndexList& indexes) const
+{
+    auto data = std::make_unique<NodeMimeData>(indexes);
+    return data->rows().isEmpty() ? nullptr : data.release(); // which the drag owns
+}
+
+bool SceneModel::canDropMimeData(
+    const QMimeData* data, Qt::DropAction action, int, int, const QModelIndex& parent) const
+{
+    const QModelIndexList rows = NodeMimeData::rowsOf(data, this);
+    if (action != Qt::MoveAction || rows.isEmpty()
+        || !flags(parent).testFlag(Qt::ItemIsDropEnabled))
+        return false;
+    // Whether a shared node makes a circle is looked at when it is dropped.
+    for (QModelIndex above = parent.siblingAtColumn(NameColumn); above.isValid();
+         above = above.parent()) {
+        for (const QModelIndex& row : rows) {
+            if (node(row) == node(above))
+                return false;
+        }
+    }
+    return true;
+}
+
+bool SceneModel::dropMimeData(
+    const QMimeData* data, Qt::DropAction action, int row, int column, const QModelIndex& parent)
+{
+    if (!canDropMimeData(data, action, row, column, parent))
+        return false;
+    Q_EMIT moveRequested(NodeMimeData::rowsOf(data, this), parent.siblingAtColumn(NameColumn), row);
+    return true;
 }
 
 /// Null if nothing can stand below.

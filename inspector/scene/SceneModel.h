@@ -18,6 +18,8 @@ struct SceneItem;
 /// parents stands in several places. Rows are made, and groups are watched, where a view has asked
 /// what stands there; the rest of the graph costs nothing. What comes, goes and moves in a group
 /// arrives as rows that do, once the kernel's queue runs. Until then a row holds its node.
+///
+/// The model writes nothing itself: a name that is typed and nodes that are dropped are handed on.
 class SceneModel : public QAbstractItemModel {
     Q_OBJECT
 public:
@@ -49,8 +51,24 @@ public:
     bool hasChildren(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+    /// Roots that belong to somebody else can be neither dragged nor joined by others.
+    void setRootsFixed(bool fixed) { m_rootsFixed = fixed; }
+    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+    QStringList mimeTypes() const override;
+    QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+        const QModelIndex& parent) const override;
+    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+        const QModelIndex& parent) override;
 
 Q_SIGNALS:
+    /// A person has typed another name for a node.
+    void renameRequested(KnFieldContainer* node, const QString& name);
+    /// A person has dropped rows in front of one below `parent`; -1 stands for behind the last.
+    void moveRequested(const QModelIndexList& rows, const QModelIndex& parent, int row);
     // Around all that is announced of one group.
     void structureAboutToChange();
     void structureChanged();
@@ -84,6 +102,7 @@ private:
     void announceInsertion(SceneBranch& branch, int row,
         const std::vector<KnFieldContainer*>& nodes, int first, int count);
 
+    bool m_rootsFixed = false;
     NodeFilter* m_filter; // not owned; null lets everything through
     std::vector<KnNodePtr> m_roots;
     std::unique_ptr<SceneItem> m_top; // has the roots below it, and no node

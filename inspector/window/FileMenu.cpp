@@ -17,15 +17,20 @@ FileMenu::FileMenu(SceneDocument* document, QSettings* settings, QWidget* parent
     , m_recentFiles(new RecentFilesMenu(settings, this))
 {
     setObjectName(QStringLiteral("fileMenu"));
+    addAction(tr("&New"), QKeySequence::New, this, &FileMenu::makeNew)
+        ->setObjectName(QStringLiteral("newSceneAction"));
     addAction(tr("&Open..."), QKeySequence::Open, this, &FileMenu::chooseFile);
     addMenu(m_recentFiles);
     addSeparator();
     addAction(tr("&Save"), QKeySequence::Save, this, &FileMenu::save);
     addAction(tr("Save &As..."), QKeySequence::SaveAs, this, &FileMenu::saveAs);
+    m_revert = addAction(tr("&Revert"), this, &FileMenu::revert);
+    m_revert->setObjectName(QStringLiteral("revertAction"));
     addSeparator();
     addAction(tr("&Quit"), QKeySequence::Quit, parent, &QWidget::close);
     connect(m_recentFiles, &RecentFilesMenu::fileChosen, this, &FileMenu::openFile);
     connect(m_document, &SceneDocument::fileNameChanged, this, &FileMenu::noteFile);
+    noteFile();
 }
 
 void FileMenu::openFile(const QString& fileName)
@@ -42,6 +47,31 @@ void FileMenu::openFile(const QString& fileName)
         m_recentFiles->removeFile(fileName);
     QMessageBox::warning(
         parentWidget(), tr("Open"), tr("The file was not opened.") + QLatin1Char('\n') + error);
+}
+
+void FileMenu::makeNew()
+{
+    if (mayDropScene())
+        m_document->openStarter();
+}
+
+// Back to the file, so nobody is asked whether to save.
+void FileMenu::revert()
+{
+    FileDialogs::commitTyping(parentWidget());
+    const QString fileName = m_document->fileName();
+    if (m_document->isModified()
+        && QMessageBox::question(parentWidget(), tr("Revert"),
+               tr("Go back to the scene as it is in the file? The edits since then are lost."),
+               QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel)
+            != QMessageBox::Discard)
+        return;
+    QString error;
+    if (m_document->open(fileName, &error))
+        return;
+    complain(error);
+    QMessageBox::warning(
+        parentWidget(), tr("Revert"), tr("The file was not opened.") + QLatin1Char('\n') + error);
 }
 
 bool FileMenu::mayDropScene()
@@ -95,6 +125,7 @@ QString FileMenu::startDirectory() const
 
 void FileMenu::noteFile()
 {
+    m_revert->setEnabled(!m_document->fileName().isEmpty());
     if (!m_document->fileName().isEmpty())
         m_recentFiles->addFile(m_document->fileName());
 }

@@ -21,6 +21,8 @@ public:
     bool mayDropScene();
 
 private:
+    void makeNew();
+    void revert();
     void chooseFile();
     bool save();
     bool saveAs();
@@ -30,4 +32,5 @@ private:
 
     SceneDocument* m_document; // not owned
     RecentFilesMenu* m_recentFiles; // child
+    QAction* m_revert; // child; for a scene that has a file
 };

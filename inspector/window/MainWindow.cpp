@@ -13,12 +13,14 @@
 #include "HelpMenu.h"
 #include "HistoryView.h"
 #include "KnField.h"
+#include "NodeNavigation.h"
 #include "PaneColumns.h"
 #include "PaneNames.h"
 #include "PauseAction.h"
 #include "ProfileBoxes.h"
 #include "ProfileMemory.h"
 #include "ProfileMenu.h"
+#include "SceneActions.h"
 #include "ScenePanel.h"
 #include "UndoKeys.h"
 #include "ViewMenu.h"
@@ -87,7 +89,7 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::buildPanels()
 {
-    m_scenePanel = new ScenePanel;
+    m_scenePanel = new ScenePanel(m_document ? SceneEdits::Roots::Free : SceneEdits::Roots::Fixed);
     m_sceneDock = addPanelDock(m_scenePanel, QStringLiteral("sceneDock"), tr("Scene"));
     auto* const history = new HistoryView(CrvServices::getInstance()->getUndoSteps());
     history->setEmptyLabel(m_document ? tr("Scene as opened") : tr("Before the first edit"));
@@ -152,7 +154,12 @@ void MainWindow::buildFileMenu(QSettings* settings)
 void MainWindow::buildEditMenu()
 {
     auto* const menu = new EditMenu(this);
+    m_scenePanel->actions().fillEditMenu(menu);
+    menu->addSeparator();
+    m_scenePanel->actions().fillViewMenu(menu);
+    menu->addSeparator();
     menu->addAction(tr("&Find Node"), QKeySequence::Find, this, &MainWindow::findNode);
+    m_scenePanel->navigation().fillMenu(menu);
     menu->addAction(findChild<FieldPanel*>()->pauseAction());
     menuBar()->addMenu(menu);
 }

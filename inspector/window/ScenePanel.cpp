@@ -5,7 +5,10 @@
 #include "FilterKeys.h"
 #include "MatchDelegate.h"
 #include "NodeChoice.h"
+#include "NodeNavigation.h"
+#include "NodePath.h"
 #include "PaneTree.h"
+#include "SceneActions.h"
 #include "TreeExpansion.h"
 
 #include <QHBoxLayout>
@@ -13,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -20,7 +24,7 @@
 #include <unordered_set>
 #include <utility>
 
-ScenePanel::ScenePanel(QWidget* parent)
+ScenePanel::ScenePanel(SceneEdits::Roots roots, QWidget* parent)
     : QWidget(parent)
     , m_filterEdit(new QLineEdit(this))
     , m_filterNote(new QLabel(this))
@@ -47,7 +51,9 @@ ScenePanel::ScenePanel(QWidget* parent)
     m_tree->setEmptyText(emptyText());
     m_tree->setUniformRowHeights(true);
     m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers); // but those of the actions
+    m_tree->setDragDropMode(QAbstractItemView::DragDrop);
+    m_tree->setDefaultDropAction(Qt::MoveAction);
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(SceneModel::NameColumn, QHeaderView::Stretch);
     m_tree->header()->setSectionResizeMode(SceneModel::TypeColumn, QHeaderView::Interactive);
@@ -55,6 +61,12 @@ ScenePanel::ScenePanel(QWidget* parent)
 
     m_tree->setItemDelegate(new MatchDelegate(&m_filter, m_tree));
     new FilterKeys(m_filterEdit, m_tree, &m_filter);
+    m_actions = new SceneActions(this, m_tree, roots);
+    for (SceneModel* const model : models())
+        model->setRootsFixed(roots == SceneEdits::Roots::Fixed);
+
+    auto* const path = new NodePath(this);
+    m_navigation = new NodeNavigation(this, path);
 
     setFocusProxy(m_tree);
     auto* layout = new QVBoxLayout(this);
@@ -64,6 +76,7 @@ ScenePanel::ScenePanel(QWidget* parent)
     line->addWidget(m_filterNote);
     layout->addLayout(line);
     layout->addWidget(m_tree);
+    layout->addWidget(path);
 
     connect(m_filterEdit, &QLineEdit::textChanged, this, &ScenePanel::setFilterText);
     for (const SceneModel* model : { &m_model, static_cast<SceneModel*>(&m_filter) }) {
@@ -71,12 +84,15 @@ ScenePanel::ScenePanel(QWidget* parent)
             model, &SceneModel::structureAboutToChange, this, &ScenePanel::structureAboutToChange);
         connect(model, &SceneModel::structureChanged, this, &ScenePanel::structureChanged);
     }
+    connect(&m_model, &SceneModel::dataChanged, m_navigation, &NodeNavigation::showPath);
     connect(&m_filter, &SceneFilterModel::filtered, this, &ScenePanel::showFiltered);
     connect(&m_filter, &QAbstractItemModel::rowsInserted, this, &ScenePanel::showNewMatches);
     connect(&m_filter, &QAbstractItemModel::rowsRemoved, this, &ScenePanel::showFilterNote);
     CrvServices* const services = CrvServices::getInstance();
     connect(services, &CrvServices::rootsChanged, this, &ScenePanel::showRoots);
     connect(services, &CrvServices::selectedNodeChanged, this, &ScenePanel::showSelection);
+    connect(
+        services->getUndoStack(), &QUndoStack::indexChanged, this, &ScenePanel::showEditInPause);
     showRoots();
 }
 
@@ -101,6 +117,28 @@ void ScenePanel::showRoots()
 
 QString ScenePanel::emptyText() { return tr("The scene, once the program shows one"); }
 
+// While the sensors wait, a person's own edit is seen all the same.
+void ScenePanel::showEditInPause()
+{
+    if (CrvServices::getInstance()->isPaused())
+        treeModel().followAll();
+}
+
+KnFieldContainer* ScenePanel::nodeAt(const QModelIndex& index) { return treeModel().node(index); }
+
+std::optional<NodePlace> ScenePanel::placeOf(const QModelIndex& index)
+{
+    KnFieldContainer* const node = nodeAt(index);
+    if (!node)
+        return std::nullopt;
+    const QModelIndex bare = m_filter.isFiltering() ? m_model.counterpart(index) : index;
+    const ChildList list(nodeAt(index.parent()));
+    const int place = list.find(node, std::max(bare.row(), 0));
+    if (place < 0)
+        return std::nullopt;
+    return NodePlace { KnNodePtr(node), list, place };
+}
+
 void ScenePanel::focusFilter()
 {
     m_filterEdit->setFocus(Qt::ShortcutFocusReason);
@@ -110,6 +148,7 @@ void ScenePanel::focusFilter()
 void ScenePanel::setFilterText(const QString& text)
 {
     m_filter.setFilterText(text);
+    m_navigation->setFilterText(text);
     showFilterNote();
 }
 
@@ -175,8 +214,28 @@ void ScenePanel::currentChanged(const QModelIndex& current)
     if (m_following)
         return;
     m_place = m_filter.isFiltering() ? m_model.counterpart(current) : current;
-    const QScopedValueRollback choosing(m_choosing, true);
-    NodeChoice::choose(m_model.node(m_place));
+    {
+        const QScopedValueRollback choosing(m_choosing, true);
+        NodeChoice::choose(m_model.node(m_place));
+    }
+    // The same node in another place isn't another selection.
+    m_navigation->showPath();
+}
+
+void ScenePanel::goTo(const NodeRows& rows)
+{
+    m_model.followAll();
+    QModelIndex index;
+    for (const int row : rows)
+        index = m_model.index(row, SceneModel::NameColumn, index);
+    if (!index.isValid())
+        return;
+    m_place = index;
+    CrvServices* const services = CrvServices::getInstance();
+    if (services->getSelectedNode() == m_model.node(m_place))
+        showSelection();
+    else
+        services->selectNode(m_model.node(m_place));
 }
 
 void ScenePanel::showSelection()
@@ -196,8 +255,15 @@ void ScenePanel::showSelection()
 void ScenePanel::findPlace()
 {
     KnFieldContainer* const node = CrvServices::getInstance()->getSelectedNode();
-    if (!node || m_model.node(m_place) != node)
-        m_place = m_model.indexOf(node);
+    if (node && m_model.node(m_place) == node)
+        return;
+    m_place = m_model.indexOf(node);
+    if (m_place.isValid() || !node || m_following)
+        return;
+    // A node that came a moment ago may not be announced yet.
+    m_model.followAll();
+    m_filter.followAll();
+    m_place = m_model.indexOf(node);
 }
 
 void ScenePanel::showPlace()
@@ -210,6 +276,7 @@ void ScenePanel::showPlace()
     } else {
         m_tree->selectionModel()->clear();
     }
+    m_navigation->showPath();
 }
 
 // When the current row goes, a view moves on to a neighbour and scrolls there, which is no person's

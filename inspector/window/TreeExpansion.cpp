@@ -42,6 +42,16 @@ void expandSome(QTreeView& tree, const QModelIndex& parent, int first, int last)
     expandRows(tree, parent, first, last, budget);
 }
 
+void collapseAll(QTreeView& tree, const QModelIndex& index)
+{
+    if (!tree.isExpanded(index))
+        return;
+    const QAbstractItemModel& model = *tree.model();
+    for (int row = 0; row < model.rowCount(index); ++row)
+        collapseAll(tree, model.index(row, 0, index));
+    tree.collapse(index);
+}
+
 TreeExpansion::TreeExpansion(QTreeView* tree)
     : QObject(tree)
     , m_tree(tree)

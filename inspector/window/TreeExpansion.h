@@ -17,6 +17,9 @@ void expandSome(QTreeView& tree, const QModelIndex& parent);
 /// The same for some of the rows below `parent`, and what stands below them.
 void expandSome(QTreeView& tree, const QModelIndex& parent, int first, int last);
 
+/// Closes an index and all that is open below it.
+void collapseAll(QTreeView& tree, const QModelIndex& index);
+
 /// What is open in a tree of a scene. A view forgets it with the rows: when it gets another model,
 /// and when a group goes from one place to another.
 class TreeExpansion : public QObject {

@@ -51,6 +51,22 @@ KnType KnType::fromName(const KbName& name)
     return found == registry().indices.end() ? KnType() : KnType(found->second);
 }
 
+std::vector<KnType> KnType::getCreatableTypes(const KnType& ancestor)
+{
+    std::vector<KnType> types;
+    int count = 0;
+    {
+        const std::lock_guard lock(registry().mutex);
+        count = static_cast<int>(registry().entries.size());
+    }
+    for (int index = 1; index < count; ++index) {
+        const KnType type(index);
+        if (type.canCreateInstance() && type.isDerivedFrom(ancestor))
+            types.push_back(type);
+    }
+    return types;
+}
+
 const KbName& KnType::getName() const
 {
     const std::lock_guard lock(registry().mutex);

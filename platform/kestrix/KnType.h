@@ -3,6 +3,8 @@
 
 #include "KbName.h"
 
+#include <vector>
+
 class KnTypedObject;
 
 /// A small handle into the registry of types. Copies are cheap; a handle stays valid for the life
@@ -21,6 +23,10 @@ public:
     /// The bad type if none of that name is registered. The kernel's own types are all registered
     /// once KnDatabase::init has run; until then, only those whose class was asked for its type.
     static KnType fromName(const KbName& name);
+
+    /// The registered types that derive from one and make instances, that one included, in the
+    /// order in which they were registered.
+    static std::vector<KnType> getCreatableTypes(const KnType& ancestor);
 
     bool isBad() const { return m_index == 0; }
     const KbName& getName() const;

@@ -32,16 +32,17 @@ BEGIN {
     pitch = 92 # from row to row
     gap = 3 # before an arrow's head
     between = 46 # targets
-    upper = 5 * pitch + 10
+    upper = 6 * pitch + 10
     target("program", 20, 20, 210, upper, "corvane_inspector")
     room("inspector", "program", 105, 0, "inspector/")
-    room("inspector/script", "program", 55, 1, "script/")
-    room("inspector/window", "program", 155, 1, "window/")
-    room("inspector/scene", "program", 55, 2, "scene/")
-    room("inspector/watch", "program", 155, 2, "watch/")
-    room("inspector/edits", "program", 55, 3, "edits/")
-    room("inspector/process", "program", 155, 3, "process/")
-    room("inspector/text", "program", 105, 4, "text/")
+    room("inspector/window", "program", 105, 1, "window/")
+    room("inspector/script", "program", 55, 2, "script/")
+    room("inspector/structure", "program", 155, 2, "structure/")
+    room("inspector/scene", "program", 55, 3, "scene/")
+    room("inspector/watch", "program", 155, 3, "watch/")
+    room("inspector/edits", "program", 55, 4, "edits/")
+    room("inspector/process", "program", 155, 4, "process/")
+    room("inspector/text", "program", 105, 5, "text/")
 
     target("example", 245, 20, 150, upper, "examples")
     room("examples", "example", 75, 0, "examples/")
