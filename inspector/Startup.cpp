@@ -9,6 +9,7 @@
 #include "MainWindow.h"
 #include "Messages.h"
 #include "NodeChoice.h"
+#include "SceneRoots.h"
 #include "SceneSearch.h"
 #include "SceneText.h"
 
@@ -77,10 +78,10 @@ bool Startup::select(const CommandLine& commandLine)
         NodeChoice::chooseFirst();
         return true;
     }
-    SceneSearch search({ m_window.document().root().get() });
+    CrvServices* const services = CrvServices::getInstance();
+    SceneSearch search(plainRoots(services->getRoots()));
     if (!search.find(commandLine.selection))
         return fail(search.errorText());
-    CrvServices* const services = CrvServices::getInstance();
     services->selectNode(search.node());
     if (search.field())
         services->selectField(search.field());

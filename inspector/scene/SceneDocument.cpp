@@ -25,6 +25,12 @@ SceneDocument::~SceneDocument()
     CrvServices::getInstance()->setRoots({});
 }
 
+KnNodePtr SceneDocument::root() const
+{
+    const std::vector<KnNodePtr>& roots = CrvServices::getInstance()->getRoots();
+    return roots.empty() ? KnNodePtr() : roots.front();
+}
+
 bool SceneDocument::isModified()
 {
     CrvServices::getInstance()->getUndoSteps()->endGesture();
@@ -40,19 +46,26 @@ bool SceneDocument::open(const QString& fileName, QString* error)
         *error = reader.errorText();
         return false;
     }
-    replace(std::move(root), fileName);
+    std::vector<KnNodePtr> roots = reader.takeFurtherRoots();
+    roots.insert(roots.begin(), std::move(root));
+    replace(std::move(roots), fileName);
     say(reader.nodeCount() == 1 ? tr("Opened %1: 1 node").arg(fileName)
                                 : tr("Opened %1: %2 nodes").arg(fileName).arg(reader.nodeCount()));
     return true;
 }
 
-void SceneDocument::openStarter() { replace(SceneReader().readStarter(), QString()); }
+void SceneDocument::openStarter() { replace({ SceneReader().readStarter() }, QString()); }
 
 bool SceneDocument::save(const QString& fileName, QString* error)
 {
     CrvServices::getInstance()->getUndoSteps()->endGesture();
+    const std::vector<KnNodePtr>& roots = CrvServices::getInstance()->getRoots();
+    if (roots.empty()) {
+        *error = tr("The scene has no nodes.");
+        return false;
+    }
     SceneWriter writer;
-    if (!writer.writeFile(*m_root.get(), fileName)) {
+    if (!writer.writeFile(roots, fileName)) {
         *error = writer.errorText();
         return false;
     }
@@ -79,11 +92,10 @@ void SceneDocument::release()
     m_changes.forgetNodes();
 }
 
-void SceneDocument::replace(KnNodePtr root, const QString& fileName)
+void SceneDocument::replace(std::vector<KnNodePtr> roots, const QString& fileName)
 {
     release();
-    m_root = std::move(root);
     m_fileName = fileName;
-    CrvServices::getInstance()->setRoots({ m_root });
+    CrvServices::getInstance()->setRoots(std::move(roots));
     Q_EMIT fileNameChanged();
 }

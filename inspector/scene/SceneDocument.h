@@ -7,16 +7,19 @@
 #include <QObject>
 #include <QString>
 
-/// The open scene: its root, its file, and whether it was modified. It follows the host's selection
-/// to know which nodes may be edited.
+#include <vector>
+
+/// The open scene: its roots, its file, and whether it was modified. It follows the host's
+/// selection to know which nodes may be edited.
 class SceneDocument : public QObject {
     Q_OBJECT
 public:
     explicit SceneDocument(QObject* parent = nullptr);
     ~SceneDocument() override;
 
-    /// Null before the first scene is opened.
-    const KnNodePtr& root() const { return m_root; }
+    /// The first of the roots that the host shows; null before the first scene is opened, and for
+    /// a scene from which a person has deleted all.
+    KnNodePtr root() const;
     /// Empty for a scene that was never saved.
     const QString& fileName() const { return m_fileName; }
 
@@ -38,9 +41,8 @@ Q_SIGNALS:
 
 private:
     void release();
-    void replace(KnNodePtr root, const QString& fileName);
+    void replace(std::vector<KnNodePtr> roots, const QString& fileName);
 
-    KnNodePtr m_root;
     QString m_fileName;
     SceneChanges m_changes;
 };

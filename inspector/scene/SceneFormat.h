@@ -16,6 +16,7 @@ namespace Key {
 inline constexpr QLatin1String format("format");
 inline constexpr QLatin1String version("version");
 inline constexpr QLatin1String root("root");
+inline constexpr QLatin1String roots("roots"); // instead, if there are several
 inline constexpr QLatin1String type("type");
 inline constexpr QLatin1String name("name");
 inline constexpr QLatin1String fields("fields");

@@ -49,11 +49,36 @@ bool SceneReader::build(const QJsonValue& root)
         return refuse(Key::format, tr("not a scene: \"%1\" expected").arg(SceneFormat::name));
     if (scene.value(Key::version) != QJsonValue(SceneFormat::version))
         return refuse(Key::version, tr("version %1 expected").arg(SceneFormat::version));
-    if (!checkObject(root, QString(), { Key::format, Key::version, Key::root }))
+    m_furtherRoots.clear();
+    const bool hasRoots = scene.contains(Key::roots);
+    if (!checkObject(
+            root, QString(), { Key::format, Key::version, hasRoots ? Key::roots : Key::root }))
         return false;
     KnDatabase::init(); // a scene names the types of its nodes
+    if (hasRoots)
+        return readRoots(scene.value(Key::roots));
     m_root = readNode(scene.value(Key::root), Key::root, 0);
     return bool { m_root };
+}
+
+bool SceneReader::readRoots(const QJsonValue& value)
+{
+    const QString path = SceneFormat::Key::roots;
+    if (!checkArray(value, path))
+        return false;
+    const QJsonArray roots = value.toArray();
+    if (roots.isEmpty())
+        return refuse(path, tr("at least one root expected"));
+    for (qsizetype i = 0; i < roots.size(); ++i) {
+        KnNodePtr root = readNode(roots.at(i), elementPath(path, i), 0);
+        if (!root)
+            return false;
+        if (i == 0)
+            m_root = std::move(root);
+        else
+            m_furtherRoots.push_back(std::move(root));
+    }
+    return true;
 }
 
 KnNodePtr SceneReader::readNode(const QJsonValue& value, const QString& path, int depth)

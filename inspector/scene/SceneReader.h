@@ -4,6 +4,9 @@
 #include "CrvJsonReader.h"
 #include "KnNodePtr.h"
 
+#include <utility>
+#include <vector>
+
 class KnField;
 class QJsonObject;
 
@@ -19,6 +22,9 @@ public:
     /// The small scene that the program starts with.
     KnNodePtr readStarter();
 
+    /// Those beside the one that was read last, if the file has several roots.
+    std::vector<KnNodePtr> takeFurtherRoots() { return std::exchange(m_furtherRoots, {}); }
+
     /// Nodes in the graph that was read last.
     int nodeCount() const { return m_nodeCount; }
 
@@ -32,6 +38,9 @@ private:
         KnFieldContainer& node, const QJsonValue& value, const QString& path, int depth);
     KnNodePtr createNode(const QJsonObject& object, const QString& path);
 
+    bool readRoots(const QJsonValue& value);
+
     KnNodePtr m_root;
+    std::vector<KnNodePtr> m_furtherRoots;
     int m_nodeCount = 0;
 };

@@ -3,6 +3,8 @@
 
 #include "KnGraphWalk.h"
 
+#include <algorithm>
+
 KnFieldContainer* findRoot(const std::vector<KnNodePtr>& roots, const KnFieldContainer* node)
 {
     KnGraphWalk walk;
@@ -14,4 +16,12 @@ KnFieldContainer* findRoot(const std::vector<KnNodePtr>& roots, const KnFieldCon
         }
     }
     return nullptr;
+}
+
+std::vector<KnFieldContainer*> plainRoots(const std::vector<KnNodePtr>& roots)
+{
+    std::vector<KnFieldContainer*> nodes(roots.size());
+    std::transform(roots.begin(), roots.end(), nodes.begin(),
+        [](const KnNodePtr& root) { return root.get(); });
+    return nodes;
 }

@@ -38,8 +38,17 @@ void appendField(QByteArray& json, const KbString& text, bool ignored)
 
 bool SceneWriter::writeFile(const KnFieldContainer& root, const QString& fileName)
 {
+    return writeFile(toJson(root), fileName);
+}
+
+bool SceneWriter::writeFile(const std::vector<KnNodePtr>& roots, const QString& fileName)
+{
+    return writeFile(toJson(roots), fileName);
+}
+
+bool SceneWriter::writeFile(const QByteArray& json, const QString& fileName)
+{
     m_error.clear();
-    const QByteArray json = toJson(root);
     QSaveFile file(fileName);
     if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit())
         return true;
@@ -48,6 +57,35 @@ bool SceneWriter::writeFile(const KnFieldContainer& root, const QString& fileNam
 }
 
 QByteArray SceneWriter::toJson(const KnFieldContainer& root)
+{
+    beginScene();
+    indent(1);
+    appendKey(m_json, SceneFormat::Key::root);
+    writeNode(root, 1);
+    return endScene();
+}
+
+QByteArray SceneWriter::toJson(const std::vector<KnNodePtr>& roots)
+{
+    // As other versions of this program read it, too.
+    if (roots.size() == 1)
+        return toJson(*roots.front().get());
+    beginScene();
+    indent(1);
+    appendKey(m_json, SceneFormat::Key::roots);
+    m_json.append('[');
+    for (std::size_t i = 0; i < roots.size(); ++i) {
+        m_json.append(i > 0 ? ",\n" : "\n");
+        indent(2);
+        writeNode(*roots[i].get(), 2);
+    }
+    m_json.append('\n');
+    indent(1);
+    m_json.append(']');
+    return endScene();
+}
+
+void SceneWriter::beginScene()
 {
     using namespace SceneFormat;
     m_json = QByteArray("{\n");
@@ -58,9 +96,10 @@ QByteArray SceneWriter::toJson(const KnFieldContainer& root)
     indent(1);
     appendKey(m_json, Key::version);
     m_json.append(QByteArray::number(SceneFormat::version)).append(",\n");
-    indent(1);
-    appendKey(m_json, Key::root);
-    writeNode(root, 1);
+}
+
+QByteArray SceneWriter::endScene()
+{
     m_json.append("\n}\n");
     return std::exchange(m_json, QByteArray());
 }

@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <vector>
+
 /// Writes a scene file, in the form that SceneReader reads. Of each node it writes only what
 /// differs from a fresh node of its type. Members stand in the order in which a person reads them,
 /// where Qt's own writer would sort them by name, and every text survives, lone surrogates
@@ -16,10 +18,16 @@ public:
     /// `errorText` says why.
     bool writeFile(const KnFieldContainer& root, const QString& fileName);
     QByteArray toJson(const KnFieldContainer& root);
+    /// The same for all roots of a scene; none is null, and there is at least one.
+    bool writeFile(const std::vector<KnNodePtr>& roots, const QString& fileName);
+    QByteArray toJson(const std::vector<KnNodePtr>& roots);
 
     const QString& errorText() const { return m_error; }
 
 private:
+    void beginScene();
+    QByteArray endScene();
+    bool writeFile(const QByteArray& json, const QString& fileName);
     void writeNode(const KnFieldContainer& node, int level);
     void writeFields(const KnFieldContainer& node, int level);
     void writeChildren(const KnFieldContainer& node, int level);

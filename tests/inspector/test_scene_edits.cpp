@@ -5,6 +5,7 @@
 #include "KnMaterial.h"
 #include "SceneModel.h"
 
+#include <QDialog>
 #include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QUndoStack>
@@ -341,6 +342,31 @@ private Q_SLOTS:
         QTRY_COMPARE(shown(*m_tree->model()), u"Scene(Room(B A C) Hall())"_s);
     }
 
+    void severalRootsAreKeptInTheFile()
+    {
+        m_inspector->clickNode(u"Scene"_s);
+        press(u"Ctrl+D"_s);
+        press(u"Ctrl+S"_s);
+        const QString saved = outline();
+        QVERIFY(!m_inspector->window.isWindowModified());
+        press(u"Del"_s);
+        press(u"Del"_s);
+        QTRY_COMPARE(outline(), QString());
+        QTRY_VERIFY(m_inspector->window.isWindowModified());
+        m_inspector->answerNextQuestion(QMessageBox::Cancel);
+        m_inspector->choose(u"fileMenu"_s, u"revertAction"_s);
+        QCOMPARE(outline(), QString());
+        m_inspector->answerNextQuestion(QMessageBox::Discard);
+        m_inspector->choose(u"fileMenu"_s, u"revertAction"_s);
+        QCOMPARE(outline(), saved);
+        QTRY_COMPARE(shown(*m_tree->model()), saved);
+        QVERIFY(!m_inspector->window.isWindowModified());
+        m_inspector->choose(u"fileMenu"_s, u"newSceneAction"_s); // nothing to lose
+        QCOMPARE(outline(), u"Scene(Sun Paint)"_s);
+        QCOMPARE(m_inspector->window.document().fileName(), QString());
+        QVERIFY(!m_inspector->window.isWindowModified());
+    }
+
     void anEditIsSeenInAPause()
     {
         CrvServices::getInstance()->setPaused(true);
@@ -379,6 +405,9 @@ private:
     /// A key, or what is typed behind a quote, where the focus is.
     void press(const QString& key)
     {
+        const auto* const dialog = m_inspector->window.findChild<QDialog*>();
+        if (dialog && dialog->isVisible())
+            QTRY_VERIFY(dialog->isActiveWindow());
         // Where a dialog was, it takes a window manager to get the focus back.
         if (!QApplication::activeWindow())
             m_inspector->window.activateWindow();

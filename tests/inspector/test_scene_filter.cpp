@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTextDocument>
 
 namespace {
 
@@ -220,6 +221,99 @@ private Q_SLOTS:
         group->addChild(room);
         QTRY_VERIFY(index(u"heard of first"_s).isValid());
         QVERIFY(shownRows(*m_tree).contains(u"Book"_s));
+    }
+
+    void stepsAlongTheMatches_data()
+    {
+        QTest::addColumn<bool>("taken");
+        QTest::newRow("filtered") << false;
+        QTest::newRow("the filter taken away") << true;
+    }
+    void stepsAlongTheMatches()
+    {
+        QFETCH(const bool, taken);
+        auto* const group = static_cast<KnGroup*>(m_scene.get());
+        auto* const room = static_cast<KnGroup*>(newNode(u"Group"_s, u"Material room"_s));
+        room->addChild(newNode(u"Material"_s, u"Pine"_s));
+        group->insertChild(room, 1);
+        QTest::keyClicks(m_line, u"material"_s);
+        if (taken)
+            m_line->clear();
+        QCoreApplication::processEvents();
+        const auto press = [this](const QKeySequence& keys) {
+            m_inspector->press(keys);
+            const KnFieldContainer* const node = CrvServices::getInstance()->getSelectedNode();
+            return node && m_tree->visualRect(m_tree->currentIndex()).isValid() ? nodeLabel(*node)
+                                                                                : QString();
+        };
+        for (const QString& name : { u"Oak"_s, u"Material room"_s, u"Pine"_s, u"Été wall"_s,
+                 u"Oak"_s, u"Material room"_s })
+            QCOMPARE(press(Qt::Key_F3), name);
+        for (const QString& name : { u"Oak"_s, u"Été wall"_s, u"Pine"_s })
+            QCOMPARE(press(QKeySequence(Qt::SHIFT | Qt::Key_F3)), name);
+        // What was selected goes back, without the one that is gone.
+        const QKeySequence back(Qt::ALT | Qt::Key_Left);
+        QCOMPARE(press(back), u"Été wall"_s);
+        group->removeChild(group->findChild(group->getChild(0)));
+        QCoreApplication::processEvents();
+        QCOMPARE(press(back), u"Material room"_s);
+        QCOMPARE(press(QKeySequence(Qt::ALT | Qt::Key_Right)), u"Été wall"_s);
+    }
+
+    void thePathLeadsUp()
+    {
+        auto* const group = static_cast<KnGroup*>(m_scene.get());
+        auto* const room = static_cast<KnGroup*>(newNode(u"Group"_s, u"Room"_s));
+        auto* const shelf = static_cast<KnGroup*>(newNode(u"Group"_s, u"A shelf <b>"_s));
+        shelf->addChild(newNode(u"Text"_s, u"Book"_s));
+        room->addChild(shelf);
+        group->addChild(room);
+        QCoreApplication::processEvents();
+        CrvServices::getInstance()->selectNode(shelf->getChild(0));
+        auto* const path = m_inspector->window.findChild<QLabel*>(u"nodePath"_s);
+        const auto shown = [path] {
+            QTextDocument text;
+            text.setHtml(path->text());
+            return text.toPlainText();
+        };
+        QCOMPARE(shown(), u"Scene / Room / A shelf <b> / Book"_s);
+        room->setName(KbName("Hall"));
+        QTRY_COMPARE(shown(), u"Scene / Hall / A shelf <b> / Book"_s);
+        const int width = path->width();
+        path->resize(path->fontMetrics().horizontalAdvance(u"Scene / ... / A shelf <b> / Book "_s)
+                + 2 * path->margin(),
+            path->height());
+        QCOMPARE(shown(), u"Scene / \u2026 / A shelf <b> / Book"_s);
+        path->resize(width, path->height());
+        // From the end of the path two links back.
+        const int x = path->fontMetrics().horizontalAdvance(u"Scene / Ha"_s);
+        QTest::mouseClick(path, Qt::LeftButton, {}, QPoint(x, path->height() / 2));
+        QCOMPARE(CrvServices::getInstance()->getSelectedNode(), room);
+        QCOMPARE(shown(), u"Scene / Hall"_s);
+        path->grab(); // a label takes its new links when it is drawn
+        path->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(path, Qt::Key_Tab);
+        QTest::keyClick(path, Qt::Key_Return); // on the first link
+        QTRY_COMPARE(shown(), u"Scene"_s);
+    }
+
+    void keysOpenAndCloseBelow()
+    {
+        auto* const group = static_cast<KnGroup*>(m_scene.get());
+        auto* const room = static_cast<KnGroup*>(newNode(u"Group"_s, u"Room"_s));
+        auto* const shelf = static_cast<KnGroup*>(newNode(u"Group"_s, u"Shelf"_s));
+        shelf->addChild(newNode(u"Text"_s, u"Book"_s));
+        room->addChild(shelf);
+        group->addChild(room);
+        QCoreApplication::processEvents();
+        m_inspector->clickNode(u"Room"_s);
+        const QStringList closed = shownRows(*m_tree);
+        m_inspector->press(Qt::Key_Asterisk);
+        QCOMPARE(shownRows(*m_tree), closed + QStringList({ u"Shelf"_s, u"Book"_s }));
+        m_inspector->press(Qt::Key_Slash);
+        QCOMPARE(shownRows(*m_tree), closed);
+        m_inspector->press(Qt::Key_Right); // what stood below is closed, too
+        QCOMPARE(shownRows(*m_tree), closed + QStringList({ u"Shelf"_s }));
     }
 
 private:
