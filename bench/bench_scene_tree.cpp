@@ -234,6 +234,8 @@ void compareFilters(int rows, int turns)
         "filter text set and taken away", turns,
         [&] {
             ours.setFilterText(QStringLiteral("99"));
+            while (ours.isSearching())
+                QCoreApplication::processEvents();
             countRows(ours);
             ours.setFilterText(QString());
         },

@@ -157,6 +157,7 @@ void FieldPanel::fill(const std::vector<KnFieldContainer*>& nodes)
     m_compareAction->setChecked(isPair && m_compareAction->isChecked());
     m_model.setNodes(nodes, m_compareAction->isChecked());
     m_list->header()->setSectionHidden(FieldListModel::OtherColumn, !m_model.isComparing());
+    m_names.setAttached(!nodes.empty());
     showHeading();
     showField(CrvServices::getInstance()->getSelectedField());
 }
@@ -171,6 +172,16 @@ void FieldPanel::tell(const QString& message)
 {
     m_message->setText(message);
     m_message->setVisible(!message.isEmpty());
+}
+
+void FieldPanel::namesChanged(void* data, KnSensor*)
+{
+    auto* const panel = static_cast<FieldPanel*>(data);
+    const auto renamed = panel->m_names.takeNodes();
+    const std::vector<KnFieldContainer*> nodes = panel->m_model.nodes();
+    if (std::any_of(nodes.begin(), nodes.end(),
+            [&renamed](KnFieldContainer* node) { return renamed.contains(node); }))
+        panel->showHeading();
 }
 
 void FieldPanel::showHeading()
