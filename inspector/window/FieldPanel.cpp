@@ -177,7 +177,7 @@ void FieldPanel::tell(const QString& message)
 void FieldPanel::namesChanged(void* data, KnSensor*)
 {
     auto* const panel = static_cast<FieldPanel*>(data);
-    const auto renamed = panel->m_names.takeNodes();
+    const KnNameSensor::Nodes renamed = panel->m_names.takeNodes();
     const std::vector<KnFieldContainer*> nodes = panel->m_model.nodes();
     if (std::any_of(nodes.begin(), nodes.end(),
             [&renamed](KnFieldContainer* node) { return renamed.contains(node); }))
