@@ -161,19 +161,20 @@ QVariant SceneModel::headerData(int section, Qt::Orientation orientation, int ro
     return section == NameColumn ? tr("Node") : tr("Type");
 }
 
+// A view asks this for each row that it lays out.
 Qt::ItemFlags SceneModel::flags(const QModelIndex& index) const
 {
     Qt::ItemFlags flags = QAbstractItemModel::flags(index);
-    const KnFieldContainer* const shown = node(index);
-    if (!shown)
+    const SceneItem& item = itemOf(index);
+    if (!item.parent)
         return m_rootsFixed ? flags : flags | Qt::ItemIsDropEnabled;
     if (index.column() == NameColumn)
         flags |= Qt::ItemIsEditable;
-    if (!m_rootsFixed || index.parent().isValid())
+    if (!m_rootsFixed || item.parent != m_top.get())
         flags |= Qt::ItemIsDragEnabled;
-    if (dynamic_cast<const KnGroup*>(shown))
-        flags |= Qt::ItemIsDropEnabled;
-    return flags;
+    const bool isGroup = item.opened ? item.branch != nullptr
+                                     : dynamic_cast<const KnGroup*>(item.node.get()) != nullptr;
+    return flags | (isGroup ? Qt::ItemIsDropEnabled : Qt::ItemNeverHasChildren);
 }
 
 bool SceneModel::setData(const QModelIndex& index, const QVariant& value, int role)
