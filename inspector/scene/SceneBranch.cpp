@@ -12,6 +12,7 @@ SceneItem::SceneItem(KnFieldContainer* itemNode, SceneItem* itemParent, int item
     : node(itemNode)
     , parent(itemParent)
     , row(itemRow)
+    , isGroup(dynamic_cast<KnGroup*>(itemNode) != nullptr)
 {
 }
 

@@ -20,6 +20,7 @@ struct SceneItem {
     const KnNodePtr node; // null for the top, and if it had gone before anybody asked
     SceneItem* const parent; // null for the top
     int row; // where it stood when it was last asked for
+    const bool isGroup; // asked for each row of a layout, where a cast would be felt
     bool opened = false; // somebody has asked what stands below
     std::unique_ptr<SceneBranch> branch; // null unless it is opened and has a group's node
 };

@@ -172,9 +172,7 @@ Qt::ItemFlags SceneModel::flags(const QModelIndex& index) const
         flags |= Qt::ItemIsEditable;
     if (!m_rootsFixed || item.parent != m_top.get())
         flags |= Qt::ItemIsDragEnabled;
-    const bool isGroup = item.opened ? item.branch != nullptr
-                                     : dynamic_cast<const KnGroup*>(item.node.get()) != nullptr;
-    return flags | (isGroup ? Qt::ItemIsDropEnabled : Qt::ItemNeverHasChildren);
+    return flags | (item.isGroup ? Qt::ItemIsDropEnabled : Qt::ItemNeverHasChildren);
 }
 
 bool SceneModel::setData(const QModelIndex& index, const QVariant& value, int role)
@@ -226,8 +224,9 @@ SceneBranch* SceneModel::branchOf(SceneItem& item)
 {
     if (!item.opened) {
         item.opened = true;
-        if (auto* const group = dynamic_cast<KnGroup*>(item.node.get()))
-            item.branch = std::make_unique<SceneBranch>(item.parent->branch->model(), item, group);
+        if (item.isGroup)
+            item.branch = std::make_unique<SceneBranch>(
+                item.parent->branch->model(), item, static_cast<KnGroup*>(item.node.get()));
     }
     return item.branch.get();
 }
