@@ -282,22 +282,20 @@ void FieldListModel::refresh(ListedField& row, Written written)
     const bool wasChanged = row.isShownChanged();
     // Of a value that isn't shown as a whole, something else may have changed.
     if (row.readAgain() || (written == Written::Certainly && row.leavesOut()))
-        showChange(row);
-    if (row.isShownChanged() != wasChanged) {
-        const QModelIndex name = index(row.number(), NameColumn);
-        Q_EMIT dataChanged(name, name);
-    }
+        showChange(row, row.isShownChanged() == wasChanged ? ValueColumn : NameColumn);
 }
 
-void FieldListModel::showChange(ListedField& row)
+// `first` is the first column of those that look different.
+void FieldListModel::showChange(ListedField& row, Column first)
 {
     row.changedAt = m_clock.elapsed();
     row.isLit = true;
-    // Otherwise the next step of the fading shows it.
-    if (m_timer.isActive())
+    // The next step of the fading shows a value, but not a name.
+    if (m_timer.isActive() && first == ValueColumn)
         return;
-    announce(row);
-    m_timer.start(lightStep, this);
+    announce(row, first);
+    if (!m_timer.isActive())
+        m_timer.start(lightStep, this);
 }
 
 void FieldListModel::timerEvent(QTimerEvent* event)
@@ -312,13 +310,13 @@ void FieldListModel::timerEvent(QTimerEvent* event)
             continue;
         row->isLit = m_clock.elapsed() - row->changedAt < lightTime;
         isLit = isLit || row->isLit;
-        announce(*row);
+        announce(*row, ValueColumn);
     }
     if (!isLit)
         m_timer.stop();
 }
 
-void FieldListModel::announce(const ListedField& row)
+void FieldListModel::announce(const ListedField& row, Column first)
 {
-    Q_EMIT dataChanged(index(row.number(), ValueColumn), index(row.number(), OtherColumn));
+    Q_EMIT dataChanged(index(row.number(), first), index(row.number(), OtherColumn));
 }

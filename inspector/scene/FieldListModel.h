@@ -77,8 +77,8 @@ private:
     enum class Written { Certainly, Unknown };
     void refresh(ListedField& row, Written written = Written::Certainly);
     void refreshWaiting();
-    void showChange(ListedField& row);
-    void announce(const ListedField& row);
+    void showChange(ListedField& row, Column first);
+    void announce(const ListedField& row, Column first);
 
     std::vector<KnNodePtr> m_nodes; // keep the fields of the rows alive
     std::vector<std::unique_ptr<ListedField>> m_rows;
