@@ -13,7 +13,6 @@ HistoryView::HistoryView(CrvUndoSteps* steps, QWidget* parent)
 {
     setObjectName(QStringLiteral("historyView"));
     setFocusPolicy(Qt::ClickFocus);
-    setTextElideMode(Qt::ElideRight);
     connect(steps, &CrvUndoSteps::stepMoved, this, &HistoryView::showField);
 }
 
