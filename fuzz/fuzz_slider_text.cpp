@@ -169,15 +169,34 @@ private:
     bool m_hasValue = false;
 };
 
+using Lines = std::vector<std::string_view>;
+
 template <class Slider>
-void run(std::unique_ptr<OpenSlider<Slider>> slider, Owner& owner,
-    const std::vector<std::string_view>& range, const std::vector<std::string_view>& lines)
+void run(std::unique_ptr<OpenSlider<Slider>> slider, Owner& owner, const Lines& range,
+    const Lines& lines)
 {
     Case<Slider> one(std::move(slider), owner, range);
     for (std::size_t i = 1; i < lines.size(); ++i) {
         if (!lines[i].empty())
             one.act(lines[i]);
     }
+}
+
+template <class Slider>
+void runInteger(int kind, const Lines& range, const Lines& lines)
+{
+    Owner owner;
+    run<Slider>(
+        std::make_unique<OpenSlider<Slider>>(kind, WfSlider::InTable, &owner, nullptr, 2, 3), owner,
+        range, lines);
+}
+
+void runReal(bool isFloat, const Lines& range, const Lines& lines)
+{
+    using Slider = OpenSlider<WfRealSlider>;
+    Owner owner;
+    run<WfRealSlider>(std::make_unique<Slider>(WfSlider::InTable, &owner, nullptr, isFloat, 2, 3),
+        owner, range, lines);
 }
 
 } // namespace
@@ -204,27 +223,16 @@ void fuzzInput(std::string_view input)
     }
     if (words.size() < 4)
         return;
-    Owner owner;
-    const auto integer = [&]<class Slider>(typename Slider::Kind kind) {
-        run<Slider>(
-            std::make_unique<OpenSlider<Slider>>(kind, WfSlider::InTable, &owner, nullptr, 2, 3),
-            owner, words, lines);
-    };
-    const auto real = [&](bool isFloat) {
-        run<WfRealSlider>(std::make_unique<OpenSlider<WfRealSlider>>(
-                              WfSlider::InTable, &owner, nullptr, isFloat, 2, 3),
-            owner, words, lines);
-    };
     if (words[0] == "Int32")
-        integer.operator()<WfIntSlider>(WfIntSlider::Int32);
+        runInteger<WfIntSlider>(WfIntSlider::Int32, words, lines);
     else if (words[0] == "Int16")
-        integer.operator()<WfIntSlider>(WfIntSlider::Int16);
+        runInteger<WfIntSlider>(WfIntSlider::Int16, words, lines);
     else if (words[0] == "UInt32")
-        integer.operator()<WfUIntSlider>(WfUIntSlider::UInt32);
+        runInteger<WfUIntSlider>(WfUIntSlider::UInt32, words, lines);
     else if (words[0] == "UInt16")
-        integer.operator()<WfUIntSlider>(WfUIntSlider::UInt16);
+        runInteger<WfUIntSlider>(WfUIntSlider::UInt16, words, lines);
     else if (words[0] == "Float")
-        real(true);
+        runReal(true, words, lines);
     else if (words[0] == "Double")
-        real(false);
+        runReal(false, words, lines);
 }

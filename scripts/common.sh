@@ -3,12 +3,13 @@
 # What the commands share: packages, the user who builds, configuring and building. Sourced.
 
 source_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-jobs=$(nproc)
+jobs=${CORVANE_JOBS:-$(nproc)}
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libbenchmark-dev)
 test_packages=(xvfb xauth openbox locales clang-format binutils)
 lint_packages=(clang-tidy)
 fuzz_packages=(clang libclang-rt-dev)
+static_packages=(cppcheck clazy)
 
 fail() {
     echo "$(basename "$0"): $*" >&2
@@ -63,12 +64,13 @@ choose_build_root() {
     fi
 }
 
-# configure PRESET: a tree that was moved is configured anew.
+# configure PRESET [OPTIONS...]: a tree that was moved is configured anew.
 configure() {
     local preset=$1 dir=$build_root/$1 fresh=() known
+    shift
     known=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$dir/CMakeCache.txt" 2>/dev/null)
     [ -z "$known" ] || [ "$known" = "$source_dir" ] || fresh=(--fresh)
-    (cd "$source_dir" && cmake --preset "$preset" "${fresh[@]}" -B "$dir")
+    (cd "$source_dir" && cmake --preset "$preset" "${fresh[@]}" -B "$dir" "$@")
 }
 
 # build PRESET [TARGETS...]: configures and builds.

@@ -13,6 +13,8 @@
 class Chain {
 public:
     explicit Chain(int ballCount);
+    Chain(const Chain&) = delete; // a copy would move the same nodes
+    Chain& operator=(const Chain&) = delete;
 
     KnGroup* root() const { return m_root; }
     /// `seconds` is the time since the last step, some hundredths at most.
