@@ -45,6 +45,23 @@ private Q_SLOTS:
         QVERIFY(!m_changes->isModified());
     }
 
+    /// Too long to be compared, so that the undo stack has to tell.
+    void aLongArrayIsModifiedByACommand()
+    {
+        const KnNodePtr node(new KnCoordinates);
+        auto& point = static_cast<KnCoordinates*>(node.get())->point;
+        point.setNum(1000);
+        m_changes->watch(node.get());
+        point.set1Value(500, KbVec3f(1, 2, 3));
+        m_stack.push(new QUndoCommand);
+        runSensors();
+        QVERIFY(m_changes->isModified());
+        point.set1Value(500, KbVec3f());
+        m_stack.undo();
+        runSensors();
+        QVERIFY(!m_changes->isModified());
+    }
+
     void differencesDieWithTheirNode()
     {
         const QSignalSpy spy(m_changes.get(), &SceneChanges::modifiedChanged);
