@@ -13,20 +13,20 @@
 
 namespace {
 
-std::string current; // the input that is running
+const std::string* current = nullptr; // the input that is running, not owned
 
 /// Shows the input at fault, so that it can be kept.
 void showInput(int)
 {
-    std::fprintf(stderr, "The input, %zu bytes:\n", current.size());
-    std::fwrite(current.data(), 1, current.size(), stderr);
+    std::fprintf(stderr, "The input, %zu bytes:\n", current->size());
+    std::fwrite(current->data(), 1, current->size(), stderr);
     std::fputc('\n', stderr);
 }
 
-void feed(std::string input)
+void feed(const std::string& input)
 {
-    current = std::move(input);
-    fuzzInput(current);
+    current = &input;
+    fuzzInput(input);
 }
 
 /// The files below a folder, always in the same order.

@@ -92,6 +92,18 @@ private Q_SLOTS:
         QCOMPARE(inspector.savedText(u"Desk lamp.on"_s), u"TRUE"_s);
     }
 
+    void anotherSceneBeginsWithoutEdits()
+    {
+        InspectorFixture inspector(*m_folder);
+        inspector.clickField(u"Desk lamp"_s, u"on"_s);
+        QTest::mouseClick(inspector.inEditor<QCheckBox>(), Qt::LeftButton);
+        QTRY_VERIFY(inspector.window.isWindowModified());
+        inspector.answerNextQuestion(QMessageBox::Discard);
+        inspector.window.findChild<FileMenu*>()->openFile(inspector.sceneFile);
+        QVERIFY(!inspector.window.isWindowModified());
+        QVERIFY(!inspector.window.findChild<QAction*>(u"undoAction"_s)->isEnabled());
+    }
+
     void typedTextIsNotLost()
     {
         InspectorFixture inspector(*m_folder);
