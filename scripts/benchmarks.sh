@@ -1,7 +1,8 @@
 #!/bin/bash
 # SPDX-License-Identifier: BSD-3-Clause
-# Builds and runs the benchmarks, which measure each figure against a rival in the same process, and
-# writes what they print, with the ratios, the machine and the commit, to build/benchmarks.json.
+# Builds and runs the benchmarks, which measure each figure against a rival in the same process, says
+# how what was measured at several sizes grows, and writes all that is printed, with the machine and
+# the commit, to build/benchmarks.json.
 # Measure on a machine that has nothing else to do.
 # Usage: benchmarks.sh [--quick] [--instructions] [--write] [BENCH...]
 #   --quick         tiny runs, whose figures mean nothing, to see that all works
@@ -66,6 +67,53 @@ count() {
     done < <("$bin/$1" --benchmark_list_tests)
 }
 
+# growth BENCH: for what was measured at three sizes or more, the power of the size with which our
+# time grows, fitted to all of them: 0 is the same for any size, 1 in proportion to it.
+growth() {
+    awk '
+        function note(label, n, time) {
+            if (time <= 0)
+                return
+            if (!(label in count))
+                order[++labels] = label
+            x = log(n); y = log(time)
+            ++count[label]
+            sx[label] += x; sy[label] += y; sxx[label] += x * x; sxy[label] += x * y
+        }
+        # "1000 rows" is a heading; "256 x 256  3 components: ..." tells its size itself.
+        match($0, /^[0-9]+ rows/) {
+            if ($1 + 0 <= rows) ++part # another table begins with the smallest size
+            rows = $1 + 0
+            next
+        }
+        / x [0-9]+ .*: +[0-9.]+ ms/ {
+            split($0, side, ":")
+            split(side[2], word, " ")
+            sub(/^.* x [0-9]+ +/, "", side[1])
+            note(side[1], $1 * $3, word[1])
+            next
+        }
+        rows && match($0, / +[0-9]+\.[0-9]+ (ms,|\()/) {
+            label = substr($0, 1, RSTART - 1)
+            sub(/^ +/, "", label)
+            rest = substr($0, RSTART)
+            # In a table with one column for each contender, the first is the bare rival.
+            if (rest !~ /^ +[0-9.]+ ms/) sub(/^[^)]*\)/, "", rest)
+            split(rest, word, " ")
+            note(label (part ? " (table " part + 1 ")" : ""), rows, word[1])
+        }
+        END {
+            for (i = 1; i <= labels; ++i) {
+                label = order[i]
+                n = count[label]
+                spread = n * sxx[label] - sx[label] * sx[label]
+                if (n >= 3 && spread > 0)
+                    printf "%-50s grows with the power %.2f of the size\n", label,
+                        (n * sxy[label] - sx[label] * sy[label]) / spread
+            }
+        }' "$results/$1.txt"
+}
+
 # json TEXT: as a JSON string.
 json() { printf '"%s"' "$(sed 's/[\\"]/\\&/g; s/\t/ /g; s/[[:cntrl:]]//g' <<<"$1")"; }
 
@@ -111,6 +159,8 @@ for bench in "${benches[@]}"; do
     started=$SECONDS
     "$bin/$bench" "${options[@]}" 2>"$results/$bench.err" | tee "$results/$bench.txt"
     [ "${PIPESTATUS[0]}" -eq 0 ] || { failed+=("$bench"); cat "$results/$bench.err"; }
+    growth "$bench" >"$results/growth.txt"
+    tee -a "$results/$bench.txt" <"$results/growth.txt"
     [ -z "$instructions" ] || [[ ${quick[$bench]} != --benchmark* ]] ||
         count "$bench" | tee -a "$results/$bench.txt"
     {
