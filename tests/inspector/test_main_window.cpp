@@ -104,6 +104,15 @@ private Q_SLOTS:
         QVERIFY(!inspector.window.findChild<QAction*>(u"undoAction"_s)->isEnabled());
     }
 
+    void aFieldSelectedElsewhereIsMarkedInTheList()
+    {
+        InspectorFixture inspector(*m_folder);
+        CrvServices::getInstance()->selectField(inspector.field(u"Oak.shininess"_s));
+        const QItemSelectionModel* const marks = inspector.view(u"fieldList"_s)->selectionModel();
+        QCOMPARE(marks->selectedRows().size(), 1);
+        QCOMPARE(marks->selectedRows().constFirst().data().toString(), u"shininess"_s);
+    }
+
     void typedTextIsNotLost()
     {
         InspectorFixture inspector(*m_folder);
