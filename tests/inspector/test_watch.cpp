@@ -156,8 +156,9 @@ private Q_SLOTS:
 
     void copiesAsCsv()
     {
-        m_lamp->setName(KbName("a \"b\", c"));
+        m_lamp->setName(KbName("a, b"));
         watch(u"intensity"_s);
+        m_lamp->setName(KbName("a \"b\""));
         watch(u"on"_s);
         m_now += 0.5;
         m_lamp->intensity.setValue(0.1F);
@@ -170,7 +171,7 @@ private Q_SLOTS:
         m_inspector->view(u"watchTable"_s)->setFocus();
         m_inspector->press(QKeySequence::Copy);
         QCOMPARE(QApplication::clipboard()->text(),
-            u"time,\"a \"\"b\"\", c.intensity\",\"a \"\"b\"\", c.on\"\n"
+            u"time,\"a, b.intensity\",\"a \"\"b\"\".on\"\n"
             "0.000000,0.65,0\n0.500000,0.1,1\n60.500000,,0\n"_s);
     }
 
