@@ -46,6 +46,14 @@ private Q_SLOTS:
         QCOMPARE(realValue(99, 5, 5), 5.0);
     }
 
+    void basesOfTexts()
+    {
+        const std::tuple<QString, int> rows[] = { { u"0x5"_s, 16 }, { u"0x"_s, 8 }, { u"07"_s, 8 },
+            { u"007"_s, 10 }, { u"0"_s, 10 }, { u"x05"_s, 10 } };
+        for (const auto& [text, base] : rows)
+            QCOMPARE(detectBase(text), base);
+    }
+
     void textsOfReals()
     {
         const std::tuple<double, bool, QString, double> rows[]
