@@ -39,6 +39,6 @@ private:
     bool m_running = false;
     bool m_finished = false;
     // Where the caller's stack lies, for the address sanitizer.
-    const void* m_callerStack = nullptr;
-    std::size_t m_callerStackSize = 0;
+    [[maybe_unused]] const void* m_callerStack = nullptr;
+    [[maybe_unused]] std::size_t m_callerStackSize = 0;
 };

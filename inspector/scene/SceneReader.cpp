@@ -109,12 +109,12 @@ KnNodePtr SceneReader::createNode(const QJsonObject& object, const QString& path
         refuse(typePath, tr("unknown node type \"%1\"").arg(typeValue.toString()));
         return KnNodePtr();
     }
-    const QJsonValue name = object.value(Key::name);
-    if (!name.isUndefined() && !checkString(name, memberPath(path, Key::name)))
+    const QJsonValue nodeName = object.value(Key::name);
+    if (!nodeName.isUndefined() && !checkString(nodeName, memberPath(path, Key::name)))
         return KnNodePtr();
 
     KnNodePtr node(static_cast<KnFieldContainer*>(type.createInstance()));
-    node->setName(KbName(toKbString(name.toString())));
+    node->setName(KbName(toKbString(nodeName.toString())));
     return node;
 }
 
