@@ -20,8 +20,8 @@ public:
     void fitScreen();
     /// Sizes the dock when it is seen for the first time.
     void follow(QDockWidget* dock);
-    /// From now on docks keep the sizes that they have, and the window its own, unless that was made
-    /// for a larger screen.
+    /// From now on docks keep the sizes that they have, and the window its own, unless that was
+    /// made for a larger screen.
     void keep();
 
 private:

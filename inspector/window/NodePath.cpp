@@ -16,6 +16,8 @@ NodePath::NodePath(QWidget* parent)
     setObjectName(QStringLiteral("nodePath"));
     setTextFormat(Qt::RichText);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    // The tab key passes it by: from the tree, whose left arrow key leads up as well, to the fields.
+    setFocusPolicy(Qt::ClickFocus);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setMargin(2);
     connect(this, &QLabel::linkActivated, this,

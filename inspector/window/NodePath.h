@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QStringList>
 
-/// One line with the names from the root down to a node, each a link that mouse and keys reach. If
-/// there is no room, names behind the first give way.
+/// One line with the names from the root down to a node, each a link. If there is no room, names
+/// behind the first give way.
 class NodePath : public QLabel {
     Q_OBJECT
 public:

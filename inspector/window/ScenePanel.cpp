@@ -28,6 +28,7 @@ ScenePanel::ScenePanel(SceneEdits::Roots roots, QWidget* parent)
     : QWidget(parent)
     , m_filterEdit(new QLineEdit(this))
     , m_filterNote(new QLabel(this))
+    , m_path(new NodePath(this))
     , m_tree(new PaneTree(this))
     , m_expansion(new TreeExpansion(m_tree))
 {
@@ -65,8 +66,7 @@ ScenePanel::ScenePanel(SceneEdits::Roots roots, QWidget* parent)
     for (SceneModel* const model : models())
         model->setRootsFixed(roots == SceneEdits::Roots::Fixed);
 
-    auto* const path = new NodePath(this);
-    m_navigation = new NodeNavigation(this, path);
+    m_navigation = new NodeNavigation(this, m_path);
 
     setFocusProxy(m_tree);
     auto* layout = new QVBoxLayout(this);
@@ -76,7 +76,7 @@ ScenePanel::ScenePanel(SceneEdits::Roots roots, QWidget* parent)
     line->addWidget(m_filterNote);
     layout->addLayout(line);
     layout->addWidget(m_tree);
-    layout->addWidget(path);
+    layout->addWidget(m_path);
 
     connect(m_filterEdit, &QLineEdit::textChanged, this, &ScenePanel::setFilterText);
     for (const SceneModel* model : { &m_model, static_cast<SceneModel*>(&m_filter) }) {

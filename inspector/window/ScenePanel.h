@@ -13,6 +13,7 @@
 #include <optional>
 
 class NodeNavigation;
+class NodePath;
 class PaneTree;
 class QLabel;
 class QLineEdit;
@@ -76,6 +77,7 @@ private:
     SceneFilterModel m_filter; // what the tree shows instead while there is a filter text
     QLineEdit* m_filterEdit; // child
     QLabel* m_filterNote; // child; what the filter text lacks
+    NodePath* m_path; // child
     PaneTree* m_tree; // child
     TreeExpansion* m_expansion; // child of the tree
     SceneActions* m_actions; // child

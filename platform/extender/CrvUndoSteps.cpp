@@ -233,7 +233,8 @@ void CrvUndoSteps::addPart(CrvUndoStep::Part part, CrvChanges changes)
         m_open->add(std::move(part), std::move(changes));
     } else {
         step->add(std::move(part), std::move(changes));
-        m_open = step.get();
+        // One outside of gestures stands alone.
+        m_open = m_gesture != 0 ? step.get() : nullptr;
     }
     push(std::move(step));
 }

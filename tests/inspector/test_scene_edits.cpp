@@ -143,7 +143,8 @@ private Q_SLOTS:
         QTRY_COMPARE(shown(*m_tree->model()), after);
         QTRY_COMPARE(selectedName(), selected);
         const auto* const heading = m_inspector->window.findChild<QLabel*>(u"fieldHeading"_s);
-        QTRY_VERIFY(selected.isEmpty() || heading->text().section(u' ', 0, 0) == selected);
+        QTRY_VERIFY(
+            selected.isEmpty() || heading->accessibleName().section(u' ', 0, 0) == selected);
         QCOMPARE(nodeAt(m_tree->currentIndex()), CrvServices::getInstance()->getSelectedNode());
         QCOMPARE(stack->count(), steps);
         QCOMPARE(stack->undoText(), text);

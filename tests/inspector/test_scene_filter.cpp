@@ -276,7 +276,9 @@ private Q_SLOTS:
             text.setHtml(path->text());
             return text.toPlainText();
         };
-        QCOMPARE(shown(), u"Scene / Room / A shelf <b> / Book"_s);
+        m_inspector->window.resizeDocks(
+            { m_inspector->dock(u"sceneDock"_s) }, { 400 }, Qt::Horizontal);
+        QTRY_COMPARE(shown(), u"Scene / Room / A shelf <b> / Book"_s);
         room->setName(KbName("Hall"));
         QTRY_COMPARE(shown(), u"Scene / Hall / A shelf <b> / Book"_s);
         const int width = path->width();
