@@ -16,7 +16,7 @@ NodePath::NodePath(QWidget* parent)
     setObjectName(QStringLiteral("nodePath"));
     setTextFormat(Qt::RichText);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    // The tab key passes it by: from the tree, whose left arrow key leads up as well, to the fields.
+    // The tab key passes it by; in the tree, the left arrow key leads up as well.
     setFocusPolicy(Qt::ClickFocus);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setMargin(2);
