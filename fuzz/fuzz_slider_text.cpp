@@ -122,7 +122,7 @@ private:
         if constexpr (std::is_same_v<Value, double>)
             m_slider->setValue(value);
         const Value expected = std::is_same_v<Value, double> ? m_slider->getValue() : value;
-        require(again == expected || value != value, "what was told brings another value back",
+        require(again == expected || isNan(value), "what was told brings another value back",
             m_owner.told.toStdString());
     }
 
@@ -140,6 +140,14 @@ private:
         return reads;
     }
 
+    static bool isNan(Value value)
+    {
+        if constexpr (std::is_same_v<Value, double>)
+            return std::isnan(value);
+        else
+            return false;
+    }
+
     /// Dragged to an infinite end, a slider stops at the largest number of its type.
     static bool isBeyond(Value a, Value b)
     {
@@ -154,7 +162,7 @@ private:
         const Value value = m_slider->getValue();
         require(m_scale->value() >= m_scale->minimum() && m_scale->value() <= m_scale->maximum(),
             "the handle is off the scale", line);
-        if (!m_hasValue || value != value)
+        if (!m_hasValue || isNan(value))
             return;
         require(
             !isBeyond(m_slider->getMinimum(), value) && !isBeyond(value, m_slider->getMaximum()),

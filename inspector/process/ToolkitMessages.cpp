@@ -5,7 +5,7 @@
 
 #include <cstdlib>
 
-std::atomic<const ToolkitMessages*> ToolkitMessages::s_current;
+std::atomic<const ToolkitMessages*> ToolkitMessages::activeMessages;
 
 ToolkitMessages::ToolkitMessages(Manner manner, const QString& advice, int fatalStatus)
     : m_isHushed(manner == Manner::Hush && qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
@@ -13,20 +13,20 @@ ToolkitMessages::ToolkitMessages(Manner manner, const QString& advice, int fatal
     , m_fatalStatus(fatalStatus)
 {
     m_outer = qInstallMessageHandler(nullptr);
-    s_current = this;
+    activeMessages = this;
     qInstallMessageHandler(handle);
 }
 
 ToolkitMessages::~ToolkitMessages()
 {
     qInstallMessageHandler(m_outer);
-    s_current = nullptr;
+    activeMessages = nullptr;
 }
 
 void ToolkitMessages::handle(
     QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    const ToolkitMessages* const current = s_current;
+    const ToolkitMessages* const current = activeMessages;
     if (!current)
         return; // a thread that got here while the handler was taken away
     if (type == QtFatalMsg)

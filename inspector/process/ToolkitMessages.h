@@ -30,7 +30,7 @@ private:
     [[noreturn]] void giveUp(const QString& reason) const;
 
     // The handler is a plain function, and may be called from any thread; all this is constant.
-    static std::atomic<const ToolkitMessages*> s_current; // not owned
+    static std::atomic<const ToolkitMessages*> activeMessages; // not owned
     QtMessageHandler m_outer = nullptr;
     const bool m_isHushed;
     const QString m_advice;

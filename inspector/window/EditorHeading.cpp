@@ -87,11 +87,21 @@ bool EditorHeading::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show)
         showObject();
+    else if (event->type() == QEvent::Hide)
+        m_names.setAttached(false);
     return QWidget::eventFilter(watched, event);
+}
+
+void EditorHeading::namesChanged(void* data, KnSensor*)
+{
+    auto* const heading = static_cast<EditorHeading*>(data);
+    static_cast<void>(heading->m_names.takeNodes());
+    heading->showObject();
 }
 
 void EditorHeading::showObject()
 {
+    m_names.setAttached(m_dock->isVisible());
     const CrvEditor* const editor = EditorPanes::editorIn(m_dock);
     const QString object = editor ? objectText(editor->getEditedObject()) : QString();
     const QString title = m_dock->windowTitle();

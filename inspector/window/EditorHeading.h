@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "KnNameSensor.h"
+
 #include <QWidget>
 
 class ElidedLabel;
@@ -23,8 +25,10 @@ public:
 private:
     QToolButton* addButton(const QString& name, const QString& tip);
     void showObject();
+    static void namesChanged(void* data, KnSensor* sensor);
 
     QDockWidget* const m_dock; // the parent
     ElidedLabel* m_text; // child
     QToolButton* m_floatButton = nullptr; // child
+    KnNameSensor m_names { namesChanged, this }; // attached while the dock can be seen
 };

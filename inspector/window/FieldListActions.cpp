@@ -57,6 +57,17 @@ void FieldListActions::addTo(QMenu& menu)
     });
 }
 
+void FieldListActions::addNodeEntriesTo(QMenu& menu)
+{
+    menu.addSeparator();
+    QAction* const copy = menu.addAction(tr("Copy All &Fields"), this, &FieldListActions::copyAll);
+    copy->setObjectName(QStringLiteral("copyNodeFields"));
+    copy->setEnabled(m_model->node());
+    QAction* const paste = menu.addAction(tr("&Paste Fields"), this, [this] { pasteOnto({}); });
+    paste->setObjectName(QStringLiteral("pasteNodeFields"));
+    paste->setEnabled(m_model->node() && canPasteFields());
+}
+
 std::vector<KnField*> FieldListActions::chosenFields(Of which) const
 {
     QModelIndexList rows = m_list->selectionModel()->selectedRows();
@@ -87,10 +98,12 @@ void FieldListActions::copyAll()
     Q_EMIT told(QString());
 }
 
-void FieldListActions::paste()
+void FieldListActions::paste() { pasteOnto(chosenFields(Of::AllNodes)); }
+
+void FieldListActions::pasteOnto(const std::vector<KnField*>& chosen)
 {
     if (m_model->node())
-        Q_EMIT told(pasteFields(m_model->editedNodes(), chosenFields(Of::AllNodes)));
+        Q_EMIT told(pasteFields(m_model->editedNodes(), chosen));
 }
 
 // To paste onto an array in the list replaces it, as onto any other field. These leave the other

@@ -21,6 +21,8 @@ public:
 
     /// For the fields that are chosen as the menu opens.
     void addTo(QMenu& menu);
+    /// For all fields of the nodes that the list shows.
+    void addNodeEntriesTo(QMenu& menu);
 
 Q_SIGNALS:
     /// Something for the person to read; an empty text when the last one is of no use any more.
@@ -34,6 +36,7 @@ private:
     void copy();
     void copyAll();
     void paste();
+    void pasteOnto(const std::vector<KnField*>& chosen);
     void addRowsMenu(QMenu& menu);
     int chosenRow(const KnField& array) const;
     void reset();

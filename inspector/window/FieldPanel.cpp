@@ -174,6 +174,8 @@ void FieldPanel::tell(const QString& message)
     m_message->setVisible(!message.isEmpty());
 }
 
+void FieldPanel::addNodeEntriesTo(QMenu* menu) { m_actions->addNodeEntriesTo(*menu); }
+
 void FieldPanel::namesChanged(void* data, KnSensor*)
 {
     auto* const panel = static_cast<FieldPanel*>(data);

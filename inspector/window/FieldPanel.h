@@ -13,6 +13,7 @@ class FieldListView;
 class QAction;
 class QLabel;
 class QLayout;
+class QMenu;
 class QToolButton;
 class PauseAction;
 
@@ -33,6 +34,8 @@ public:
     /// Shows a message below the list, until the next one comes or another node is selected; an
     /// empty text takes it away. For whoever pastes as well.
     void tell(const QString& message);
+    /// Adds what can be done with the fields of the nodes that are shown.
+    void addNodeEntriesTo(QMenu* menu);
 
 Q_SIGNALS:
     /// A person wants to see a number of a field over time.

@@ -98,6 +98,7 @@ void MainWindow::buildPanels()
     setCentralWidget(fields);
     completeNames(fields, tr("Fields"));
     connect(m_scenePanel, &ScenePanel::nodesSelected, fields, &FieldPanel::showNodes);
+    connect(m_scenePanel, &ScenePanel::menuRequested, fields, &FieldPanel::addNodeEntriesTo);
     buildWatch(fields);
     shareColumns(QStringLiteral("sceneTree"), sceneNameCharacters, { SceneModel::TypeColumn });
     shareColumns(QStringLiteral("fieldList"), valueCharacters,

@@ -86,6 +86,26 @@ private Q_SLOTS:
         QVERIFY(message().isEmpty());
     }
 
+    void nodesOfTheTreeHaveTheirEntries()
+    {
+        const auto choose = [this](const QString& node, const QString& entry) {
+            m_inspector->clickNode(node);
+            QTimer::singleShot(0, this, [entry] {
+                auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                auto* const action = menu->findChild<QAction*>(entry);
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+            });
+            QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+            QCoreApplication::sendEvent(m_inspector->view(u"sceneTree"_s)->viewport(), &key);
+        };
+        choose(u"Desk lamp"_s, u"copyNodeFields"_s);
+        QVERIFY(clipboardText().contains(u"\nintensity 0.65\n"_s));
+        choose(u"Window light"_s, u"pasteNodeFields"_s);
+        QCOMPARE(m_inspector->text(u"Window light.intensity"_s), u"0.65"_s);
+        QCOMPARE(stack().count(), 1);
+        QVERIFY(message().contains(u"location"_s)); // which a directional light doesn't have
+    }
+
     void rowsArePastedIntoAnArray_data()
     {
         addTextRows({ { "", "B", "[ 7, 8, 0, 80, 64.5 ]" }, { "", "E", "[ 0, 80, 64.5, 7, 8 ]" },

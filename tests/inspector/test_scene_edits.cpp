@@ -145,6 +145,9 @@ private Q_SLOTS:
         const auto* const heading = m_inspector->window.findChild<QLabel*>(u"fieldHeading"_s);
         QTRY_VERIFY(
             selected.isEmpty() || heading->accessibleName().section(u' ', 0, 0) == selected);
+        const auto* const title = m_inspector->window.findChild<QLabel*>(u"editorHeadingText"_s);
+        if (text.startsWith(u"Rename"_s) && !selected.isEmpty())
+            QTRY_VERIFY(title->accessibleName().contains(selected));
         QCOMPARE(nodeAt(m_tree->currentIndex()), CrvServices::getInstance()->getSelectedNode());
         QCOMPARE(stack->count(), steps);
         QCOMPARE(stack->undoText(), text);

@@ -3,20 +3,20 @@
 
 #include "KnWriteThread.h"
 
-KnFieldRecorder* KnFieldRecorder::s_current = nullptr;
-int KnFieldRecorder::s_pauses = 0;
+KnFieldRecorder* KnFieldRecorder::activeRecorder = nullptr;
+int KnFieldRecorder::pauseCount = 0;
 
 KnFieldRecorder::~KnFieldRecorder() { stop(); }
 
-void KnFieldRecorder::start() { s_current = this; }
+void KnFieldRecorder::start() { activeRecorder = this; }
 
 void KnFieldRecorder::stop()
 {
     if (isRecording())
-        s_current = nullptr;
+        activeRecorder = nullptr;
 }
 
 KnFieldRecorder* KnFieldRecorder::currentOfThread()
 {
-    return KnWriteThread::isCurrent() && s_pauses == 0 ? s_current : nullptr;
+    return KnWriteThread::isCurrent() && pauseCount == 0 ? activeRecorder : nullptr;
 }

@@ -28,18 +28,18 @@ public:
     /// Records from now on, in the place of whoever did.
     void start();
     void stop();
-    bool isRecording() const { return s_current == this; }
+    bool isRecording() const { return activeRecorder == this; }
 
     /// Who records the writes of this thread; null if nobody does.
-    static KnFieldRecorder* current() { return s_current ? currentOfThread() : nullptr; }
+    static KnFieldRecorder* current() { return activeRecorder ? currentOfThread() : nullptr; }
 
     /// Keeps writes from being recorded: what sensors write is the program's doing.
     class Pause {
     public:
-        Pause() { ++s_pauses; }
+        Pause() { ++pauseCount; }
         Pause(const Pause&) = delete;
         Pause& operator=(const Pause&) = delete;
-        ~Pause() { --s_pauses; }
+        ~Pause() { --pauseCount; }
     };
 
     /// The value of a field or its ignore flag is about to be written, perhaps with an equal one,
@@ -58,6 +58,6 @@ public:
 private:
     static KnFieldRecorder* currentOfThread();
 
-    static KnFieldRecorder* s_current; // not owned
-    static int s_pauses; // of the thread that may write
+    static KnFieldRecorder* activeRecorder; // not owned
+    static int pauseCount; // of the thread that may write
 };
