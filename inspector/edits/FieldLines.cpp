@@ -69,6 +69,7 @@ std::vector<KnField*> fieldsOf(KnFieldContainer& node)
 {
     std::vector<KnField*> fields;
     const KnFieldData* const data = node.getContainerFieldData();
+    fields.reserve(static_cast<std::size_t>(data->getNum()));
     for (int i = 0; i < data->getNum(); ++i)
         fields.push_back(data->getField(&node, i));
     return fields;

@@ -33,6 +33,7 @@ std::vector<SharedField> fieldsWith(KnFieldContainer& node)
 {
     const KnFieldData& data = *node.getContainerFieldData();
     std::vector<SharedField> fields;
+    fields.reserve(static_cast<std::size_t>(data.getNum()));
     for (int i = 0; i < data.getNum(); ++i)
         fields.push_back({ toQString(data.getName(i)), { data.getField(&node, i) } });
     return fields;

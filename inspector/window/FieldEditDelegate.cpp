@@ -6,6 +6,7 @@
 #include "FieldListModel.h"
 #include "KnSFBitMask.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QKeyEvent>
 

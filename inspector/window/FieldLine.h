@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
-
-class QLabel;
 
 /// The line in which a value is edited in place. A text that was refused stays in it, with the
 /// reason beside it, until the person types on.

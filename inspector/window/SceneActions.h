@@ -3,6 +3,7 @@
 
 #include "SceneEdits.h"
 
+#include <QModelIndexList>
 #include <QObject>
 
 class PaneTree;

@@ -23,7 +23,7 @@ void SelectionHistory::note(KnFieldContainer* node)
 {
     if (!node || (m_place >= 0 && m_nodes[static_cast<std::size_t>(m_place)] == node))
         return;
-    m_nodes.resize(static_cast<std::size_t>(m_place + 1)); // what was forward from here is no more
+    m_nodes.resize(static_cast<std::size_t>(m_place) + 1); // what was forward from here is no more
     m_nodes.push_back(node);
     if (m_nodes.size() > maxNodes)
         m_nodes.erase(m_nodes.begin());

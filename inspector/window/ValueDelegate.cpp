@@ -55,7 +55,7 @@ QSize ValueDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIn
 void ValueDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    const QColor own = index.data(Qt::DecorationRole).value<QColor>();
+    const auto own = index.data(Qt::DecorationRole).value<QColor>();
     if (own.isValid()) {
         option->icon = swatch(own, *option);
         option->decorationSize = option->icon.availableSizes().constFirst();
