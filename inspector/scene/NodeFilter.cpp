@@ -81,8 +81,8 @@ bool NodeFilter::runTop(Walk& walk, const QDeadlineTimer& deadline) const
     constexpr int nodesBetweenLooks = 512; // at the clock
     Frame& frame = walk.frames.back();
     for (; frame.next < frame.group->getNumChildren(); ++frame.next) {
-        KnFieldContainer& child = *frame.group->getChild(frame.next);
-        auto* const group = dynamic_cast<KnGroup*>(&child);
+        KnFieldContainer* const child = frame.group->getChild(frame.next);
+        auto* const group = dynamic_cast<KnGroup*>(child);
         bool accepted = false;
         if (group) {
             const auto known = walk.answers.find(group);
@@ -92,7 +92,7 @@ bool NodeFilter::runTop(Walk& walk, const QDeadlineTimer& deadline) const
             }
             accepted = !known->second.children.empty();
         }
-        if (accepted || walk.query.matches(child))
+        if (accepted || (child && walk.query.matches(*child)))
             frame.answer->children.push_back(frame.next);
         if ((frame.next + 1) % nodesBetweenLooks == 0 && deadline.hasExpired()) {
             ++frame.next;
