@@ -129,7 +129,10 @@ bool ViewerWindow::takePicture(const QString& fileName)
     CrvServices::getInstance()->selectField(&place->translation);
     QApplication::processEvents();
     QWidget& inspector = *m_inspector.window();
-    inspector.resize(inspector.width(), height());
+    // Without a display, its window has been fitted to a screen smaller than any real one.
+    constexpr int inspectorWidth = 1280;
+    inspector.resize(inspectorWidth, height());
+    QApplication::processEvents();
     QPixmap both(width() + inspector.width(), height());
     QPainter painter(&both);
     painter.drawPixmap(0, 0, grab());
