@@ -26,7 +26,7 @@ bool isSmall(const KnField& field)
         KbVec2s size;
         int components = 0;
         image->getValue(size, components);
-        return size[0] * size[1] * components <= maxComparedBytes;
+        return qint64(size[0]) * size[1] * components <= maxComparedBytes;
     }
     return rowCount(field) <= maxComparedRows;
 }

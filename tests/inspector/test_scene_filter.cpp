@@ -187,12 +187,7 @@ private Q_SLOTS:
     void whatWasOpenIsOpenAgain()
     {
         auto* const group = static_cast<KnGroup*>(m_scene.get());
-        auto* const room = static_cast<KnGroup*>(newNode(u"Group"_s, u"Room"_s));
-        auto* const shelf = static_cast<KnGroup*>(newNode(u"Group"_s, u"Shelf"_s));
-        shelf->addChild(newNode(u"Text"_s, u"Book"_s));
-        room->addChild(shelf);
-        group->addChild(room);
-        QCoreApplication::processEvents();
+        KnGroup* const room = addRoom(u"Shelf"_s);
         const auto index = [this](const QString& name) {
             return m_tree->model()
                 ->match(m_tree->model()->index(0, 0), Qt::DisplayRole, name, 1,
@@ -262,13 +257,8 @@ private Q_SLOTS:
 
     void thePathLeadsUp()
     {
-        auto* const group = static_cast<KnGroup*>(m_scene.get());
-        auto* const room = static_cast<KnGroup*>(newNode(u"Group"_s, u"Room"_s));
-        auto* const shelf = static_cast<KnGroup*>(newNode(u"Group"_s, u"A shelf <b>"_s));
-        shelf->addChild(newNode(u"Text"_s, u"Book"_s));
-        room->addChild(shelf);
-        group->addChild(room);
-        QCoreApplication::processEvents();
+        KnGroup* const room = addRoom(u"A shelf <b>"_s);
+        const auto* const shelf = static_cast<const KnGroup*>(room->getChild(0));
         CrvServices::getInstance()->selectNode(shelf->getChild(0));
         auto* const path = m_inspector->window.findChild<QLabel*>(u"nodePath"_s);
         const auto shown = [path] {
@@ -301,13 +291,7 @@ private Q_SLOTS:
 
     void keysOpenAndCloseBelow()
     {
-        auto* const group = static_cast<KnGroup*>(m_scene.get());
-        auto* const room = static_cast<KnGroup*>(newNode(u"Group"_s, u"Room"_s));
-        auto* const shelf = static_cast<KnGroup*>(newNode(u"Group"_s, u"Shelf"_s));
-        shelf->addChild(newNode(u"Text"_s, u"Book"_s));
-        room->addChild(shelf);
-        group->addChild(room);
-        QCoreApplication::processEvents();
+        addRoom(u"Shelf"_s);
         m_inspector->clickNode(u"Room"_s);
         const QStringList closed = shownRows(*m_tree);
         m_inspector->press(Qt::Key_Asterisk);
@@ -319,6 +303,18 @@ private Q_SLOTS:
     }
 
 private:
+    /// A room in the scene, with a book on a shelf.
+    KnGroup* addRoom(const QString& shelfName)
+    {
+        auto* const room = static_cast<KnGroup*>(newNode(u"Group"_s, u"Room"_s));
+        auto* const shelf = static_cast<KnGroup*>(newNode(u"Group"_s, shelfName));
+        shelf->addChild(newNode(u"Text"_s, u"Book"_s));
+        room->addChild(shelf);
+        static_cast<KnGroup*>(m_scene.get())->addChild(room);
+        QCoreApplication::processEvents();
+        return room;
+    }
+
     KnNodePtr m_scene;
     QTreeView* m_tree = nullptr;
     QLineEdit* m_line = nullptr;
