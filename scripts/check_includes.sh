@@ -46,6 +46,7 @@ BEGIN {
         kernel[name] = 1
     layer("platform/extender", platform)
     layer("plugin", platform)
+    layer("bridge", platform)
     layer("inspector/text", platform)
     layer("inspector/edits", platform " inspector/text")
     layer("inspector/scene", platform " inspector/text inspector/edits")

@@ -44,13 +44,18 @@ BEGIN {
     room("inspector/process", "program", 155, 4, "process/")
     room("inspector/text", "program", 105, 5, "text/")
 
-    target("example", 245, 20, 150, upper, "examples")
+    target("objects", 245, 20, 150, upper, "corvane_objects")
+    room("bridge", "objects", 75, 0, "bridge/")
+    room("bridge/properties", "objects", 75, 1, "properties/")
+    room("bridge/values", "objects", 75, 2, "values/")
+
+    target("example", 410, 20, 150, upper, "examples")
     room("examples", "example", 75, 0, "examples/")
     room("examples/loop", "example", 75, 1, "loop/")
     room("examples/viewer", "example", 75, 2, "viewer/")
     room("examples/view", "example", 75, 3, "view/")
 
-    target("defaults", 410, 20, 750, upper, "ubn_corvane_extender_base")
+    target("defaults", 575, 20, 750, upper, "ubn_corvane_extender_base")
     room("plugin", "defaults", 380, 0, "plugin/")
     room("plugin/Console", "defaults", 75, 1, "Console/")
     room("plugin/ProfileSelector", "defaults", 215, 1, "ProfileSelector/")
@@ -66,47 +71,50 @@ BEGIN {
 
     y = 20 + upper + between
     single = titleHeight + boxHeight + 14
-    target("host", 110, y, 560, single, "ubn_corvane_extender")
-    room("platform/extender", "host", 280, 0, "platform/extender/")
+    target("host", 110, y, 725, single, "ubn_corvane_extender")
+    room("platform/extender", "host", 362, 0, "platform/extender/")
 
     y += single + between
     middle = 3 * pitch + titleHeight + boxHeight + 14
-    target("kernel", 20, y, 800, middle, "ubn_kestrix")
-    room("platform/kestrix/nodes", "kernel", 400, 0, "nodes/")
-    room("platform/kestrix/fields", "kernel", 400, 1, "fields/")
-    room("platform/kestrix/errors", "kernel", 225, 2, "errors/")
-    room("platform/kestrix/text", "kernel", 560, 2, "text/")
-    room("platform/kestrix", "kernel", 400, 3, "platform/kestrix/")
+    target("kernel", 20, y, 965, middle, "ubn_kestrix")
+    room("platform/kestrix/nodes", "kernel", 482, 0, "nodes/")
+    room("platform/kestrix/fields", "kernel", 482, 1, "fields/")
+    room("platform/kestrix/errors", "kernel", 307, 2, "errors/")
+    room("platform/kestrix/text", "kernel", 642, 2, "text/")
+    room("platform/kestrix", "kernel", 482, 3, "platform/kestrix/")
 
-    target("gl", 930, y, 230, single, "ubn_kestrix_gl")
+    target("gl", 1095, y, 230, single, "ubn_kestrix_gl")
     room("platform/kestrix_gl", "gl", 115, 0, "platform/kestrix_gl/")
 
     y += middle + between
-    target("base", 20, y, 1140, single, "ubn_kestrix_base")
-    room("platform/kestrix_base", "base", 400, 0, "platform/kestrix_base/")
+    target("base", 20, y, 1305, single, "ubn_kestrix_base")
+    room("platform/kestrix_base", "base", 482, 0, "platform/kestrix_base/")
 
     # With lanes for what may come: what a target may use is settled by check_includes.sh.
     lane("program", "host", 170)
     lane("program", "kernel", 65)
     lane("program", "base", 45)
-    lane("example", "host", 285)
-    lane("example", "kernel", 345)
-    lane("defaults", "host", 530)
-    lane("defaults", "kernel", 750)
-    lane("defaults", "base", 875)
-    lane("defaults", "gl", 1045)
-    lane("host", "kernel", 420)
-    lane("host", "base", 650)
-    lane("gl", "base", 1045)
-    lane("kernel", "base", 420)
+    lane("objects", "host", 290)
+    lane("objects", "kernel", 340)
+    lane("objects", "base", 370)
+    lane("example", "host", 450)
+    lane("example", "kernel", 510)
+    lane("defaults", "host", 695)
+    lane("defaults", "kernel", 915)
+    lane("defaults", "base", 1040)
+    lane("defaults", "gl", 1210)
+    lane("host", "kernel", 585)
+    lane("host", "base", 815)
+    lane("gl", "base", 1210)
+    lane("kernel", "base", 585)
 
-    legendX = 930
+    legendX = 1095
     y2 = bottomOf("gl") + 42
     explain("", y2, "Includes, and how many there are;")
     explain("", y2 + 18, "those between targets together:")
     explain("near", y2 + 46, "to the row below")
     explain("far", y2 + 70, "sideways or further down")
     explain("up", y2 + 94, "up again, within the plug-in")
-    width = 1180
+    width = 1345
     height = y + single + 20
 }

@@ -43,18 +43,16 @@ public:
     /// Tells the sensors that something changed; they run later, from the kernel's queue.
     void touch();
 
-    /// Whether any sensor is attached.
-    bool isWatched() const { return !m_sensors.empty(); }
-
 protected:
     KnField();
 
     /// The value was written or touched. Called at once, before any sensor hears of it; the field
     /// may write itself here, which comes back here.
     virtual void written() { }
-    /// The first sensor has been attached, or the last one detached. Not called any more while the
-    /// field is being destroyed.
-    virtual void watchedChanged() { }
+    /// The first sensor is about to be attached. What is written here isn't news to it.
+    virtual void watchBegins() { }
+    /// The last sensor was detached. Not called any more while the field is being destroyed.
+    virtual void watchEnds() { }
 
     /// Before each write: lets whoever records read what the field holds.
     void aboutToWrite()

@@ -15,10 +15,10 @@ void KnFieldSensor::attach(KnField* field)
     detach();
     if (!field)
         return;
+    if (field->m_sensors.empty())
+        field->watchBegins();
     m_field = field;
     field->m_sensors.push_back(this);
-    if (field->m_sensors.size() == 1)
-        field->watchedChanged();
 }
 
 void KnFieldSensor::detach()
@@ -29,5 +29,5 @@ void KnFieldSensor::detach()
     KnField* const field = std::exchange(m_field, nullptr);
     std::erase(field->m_sensors, this);
     if (field->m_sensors.empty())
-        field->watchedChanged();
+        field->watchEnds();
 }

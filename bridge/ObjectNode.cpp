@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "ObjectNode.h"
+
+#include "CrvStrings.h"
+#include "KnSFields.h"
+#include "PropertyFieldMaker.h"
+#include "PropertyPlace.h"
+
+#include <QThread>
+
+#include <algorithm>
+
+namespace {
+
+/// What is known of an object of another thread.
+std::shared_ptr<const ObjectClass> foreignClass(const QObject& object)
+{
+    auto made = std::make_shared<ObjectClass>();
+    made->type = ObjectClass::of(object.metaObject())->type;
+    made->fields.addOwnField("thread");
+    return made;
+}
+
+QString threadText(const QThread* thread)
+{
+    if (!thread)
+        return QStringLiteral("none");
+    return thread->objectName().isEmpty() ? QLatin1String(thread->metaObject()->className())
+                                          : thread->objectName();
+}
+
+} // namespace
+
+ObjectNode* ObjectNode::of(QObject* object)
+{
+    // Nobody else follows objects.
+    auto* const known = static_cast<ObjectNode*>(ObjectWatch::getInstance().followerOf(object));
+    // At the address of a dead object of another thread, another one may live already.
+    return known && known->object() == object ? known : new ObjectNode(object);
+}
+
+ObjectNode::ObjectNode(QObject* object)
+    : m_address(object)
+    , m_object(object)
+    , m_class(isForeign() ? foreignClass(*object) : ObjectClass::of(object->metaObject()))
+{
+    setName(KbName(toKbString(object->objectName())));
+    makeChildrenLater();
+    ObjectWatch::getInstance().addFollower(object, this);
+    if (!isForeign())
+        followDynamicProperties();
+}
+
+ObjectNode::~ObjectNode()
+{
+    ObjectWatch& watch = ObjectWatch::getInstance();
+    watch.removeFollower(m_address, this);
+    if (m_object)
+        watch.letGo(m_object);
+}
+
+bool ObjectNode::isForeign() const { return m_object->thread() != QThread::currentThread(); }
+
+const KnFieldData* ObjectNode::getContainerFieldData() const
+{
+    return m_ownTable ? m_ownTable.get() : &m_class->fields;
+}
+
+KnField* ObjectNode::ownField(int index)
+{
+    const auto place = static_cast<std::size_t>(index);
+    if (m_fields.size() <= place)
+        m_fields.resize(static_cast<std::size_t>(getContainerFieldData()->getNum()));
+    if (!m_fields[place]) {
+        m_fields[place] = makeField(index);
+        adopt(*m_fields[place]);
+    }
+    return m_fields[place].get();
+}
+
+std::unique_ptr<KnField> ObjectNode::makeField(int index) const
+{
+    const auto place = static_cast<std::size_t>(index);
+    if (!m_object || isForeign()) {
+        auto text = std::make_unique<KnSFString>();
+        if (m_object && m_class->properties.empty())
+            text->setValue(toKbString(threadText(m_object->thread())));
+        text->setReadOnly(true);
+        return text;
+    }
+    if (place < m_class->properties.size())
+        return makePropertyField(PropertyPlace(m_object, m_class->properties[place]));
+    return makePropertyField(PropertyPlace(
+        m_object, getContainerFieldData()->getName(index).getString().toUtf8().c_str()));
+}
+
+int ObjectNode::ownIndex(const KnField* field) const
+{
+    const auto found = std::find_if(m_fields.begin(), m_fields.end(),
+        [field](const std::unique_ptr<KnField>& own) { return own.get() == field; });
+    return found == m_fields.end() || !field ? -1 : static_cast<int>(found - m_fields.begin());
+}
+
+void ObjectNode::makeChildren() { followChildren(); }
+
+void ObjectNode::followObject()
+{
+    if (m_object && !isForeign()) {
+        setName(KbName(toKbString(m_object->objectName())));
+        followDynamicProperties();
+    }
+    if (!waitsForLook())
+        followChildren();
+}
+
+void ObjectNode::followChildren()
+{
+    const QObjectList objects = m_object && !isForeign() ? m_object->children() : QObjectList();
+    const int newCount = static_cast<int>(objects.size());
+    const int oldCount = getNumMadeChildren();
+    const auto stands = [&](int child, int object) {
+        return static_cast<const ObjectNode*>(getChild(child))->object() == objects[object];
+    };
+    const int common = std::min(newCount, oldCount);
+    int first = 0;
+    while (first < common && stands(first, first))
+        ++first;
+    int tail = 0;
+    while (tail < common - first && stands(oldCount - 1 - tail, newCount - 1 - tail))
+        ++tail;
+    std::vector<KnNodePtr> nodes;
+    for (int i = first; i < newCount - tail; ++i)
+        nodes.emplace_back(of(objects[i]));
+    const int removed = oldCount - tail - first;
+    if (removed > 0 || !nodes.empty())
+        replaceChildren(first, removed, std::move(nodes));
+}
+
+/// A property that is gone keeps its field, which shows nothing.
+void ObjectNode::followDynamicProperties()
+{
+    const QList<QByteArray> names = m_object->dynamicPropertyNames();
+    for (const QByteArray& name : names) {
+        const KbName fieldName(name.constData());
+        if (name.startsWith("_q_") || getContainerFieldData()->getIndex(fieldName) >= 0)
+            continue;
+        if (!m_ownTable)
+            m_ownTable = std::make_unique<KnFieldData>(m_class->fields);
+        m_ownTable->addOwnField(fieldName);
+    }
+}

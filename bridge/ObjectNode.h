@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "KnGroup.h"
+#include "ObjectClass.h"
+#include "ObjectWatch.h"
+
+#include <QPointer>
+
+#include <memory>
+#include <vector>
+
+class QObject;
+
+/// An object as a node: its properties are the fields, its children the children, all made when
+/// somebody first looks at them. The object isn't owned and may die; what is left of it then has
+/// neither children nor anything that could be written.
+///
+/// An object of another thread has its class, its name and one field, which says where it lives.
+/// Nothing else of it is read.
+class ObjectNode final : public KnGroup, public ObjectFollower {
+public:
+    /// The node of a living object, as long as anybody holds a reference on it; otherwise a fresh
+    /// one with a count of 0.
+    static ObjectNode* of(QObject* object);
+
+    KnType getObjectType() const override { return m_class->type; }
+    const KnFieldData* getContainerFieldData() const override;
+
+    /// Null once it is dead.
+    QObject* object() const { return m_object.data(); }
+    /// Brings children, name and dynamic properties in line with the object.
+    void followObject() override;
+
+protected:
+    KnField* ownField(int index) override;
+    int ownIndex(const KnField* field) const override;
+    void makeChildren() override;
+
+private:
+    explicit ObjectNode(QObject* object);
+    ~ObjectNode() override;
+
+    bool isForeign() const;
+    std::unique_ptr<KnField> makeField(int index) const;
+    void followChildren();
+    void followDynamicProperties();
+
+    QObject* const m_address; // of the object, also when it is dead
+    QPointer<QObject> m_object;
+    std::shared_ptr<const ObjectClass> m_class;
+    // The fields of the class and those for the object's dynamic properties; null without any.
+    std::unique_ptr<KnFieldData> m_ownTable;
+    std::vector<std::unique_ptr<KnField>> m_fields; // null where nobody has looked
+};

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QBasicTimer>
+#include <QHash>
+#include <QObject>
+
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+class PropertyField;
+
+/// Whoever wants to know of an object's children and dynamic properties.
+class ObjectFollower {
+public:
+    /// Something has happened to them, or the object has died. Called from the event loop.
+    virtual void followObject() = 0;
+
+protected:
+    ~ObjectFollower() = default;
+};
+
+/// Hears from Qt what happens to objects that somebody looks at: properties that change, children
+/// that come and go, objects that die. Whatever happens in one turn of the event loop is shown
+/// together in the next. It wakes up by itself only for watched properties whose changes no signal
+/// announces.
+///
+/// There is one object, on the thread of the user interface.
+class ObjectWatch : public QObject {
+    Q_OBJECT
+public:
+    static ObjectWatch& getInstance();
+
+    /// Follows the property of a field until `unwatch`. A field that is watched already is ignored.
+    void watch(PropertyField* field);
+    /// Also forgets a change that waits to be shown.
+    void unwatch(PropertyField* field);
+
+    /// Who follows an object; null if nobody does.
+    ObjectFollower* followerOf(QObject* object) const { return m_followers.value(object); }
+    /// Makes this the one who follows an object, and is told when it dies. What else happens to an
+    /// object of another thread isn't told.
+    void addFollower(QObject* object, ObjectFollower* follower);
+    /// Forgets the follower; the object may be dead.
+    void removeFollower(QObject* object, ObjectFollower* follower);
+    /// Leaves a living object as it was before anybody followed it.
+    void letGo(QObject* object);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void customEvent(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    using Signal = std::pair<const QObject*, int>; // the object may be dead by now
+
+    ObjectWatch() = default;
+    ~ObjectWatch() override = default;
+
+    void wake();
+    void objectChanged(QObject* object);
+
+private Q_SLOTS:
+    void propertyNotified();
+    void objectDestroyed(QObject* object);
+
+private:
+    QHash<QObject*, ObjectFollower*> m_followers; // not owned; they leave when they go
+    QMultiHash<Signal, PropertyField*> m_announced; // watched fields whose changes a signal tells
+    QHash<PropertyField*, Signal> m_signals; // of these fields
+    std::vector<PropertyField*> m_compared; // the other watched fields
+    QBasicTimer m_comparison; // runs while there are any of them
+    // What has changed since the last turn. Order doesn't matter, since each is shown as it is.
+    std::unordered_set<PropertyField*> m_changedFields;
+    std::unordered_set<ObjectFollower*> m_changed;
+    bool m_awake = false; // an event is on its way
+};

@@ -1,0 +1,367 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CrvObjects.h"
+#include "CrvStrings.h"
+#include "KnFieldSensor.h"
+#include "KnGroup.h"
+#include "KnMField.h"
+#include "KnReadErrorCapture.h"
+#include "KnSensorQueue.h"
+#include "Machine.h"
+
+#include <QPointer>
+#include <QRandomGenerator>
+#include <QTest>
+#include <QThread>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString text(const KnField* field)
+{
+    KbString text;
+    field->get(text);
+    return toQString(text);
+}
+
+/// A sensor that counts.
+struct Watch {
+    explicit Watch(KnField* field)
+        : sensor([](void* count, KnSensor*) { ++*static_cast<int*>(count); }, &runs)
+    {
+        sensor.attach(field);
+    }
+
+    int runs = 0;
+    KnFieldSensor sensor;
+};
+
+/// The names of the nodes below one, a level deeper in brackets. Looks at all of them.
+QString treeText(const KnFieldContainer* node)
+{
+    const auto* const group = dynamic_cast<const KnGroup*>(node);
+    QStringList children;
+    for (int i = 0; i < group->getNumChildren(); ++i)
+        children += treeText(group->getChild(i));
+    const QString name = toQString(node->getName());
+    return children.isEmpty() ? name : name + u'(' + children.join(u' ') + u')';
+}
+
+QString treeText(const QObject* object)
+{
+    QStringList children;
+    for (const QObject* child : object->children())
+        children += treeText(child);
+    return children.isEmpty() ? object->objectName()
+                              : object->objectName() + u'(' + children.join(u' ') + u')';
+}
+
+} // namespace
+
+class TestObjectNodes : public QObject {
+    Q_OBJECT
+
+    void runSensors()
+    {
+        QCoreApplication::processEvents();
+        KnSensorQueue::getInstance().process();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
+        m_machine = std::make_unique<Machine>();
+        m_machine->setObjectName(u"mill"_s);
+        m_node = KnNodePtr(crvObjectNode(m_machine.get()));
+    }
+    void cleanup()
+    {
+        m_node = KnNodePtr();
+        m_machine.reset();
+    }
+
+    void aNodeHasClassNameAndProperties()
+    {
+        QCOMPARE(toQString(m_node->getName()), u"mill"_s);
+        QCOMPARE(toQString(m_node->getObjectType().getName()), u"Machine"_s);
+        QVERIFY(m_node->isOfType(KnType::fromName("QObject")));
+        const KnFieldData* const table = m_node->getContainerFieldData();
+        QCOMPARE(toQString(table->getName(0)), u"objectName"_s);
+        QCOMPARE(table->getIndex("speed"), 1);
+        Machine other;
+        const KnNodePtr otherNode(crvObjectNode(&other));
+        QCOMPARE(otherNode->getContainerFieldData(), table);
+        QCOMPARE(crvObjectNode(m_machine.get()), m_node.get());
+        QCOMPARE(crvNodeObject(m_node.get()), m_machine.get());
+    }
+
+    // Texts as they would come from an editor, and what the setter makes of them.
+    void anEditGoesThroughTheSetter_data()
+    {
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<QString>("edit");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QVariant>("value");
+        QTest::addRow("number") << u"speed"_s << u"20"_s << u"20"_s << QVariant(20);
+        QTest::addRow("clamped") << u"speed"_s << u"200"_s << u"100"_s << QVariant(100);
+        QTest::addRow("enum") << u"mode"_s << u"Broken"_s << u"Broken"_s
+                              << QVariant::fromValue(Machine::Broken);
+        QTest::addRow("flags") << u"parts"_s << u"(Belt | Motor)"_s << u"(Belt | Motor)"_s
+                               << QVariant::fromValue(Machine::Belt | Machine::Motor);
+        QTest::addRow("variant") << u"load"_s << u"7.5"_s << u"7.5"_s << QVariant(7.5);
+        QTest::addRow("list") << u"steps"_s << u"[ 4 ]"_s << u"[ 4 ]"_s
+                              << QVariant::fromValue(QList<int>({ 4 }));
+        QTest::addRow("text") << u"place"_s << u"0 0  7 8"_s << u"0 0 7 8"_s
+                              << QVariant(QRect(0, 0, 7, 8));
+    }
+    void anEditGoesThroughTheSetter()
+    {
+        QFETCH(QString, property);
+        QFETCH(QString, edit);
+        QFETCH(QString, shown);
+        QFETCH(QVariant, value);
+        KnField* const field = m_node->getField(KbName(toKbString(property)));
+        const QVariant before = m_machine->property(property.toLatin1());
+        QCOMPARE(m_machine->m_speedWrites, 0);
+        const QString beforeText = text(field);
+        QVERIFY(field->set(toKbString(edit)));
+        QCOMPARE(m_machine->property(property.toLatin1()), value);
+        QCOMPARE(text(field), shown);
+        QVERIFY(field->set(toKbString(beforeText)));
+        QCOMPARE(m_machine->property(property.toLatin1()), before);
+    }
+
+    void lookingAndMarkingWriteNothing()
+    {
+        KnField* const speed = m_node->getField("speed");
+        const Watch watch(speed);
+        text(speed);
+        speed->setIgnored(1);
+        speed->touch();
+        QVERIFY(speed->set("10")); // which it is already
+        runSensors();
+        QCOMPARE(m_machine->m_speedWrites, 0);
+    }
+
+    void aSignalBringsChangesOfEveryPropertyThatItAnnounces()
+    {
+        KnField* const speed = m_node->getField("speed");
+        KnField* const heat = m_node->getField("heat");
+        Watch watch(speed);
+        Watch heatWatch(heat);
+        runSensors();
+        QCOMPARE(watch.runs + heatWatch.runs, 0); // the first look is no change
+        m_machine->setSpeed(30);
+        m_machine->setSpeed(31);
+        runSensors();
+        QCOMPARE(watch.runs, 1);
+        QCOMPARE(heatWatch.runs, 1);
+        QCOMPARE(text(heat), u"62"_s);
+        Q_EMIT m_machine->speedChanged(); // nothing has
+        runSensors();
+        QCOMPARE(watch.runs, 1);
+    }
+
+    void whatHasNoSignalIsComparedWhileItIsWatched()
+    {
+        KnField* const polled = m_node->getField("polled");
+        auto watch = std::make_unique<Watch>(polled);
+        m_machine->m_polled = 5;
+        QTRY_VERIFY((runSensors(), watch->runs > 0));
+        QCOMPARE(text(polled), u"5"_s);
+        watch.reset();
+        m_machine->m_polledReads = 0;
+        // Another field keeps the comparison going.
+        Watch other(m_node->getField("serial"));
+        m_machine->m_serial = 9;
+        QTRY_VERIFY((runSensors(), other.runs > 0));
+        QCOMPARE(m_machine->m_polledReads, 0);
+    }
+
+    void aTypedWriteOfAReadOnlyPropertyIsTakenBack()
+    {
+        auto& heat = dynamic_cast<KnSFDouble&>(*m_node->getField("heat"));
+        QVERIFY(heat.isReadOnly());
+        const KnReadErrorCapture capture;
+        heat.setValue(5);
+        QCOMPARE(heat.getValue(), 20.0);
+        QVERIFY(capture.getText().toUtf8().ends_with("read-only"));
+    }
+
+    void rowsThatStayAreLeftAlone()
+    {
+        struct Rows : KnFieldSensor {
+            using KnFieldSensor::KnFieldSensor;
+            void rowsReplaced(int start, int removed, int inserted) override
+            {
+                changes += u"%1-%2+%3 "_s.arg(start).arg(removed).arg(inserted);
+            }
+            QString changes;
+        } rows(nullptr, nullptr);
+        rows.attach(m_node->getField("steps"));
+        m_machine->setSteps({ 1, 9, 8, 2, 3 });
+        runSensors();
+        m_machine->setSteps({ 1, 9, 3 });
+        runSensors();
+        m_machine->setSteps({ 1, 7, 3 });
+        runSensors();
+        QCOMPARE(rows.changes, u"1-0+2 1-2+2 2-2+0 1-1+1 "_s);
+        QCOMPARE(text(rows.getAttachedField()), u"[ 1, 7, 3 ]"_s);
+    }
+
+    void aVariantOfAnotherTypeByNowIsntOverwritten()
+    {
+        KnField* const load = m_node->getField("load");
+        QCOMPARE(text(load), u"2.5"_s);
+        m_machine->m_load = u"full"_s;
+        const KnReadErrorCapture capture;
+        load->set("3");
+        QCOMPARE(m_machine->m_load, QVariant(u"full"_s));
+        QVERIFY(!capture.getText().isEmpty());
+    }
+
+    void anAxisIsKeptWhileTheAngleIsZero()
+    {
+        KnField* const turn = m_node->getField("turn");
+        QVERIFY(turn->set("1 0 0 0"));
+        QCOMPARE(text(turn), u"1 0 0 0"_s);
+        QVERIFY(turn->set("0 1 0 1.5"));
+        QVERIFY(qFuzzyCompare(
+            m_machine->m_turn, QQuaternion::fromAxisAndAngle(0, 1, 0, qRadiansToDegrees(1.5F))));
+    }
+
+    void aPointerLeadsToItsObject()
+    {
+        Machine next;
+        m_machine->m_next = &next;
+        const KnField* const link = m_node->getField("next");
+        QCOMPARE(text(link), u"Machine"_s);
+        const KnNodePtr node(crvLinkedNode(link));
+        QCOMPARE(crvNodeObject(node.get()), &next);
+        m_machine->m_next = nullptr;
+        QVERIFY(!crvLinkedNode(link));
+        QVERIFY(!crvLinkedNode(m_node->getField("speed")));
+    }
+
+    void dynamicPropertiesAreFields()
+    {
+        QVERIFY(!m_node->getField("weight"));
+        m_machine->setProperty("weight", 3.5);
+        runSensors();
+        KnField* const weight = m_node->getField("weight");
+        QVERIFY(weight && m_node->getField("speed"));
+        QVERIFY(weight->set("4"));
+        QCOMPARE(m_machine->property("weight"), QVariant(4.0));
+    }
+
+    void deathLeavesNothingToWrite_data()
+    {
+        QTest::addColumn<bool>("inSetter");
+        QTest::addRow("before") << false;
+        QTest::addRow("within the setter") << true;
+    }
+    void deathLeavesNothingToWrite()
+    {
+        QFETCH(bool, inSetter);
+        KnField* const speed = m_node->getField("speed");
+        KnField* const label = m_node->getField("label");
+        KnField* const fuse = m_node->getField("fuse");
+        const Watch watches[] = { Watch(speed), Watch(m_node->getField("polled")) };
+        m_machine->m_blow = [this] { m_machine.reset(); };
+        if (inSetter)
+            fuse->set("TRUE");
+        else
+            m_machine.reset();
+        QVERIFY(!m_machine);
+        const QString before = text(speed);
+        const KnReadErrorCapture capture;
+        QVERIFY(!speed->set("50"));
+        QVERIFY(capture.getText().toUtf8().ends_with("the object is gone"));
+        QCOMPARE(text(speed), before);
+        text(label);
+        QVERIFY(m_node->getField("serial")); // nobody had looked at it before
+        runSensors();
+        QCOMPARE(static_cast<KnGroup*>(m_node.get())->getNumChildren(), 0);
+        QVERIFY(!crvNodeObject(m_node.get()));
+    }
+
+    void childrenComeGoAndDie()
+    {
+        const quint32 seed = QRandomGenerator::global()->generate();
+        QRandomGenerator random(seed);
+        auto& root = static_cast<KnGroup&>(*m_node.get());
+        KnGroupSensor sensor(nullptr, nullptr);
+        sensor.attach(&root);
+        QList<QPointer<QObject>> objects { m_machine.get() };
+        for (int round = 0; round < 300; ++round) {
+            for (quint32 i = random.bounded(4U); i > 0; --i) {
+                objects.removeIf([](const auto& object) { return !object; });
+                QObject* const one = objects[random.bounded(objects.size())];
+                QObject* const other = objects[random.bounded(objects.size())];
+                const auto isBelow = [](const QObject* object, const QObject* top) {
+                    for (; object && object != top; object = object->parent()) { }
+                    return object != nullptr;
+                };
+                if (one == m_machine.get() || random.bounded(2) == 0) {
+                    objects += new QObject(one);
+                    objects.last()->setObjectName(QString::number(round));
+                } else if (random.bounded(2) == 0) {
+                    delete one;
+                } else if (!isBelow(other, one)) {
+                    one->setParent(other);
+                }
+            }
+            QCoreApplication::processEvents();
+            QVERIFY2(treeText(m_node.get()) == treeText(m_machine.get()),
+                qPrintable(u"seed %1, round %2"_s.arg(seed).arg(round)));
+        }
+    }
+
+    void anObjectOfAnotherThreadIsntRead()
+    {
+        QThread thread;
+        thread.setObjectName(u"worker"_s);
+        auto* const far = new Machine;
+        auto* const below = new QObject(far);
+        far->moveToThread(&thread);
+        const KnNodePtr node(crvObjectNode(far));
+        QCOMPARE(toQString(node->getObjectType().getName()), u"Machine"_s);
+        QCOMPARE(node->getContainerFieldData()->getNum(), 1);
+        QCOMPARE(text(node->getField("thread")), u"\"worker\""_s);
+        QCOMPARE(static_cast<KnGroup*>(node.get())->getNumChildren(), 0);
+        Q_UNUSED(below);
+        // One that leaves later is left alone from then on.
+        KnField* const polled = m_node->getField("polled");
+        m_machine->moveToThread(&thread);
+        m_machine->m_polledReads = 0;
+        text(polled);
+        const KnReadErrorCapture capture;
+        QVERIFY(!polled->set("3"));
+        QCOMPARE(m_machine->m_polledReads, 0);
+        delete far;
+    }
+
+    void afterTheNodesNothingIsLeftInTheObject()
+    {
+        auto* const child = new QObject(m_machine.get());
+        treeText(m_node.get());
+        {
+            const Watch watch(m_node->getField("speed"));
+        }
+        QVERIFY(!m_machine->isSpeedHeard());
+        m_node = KnNodePtr();
+        QVERIFY(!m_machine->isDeathHeard());
+        delete child;
+        runSensors();
+    }
+
+private:
+    std::unique_ptr<Machine> m_machine;
+    KnNodePtr m_node;
+};
+
+QTEST_MAIN(TestObjectNodes)
+#include "test_object_nodes.moc"

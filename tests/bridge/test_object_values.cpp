@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CrvObjects.h"
+#include "CrvStrings.h"
+#include "KnField.h"
+#include "KnFieldContainer.h"
+#include "KnFieldSensor.h"
+#include "KnNodePtr.h"
+#include "KnReadErrorCapture.h"
+#include "KnSensorQueue.h"
+
+#include <QBitmap>
+#include <QFont>
+#include <QIcon>
+#include <QKeySequence>
+#include <QLine>
+#include <QLocale>
+#include <QMargins>
+#include <QMatrix4x4>
+#include <QQuaternion>
+#include <QTest>
+#include <QTimeZone>
+#include <QTransform>
+#include <QUrl>
+#include <QUuid>
+#include <QVector2D>
+#include <QVector3D>
+#include <QVector4D>
+
+#include <cmath>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An object with one dynamic property, as a node.
+struct Holder {
+    explicit Holder(const QVariant& value)
+    {
+        object.setProperty("value", value);
+        node = KnNodePtr(crvObjectNode(&object));
+        field = node->getField("value");
+    }
+
+    QString text() const
+    {
+        KbString text;
+        field->get(text);
+        return toQString(text);
+    }
+    QVariant value() const { return object.property("value"); }
+
+    QObject object;
+    KnNodePtr node;
+    KnField* field = nullptr;
+};
+
+QImage picture(QImage::Format format)
+{
+    QImage image(2, 3, format);
+    image.fill(Qt::black);
+    image.setPixelColor(0, 0, Qt::white);
+    image.setPixelColor(1, 2, QColor(200, 200, 200));
+    return image;
+}
+
+} // namespace
+
+class TestObjectValues : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void eachTypeIsShownAndWrittenBack_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("type"); // of the field
+        QTest::addColumn<QString>("text");
+        const auto row
+            = [](const char* name, const QVariant& value, const char* type, const QString& text) {
+                  QTest::addRow("%s", name) << value << QString::fromLatin1(type) << text;
+              };
+        row("bool", true, "SFBool", u"TRUE"_s);
+        row("short", QVariant::fromValue(short(-5)), "SFShort", u"-5"_s);
+        row("int", std::numeric_limits<int>::min(), "SFInt32", u"-2147483648"_s);
+        row("uint", 255U, "SFUInt32", u"0xff"_s);
+        row("int64", std::numeric_limits<qint64>::min(), "SFInt64", u"-9223372036854775808"_s);
+        row("uint64", std::numeric_limits<quint64>::max(), "SFUInt64", u"18446744073709551615"_s);
+        row("uchar", QVariant::fromValue(uchar(200)), "SFUInt8", u"200"_s);
+        row("float", 0.1F, "SFFloat", u"0.1"_s);
+        row("double", 0.1, "SFDouble", u"0.1"_s);
+        row("string", u"a \"b\"\n\u00e4"_s, "SFString", u"\"a \\\"b\\\"\\n\u00e4\""_s);
+        row("bytes", QByteArray("a\\\0\xff", 4), "SFBytes", u"a\\x5c\\x00\\xff"_s);
+        row("character", QChar(u'\u00e4'), "SFCharacter", u"\u00e4"_s);
+        row("url", QUrl(u"http://a/b%20c?d=\u00e4"_s), "SFString",
+            u"\"http://a/b%20c?d=%C3%A4\""_s);
+        row("color", QColor(255, 0, 51, 102), "SFColorRGBA", u"1 0 0.2 0.4"_s);
+        row("color of 16 bits", QColor(QRgba64::fromRgba64(1, 2, 3, 65534)), "SFColorRGBA", {});
+        row("point", QPoint(-1, 2), "SFVec2i32", u"-1 2"_s);
+        row("size", QSize(3, 4), "SFVec2i32", u"3 4"_s);
+        row("point of doubles", QPointF(0.1, 1e300), "SFPoint", u"0.1 1e+300"_s);
+        row("size of doubles", QSizeF(0.1, 2), "SFSize", u"0.1 2"_s);
+        row("vector2", QVector2D(1, 2.5F), "SFVec2f", u"1 2.5"_s);
+        row("vector3", QVector3D(1, 2, 3), "SFVec3f", u"1 2 3"_s);
+        row("vector4", QVector4D(1, 2, 3, 4), "SFVec4f", u"1 2 3 4"_s);
+        row("rotation", QQuaternion(0.8F, 0.6F, 0, 0), "SFRotation", {});
+        row("matrix", QMatrix4x4(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16), "SFMatrix",
+            u"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16"_s);
+        row("rect", QRect(1, 2, 30, 40), "SFRect", u"1 2 30 40"_s);
+        row("rect of doubles", QRectF(0.1, 2, 3, 4), "SFRectF", u"0.1 2 3 4"_s);
+        row("line", QLine(1, 2, 3, 4), "SFLine", u"1 2 3 4"_s);
+        row("margins", QVariant::fromValue(QMargins(1, 2, 3, 4)), "SFMargins", u"1 2 3 4"_s);
+        row("transform", QTransform(1, 2, 3, 4, 5, 6, 7, 8, 9.5), "SFTransform",
+            u"1 2 3 4 5 6 7 8 9.5"_s);
+        row("font", QFont(u"Serif"_s, 11, QFont::Bold, true), "SFFont", {});
+        row("keys", QKeySequence(u"Ctrl+K, Alt+F4"_s), "SFKeys", u"Ctrl+K, Alt+F4"_s);
+        row("locale", QLocale(QLocale::German, QLocale::Austria), "SFLocale", u"de-AT"_s);
+        row("locale C", QLocale::c(), "SFLocale", u"C"_s);
+        row("date", QDate(2030, 12, 31), "SFDate", u"2030-12-31"_s);
+        row("time", QTime(1, 2, 3, 4), "SFTimeOfDay", u"01:02:03.004"_s);
+        const QDate day(2030, 7, 1);
+        row("local time", QDateTime(day, QTime(1, 2)), "SFDateTime", u"2030-07-01T01:02:00.000"_s);
+        row("UTC", QDateTime(day, QTime(1, 2), Qt::UTC), "SFDateTime",
+            u"2030-07-01T01:02:00.000Z"_s);
+        row("offset", QDateTime(day, QTime(1, 2), Qt::OffsetFromUTC, 5400), "SFDateTime",
+            u"2030-07-01T01:02:00.000+01:30"_s);
+        row("uuid", QUuid(u"{12345678-1234-1234-1234-123456789abc}"_s), "SFUuid",
+            u"{12345678-1234-1234-1234-123456789abc}"_s);
+        row("alignment", QVariant::fromValue(Qt::AlignRight | Qt::AlignTop), "SFBitMask",
+            u"(AlignRight | AlignTop)"_s);
+        row("cursor shape", QVariant::fromValue(Qt::WaitCursor), "SFEnum", u"WaitCursor"_s);
+        row("strings", QStringList({ u"a"_s, u"b c"_s }), "MFString", u"[ \"a\", \"b c\" ]"_s);
+        row("ints", QVariant::fromValue(QList<int>({ 1, 2 })), "MFInt32", u"[ 1, 2 ]"_s);
+        row("colors", QVariant::fromValue(QList<QColor>({ Qt::red, Qt::blue })), "MFColorRGBA",
+            u"[ 1 0 0 1, 0 0 1 1 ]"_s);
+        row("vectors", QVariant::fromValue(QList<QVector3D>({ { 1, 2, 3 } })), "MFVec3f",
+            u"[ 1 2 3 ]"_s);
+        row("grey image", picture(QImage::Format_Grayscale8), "SFImage",
+            u"2 3 1 0x0 0xc8 0x0 0x0 0xff 0x0"_s);
+        row("colored image", picture(QImage::Format_ARGB32), "SFImage",
+            u"2 3 4 0xff 0xc8c8c8ff 0xff 0xff 0xffffffff 0xff"_s);
+    }
+    void eachTypeIsShownAndWrittenBack()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(QString, type);
+        QFETCH(QString, text);
+        Holder shown(value);
+        QCOMPARE(toQString(shown.field->getObjectType().getName()), type);
+        if (!text.isNull())
+            QCOMPARE(shown.text(), text);
+        QVERIFY(!shown.field->isReadOnly());
+        // What is looked at stays as it is, and so does the rest of a value that changes back.
+        QCOMPARE(shown.value(), value);
+        text = shown.text();
+        QVERIFY(shown.field->set("\"\""));
+        QVERIFY(shown.value() != value);
+        QVERIFY(shown.field->set(toKbString(text)));
+        QCOMPARE(shown.text(), text);
+        const QVariant back = shown.value();
+        if (value.metaType() == QMetaType::fromType<QImage>())
+            QCOMPARE(back.value<QImage>().convertToFormat(value.value<QImage>().format()),
+                value.value<QImage>());
+        else if (value.metaType() == QMetaType::fromType<QQuaternion>())
+            QVERIFY(qFuzzyCompare(back.value<QQuaternion>(), value.value<QQuaternion>()));
+        else
+            QCOMPARE(back, value);
+        QCOMPARE(back.metaType(), value.metaType());
+    }
+
+    void aTimeZoneHasItsName()
+    {
+        const QTimeZone zone("Europe/Berlin");
+        if (!zone.isValid())
+            QSKIP("the system knows no time zones");
+        const QDateTime time(QDate(2030, 7, 1), QTime(1, 2), zone);
+        Holder shown(time);
+        QCOMPARE(shown.text(), u"2030-07-01T01:02:00.000 Europe/Berlin"_s);
+        QVERIFY(shown.field->set("2030-07-01T03:00:00.000 Europe/Berlin"));
+        QCOMPARE(shown.value().toDateTime(), time.addSecs(118 * 60));
+        QCOMPARE(shown.value().toDateTime().timeZone(), zone);
+    }
+
+    void aBadTextChangesNothing_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QByteArray>("bad");
+        QTest::addRow("too large") << QVariant::fromValue(uchar(1)) << QByteArray("256");
+        QTest::addRow("beyond 64 bits") << QVariant(qint64(1)) << QByteArray("9223372036854775808");
+        QTest::addRow("three of four") << QVariant(QRect(1, 2, 3, 4)) << QByteArray("1 2 3");
+        QTest::addRow("half a number") << QVariant(QRect(1, 2, 3, 4)) << QByteArray("1 2 3 4.5");
+        QTest::addRow("bytes") << QVariant(QByteArray("a")) << QByteArray("\\x4");
+        QTest::addRow("unknown byte") << QVariant(QByteArray("a")) << QByteArray("\\q41");
+        QTest::addRow("date") << QVariant(QDate(2030, 1, 1)) << QByteArray("2030-02-30");
+        QTest::addRow("keys") << QVariant::fromValue(QKeySequence(Qt::Key_A))
+                              << QByteArray("Ctrl+Hm");
+        QTest::addRow("locale") << QVariant(QLocale(QLocale::German)) << QByteArray("nowhere");
+        QTest::addRow("uuid") << QVariant(QUuid::createUuid()) << QByteArray("12");
+        QTest::addRow("zone") << QVariant(QDateTime(QDate(2030, 1, 1), QTime(1, 1)))
+                              << QByteArray("2030-01-01T01:01:00 Nowhere/Else");
+        QTest::addRow("color") << QVariant(QColor(Qt::red)) << QByteArray("1 2");
+        QTest::addRow("enum") << QVariant::fromValue(Qt::WaitCursor) << QByteArray("NoCursor");
+    }
+    void aBadTextChangesNothing()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(QByteArray, bad);
+        Holder shown(value);
+        const QString before = shown.text();
+        const KnReadErrorCapture capture;
+        QVERIFY(!shown.field->set(bad.constData()));
+        QVERIFY(!capture.getText().isEmpty());
+        QCOMPARE(shown.value(), value);
+        QCOMPARE(shown.text(), before);
+    }
+
+    void whatCantBeReadBackIsReadOnly_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("type");
+        QTest::addRow("map") << QVariant(QVariantMap({ { u"a"_s, 1 } })) << u"SFDescription"_s;
+        QTest::addRow("bools") << QVariant::fromValue(QList<bool>({ true })) << u"SFDescription"_s;
+        QPixmap pixmap(4, 4);
+        pixmap.fill(Qt::red);
+        QTest::addRow("icon") << QVariant(QIcon(pixmap)) << u"SFImage"_s;
+        QTest::addRow("object") << QVariant::fromValue(qobject_cast<QObject*>(this))
+                                << u"SFObject"_s;
+    }
+    void whatCantBeReadBackIsReadOnly()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(QString, type);
+        Holder shown(value);
+        QCOMPARE(toQString(shown.field->getObjectType().getName()), type);
+        QVERIFY(shown.field->isReadOnly());
+        QVERIFY(!shown.text().isEmpty() && shown.text() != u"0 0 0"_s);
+        const KnReadErrorCapture capture;
+        QVERIFY(!shown.field->set("\"\""));
+    }
+
+    void aNanIsNoChange()
+    {
+        Holder shown(std::nan(""));
+        KnFieldSensor sensor(nullptr, nullptr);
+        sensor.attach(shown.field);
+        QCOMPARE(shown.text(), u"nan"_s);
+        sensor.detach();
+        sensor.attach(shown.field);
+        shown.text();
+        QVERIFY(KnSensorQueue::getInstance().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestObjectValues)
+#include "test_object_values.moc"
