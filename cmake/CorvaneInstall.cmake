@@ -4,7 +4,8 @@
 # headers and a CMake package. The plug-in and the program have their rules beside their targets.
 include(CMakePackageConfigHelpers)
 
-set(libraries ubn_kestrix_base ubn_kestrix ubn_kestrix_gl ubn_corvane_extender corvane_inspector)
+set(libraries ubn_kestrix_base ubn_kestrix ubn_kestrix_gl ubn_corvane_extender corvane_inspector
+    corvane_objects)
 set_target_properties(${libraries} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
 install(TARGETS ${libraries} EXPORT corvaneTargets
@@ -25,6 +26,9 @@ install(DIRECTORY platform/kestrix_base platform/kestrix platform/kestrix_gl pla
         PATTERN CrvProfileResolution.h EXCLUDE)
 install(FILES inspector/CrvInspector.h
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/corvane/inspector")
+
+install(FILES bridge/CrvObjects.h
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/corvane/bridge")
 
 write_basic_package_version_file("${CMAKE_BINARY_DIR}/corvaneConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)

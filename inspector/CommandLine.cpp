@@ -22,8 +22,8 @@ struct Parser : QCommandLineParser {
         addPositionalArgument(QStringLiteral("scene"),
             CommandLine::tr("Scene file to open, in JSON; a small scene if there is none."),
             QStringLiteral("[scene.json]"));
-        addOptions({ help, version, profile, profilesFile, plugin, selection, picture, size, list,
-            verbose, get, set, save });
+        addOptions({ run, help, version, profile, profilesFile, plugin, selection, picture, size,
+            list, verbose, get, set, save });
         // For the application object, which reads them itself.
         for (const QLatin1String name : toolkitOptions()) {
             QCommandLineOption option(name, QString(), name);
@@ -48,6 +48,11 @@ struct Parser : QCommandLineParser {
         return QString();
     }
 
+    // For the help alone: where it comes first, nothing of the line is read here.
+    const QCommandLineOption run { QStringLiteral("run"),
+        CommandLine::tr("Starts a program of Qt's with the inspector in it. Comes first; all that "
+                        "follows the program is its own."),
+        QStringLiteral("program") };
     const QCommandLineOption help { { QStringLiteral("h"), QStringLiteral("help") },
         CommandLine::tr("Shows this help.") };
     const QCommandLineOption version { { QStringLiteral("v"), QStringLiteral("version") },
@@ -197,6 +202,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         commandLine.request = Request::Version;
     if (commandLine.request != Request::Run)
         return commandLine;
+    if (parser.isSet(parser.run))
+        return refusal(tr("'--run' comes first."));
 
     const QStringList scenes = parser.positionalArguments();
     if (scenes.size() > 1)

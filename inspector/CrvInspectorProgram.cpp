@@ -6,6 +6,7 @@
 #include "MainWindow.h"
 #include "Messages.h"
 #include "Picture.h"
+#include "ProgramRun.h"
 #include "Startup.h"
 #include "ToolkitMessages.h"
 
@@ -135,6 +136,8 @@ int runWindow(const CommandLine& commandLine)
 
 int CrvInspectorProgram::run(int argc, char** argv)
 {
+    if (ProgramRun::isWanted(argc, argv))
+        return ProgramRun::start(argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Orbel"));
     QCoreApplication::setApplicationName(QStringLiteral("Corvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));

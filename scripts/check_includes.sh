@@ -61,6 +61,7 @@ BEGIN {
     layer("inspector", platform " " published \
         " inspector/text inspector/edits inspector/scene inspector/script inspector/structure inspector/watch inspector/window" \
         " inspector/process")
+    layer("runner", platform " bridge " published)
     layer("examples", platform " " published) # written as if by somebody else
 }
 

@@ -32,7 +32,7 @@ leave_root "${BASH_SOURCE[0]}" "${arguments[@]}"
 choose_build_root
 cd "$source_dir" || exit
 started=$EPOCHSECONDS
-folders=(platform plugin bridge inspector examples bench fuzz)
+folders=(platform plugin bridge runner inspector examples bench fuzz)
 
 # The commit that the change is seen against. Without any earlier commit, as in a shallow clone, it
 # is the last one: only what isn't committed counts.

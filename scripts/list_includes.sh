@@ -10,7 +10,7 @@ set -uo pipefail
 cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}" || exit
 
 # Headers are included by file name alone, so all file names are read before any file is.
-find platform plugin bridge inspector examples -type f \( -name '*.h' -o -name '*.cpp' \) |
+find platform plugin bridge runner inspector examples -type f \( -name '*.h' -o -name '*.cpp' \) |
     LC_ALL=C sort | awk -v OFS='\t' '
 function listIncludes(path,    line, text, name, base) {
     while ((getline text <path) > 0) {

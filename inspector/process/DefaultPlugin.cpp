@@ -1,33 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "DefaultPlugin.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include "OwnFolder.h"
 
-#include <dlfcn.h>
-
-namespace {
-
-const char anchor = 0; // whatever lies in the file will do
-
-QDir ownFolder()
-{
-    Dl_info info = {};
-    if (dladdr(&anchor, &info) == 0 || !info.dli_fname)
-        return {};
-    return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
-}
-
-} // namespace
-
-QString defaultPluginFile()
-{
-    const QDir folder = ownFolder();
-    const QString name = QStringLiteral(CORVANE_PLUGIN_FILE);
-    // In a build tree: beside the library, or seen from a program that has its objects.
-    for (const QString& place : { name, QStringLiteral("../lib/") + name }) {
-        if (QFileInfo::exists(folder.filePath(place)))
-            return QDir::cleanPath(folder.filePath(place));
-    }
-    return folder.filePath(QStringLiteral("corvane/") + name); // in an installed one
-}
+QString defaultPluginFile() { return ownFile(QStringLiteral(CORVANE_PLUGIN_FILE)); }

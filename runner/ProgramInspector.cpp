@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "ProgramInspector.h"
+
+#include "CrvObjects.h"
+#include "CrvServices.h"
+#include "KnGroup.h"
+#include "KnNodePtr.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QWidget>
+
+#include <vector>
+
+ProgramInspector::ProgramInspector()
+{
+    // What the first `show` makes is the inspector's, also the editors that no dock shows as yet.
+    const QWidgetList before = QApplication::topLevelWidgets();
+    m_inspector.show();
+    const QWidgetList after = QApplication::topLevelWidgets();
+    m_own = OwnWidgets(after.begin(), after.end());
+    for (const QWidget* const widget : before)
+        m_own.remove(widget);
+    QCoreApplication::instance()->installEventFilter(this);
+    updateRoots();
+}
+
+ProgramInspector::~ProgramInspector() = default;
+
+bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::ParentChange:
+        if (watched->isWidgetType() || watched->isWindowType())
+            updateRootsSoon();
+        break;
+    case QEvent::MouseButtonPress: {
+        const auto modifiers = static_cast<const QMouseEvent*>(event)->modifiers();
+        if (!watched->isWidgetType() || modifiers != (Qt::ControlModifier | Qt::ShiftModifier)
+            || belongsTo(watched, m_own))
+            break;
+        select(watched);
+        return true;
+    }
+    default:
+        break;
+    }
+    return false;
+}
+
+/// A window that is being shown may still be without its parent.
+void ProgramInspector::updateRootsSoon()
+{
+    if (m_updateWaits)
+        return;
+    m_updateWaits = true;
+    QMetaObject::invokeMethod(this, &ProgramInspector::updateRoots, Qt::QueuedConnection);
+}
+
+void ProgramInspector::updateRoots()
+{
+    m_updateWaits = false;
+    const QObjectList roots = programRoots(m_own);
+    if (roots == m_roots)
+        return;
+    for (QObject* const root : roots) {
+        connect(root, &QObject::destroyed, this, &ProgramInspector::updateRootsSoon,
+            Qt::UniqueConnection);
+    }
+    m_roots = roots;
+    std::vector<KnNodePtr> held; // while the inspector has them not yet
+    std::vector<KnFieldContainer*> nodes;
+    for (QObject* const root : roots) {
+        held.emplace_back(crvObjectNode(root));
+        nodes.push_back(held.back().get());
+    }
+    m_inspector.setRoots(nodes);
+}
+
+/// Looks at all that stands above the object first, so that the tree has its node.
+void ProgramInspector::select(QObject* object)
+{
+    m_inspector.show();
+    updateRoots();
+    QObjectList path;
+    for (QObject* above = object; above; above = above->parent())
+        path.prepend(above);
+    std::vector<KnNodePtr> nodes;
+    for (QObject* const above : std::as_const(path)) {
+        nodes.emplace_back(crvObjectNode(above));
+        static_cast<KnGroup*>(nodes.back().get())->getNumChildren();
+    }
+    CrvServices::getInstance()->selectNode(nodes.back().get());
+}
