@@ -9,6 +9,8 @@ KnFieldContainer* crvObjectNode(QObject* object)
     return object ? ObjectNode::of(object) : nullptr;
 }
 
+void crvHideObject(QObject* object) { ObjectWatch::getInstance().hide(object); }
+
 QObject* crvNodeObject(const KnFieldContainer* node)
 {
     const auto* const objectNode = dynamic_cast<const ObjectNode*>(node);

@@ -20,6 +20,8 @@ class QObject;
 /// The node of an object; the same one as long as anybody holds a reference on it. A fresh one has
 /// a reference count of 0, so take one. Null for null.
 KnFieldContainer* crvObjectNode(QObject* object);
+/// Keeps an object, and all that stands below it, out of the tree, for what a tool has made itself.
+void crvHideObject(QObject* object);
 /// The object behind a node; null if it is dead, or if the node is no object's.
 QObject* crvNodeObject(const KnFieldContainer* node);
 /// The node of the object that a property points to; null if it points to none, or if the field is

@@ -115,7 +115,8 @@ void ObjectNode::followObject()
 
 void ObjectNode::followChildren()
 {
-    const QObjectList objects = m_object && !isForeign() ? m_object->children() : QObjectList();
+    QObjectList objects = m_object && !isForeign() ? m_object->children() : QObjectList();
+    objects.removeIf([](QObject* object) { return ObjectWatch::getInstance().isHidden(object); });
     const int newCount = static_cast<int>(objects.size());
     const int oldCount = getNumMadeChildren();
     const auto stands = [&](int child, int object) {

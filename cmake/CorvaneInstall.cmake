@@ -27,7 +27,7 @@ install(DIRECTORY platform/kestrix_base platform/kestrix platform/kestrix_gl pla
 install(FILES inspector/CrvInspector.h
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/corvane/inspector")
 
-install(FILES bridge/CrvObjects.h
+install(FILES bridge/CrvObjects.h bridge/CrvObjectDetails.h
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/corvane/bridge")
 
 write_basic_package_version_file("${CMAKE_BINARY_DIR}/corvaneConfigVersion.cmake"

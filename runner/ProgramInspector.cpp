@@ -15,13 +15,20 @@
 ProgramInspector::ProgramInspector()
 {
     // What the first `show` makes is the inspector's, also the editors that no dock shows as yet.
+    QObject* const application = QCoreApplication::instance();
     const QWidgetList before = QApplication::topLevelWidgets();
+    const QObjectList children = application->children();
     m_inspector.show();
+    for (QObject* const child : application->children()) {
+        // Qt keeps the gestures of all windows together, those of the inspector among them.
+        if (!children.contains(child) || child->inherits("QGestureManager"))
+            crvHideObject(child);
+    }
     const QWidgetList after = QApplication::topLevelWidgets();
     m_own = OwnWidgets(after.begin(), after.end());
     for (const QWidget* const widget : before)
         m_own.remove(widget);
-    QCoreApplication::instance()->installEventFilter(this);
+    application->installEventFilter(this);
     updateRoots();
 }
 

@@ -97,6 +97,14 @@ void ObjectWatch::letGo(QObject* object)
         object->removeEventFilter(this);
 }
 
+void ObjectWatch::hide(QObject* object)
+{
+    m_hidden.insert(object);
+    connect(object, &QObject::destroyed, this, [this, object] { m_hidden.remove(object); });
+    if (object->parent())
+        objectChanged(object->parent());
+}
+
 bool ObjectWatch::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {

@@ -4,6 +4,7 @@
 #include <QBasicTimer>
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 #include <unordered_set>
 #include <utility>
@@ -47,6 +48,10 @@ public:
     /// Leaves a living object as it was before anybody followed it.
     void letGo(QObject* object);
 
+    /// Keeps an object out of all trees as long as it lives.
+    void hide(QObject* object);
+    bool isHidden(QObject* object) const { return m_hidden.contains(object); }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -68,6 +73,7 @@ private Q_SLOTS:
 
 private:
     QHash<QObject*, ObjectFollower*> m_followers; // not owned; they leave when they go
+    QSet<QObject*> m_hidden; // alive
     QMultiHash<Signal, PropertyField*> m_announced; // watched fields whose changes a signal tells
     QHash<PropertyField*, Signal> m_signals; // of these fields
     std::vector<PropertyField*> m_compared; // the other watched fields

@@ -43,7 +43,7 @@ public:
         m_speed = qBound(0, speed, 100);
         Q_EMIT speedChanged();
     }
-    void resetSpeed() { setSpeed(10); }
+    Q_INVOKABLE void resetSpeed() { setSpeed(10); }
     double heat() const { return 2.0 * m_speed; }
     Parts parts() const { return m_parts; }
     void setParts(Parts parts) { m_parts = parts; }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "CrvObjectDetails.h"
 #include "CrvObjects.h"
 #include "CrvStrings.h"
 #include "KnFieldSensor.h"
@@ -318,6 +319,60 @@ private Q_SLOTS:
             QVERIFY2(treeText(m_node.get()) == treeText(m_machine.get()),
                 qPrintable(u"seed %1, round %2"_s.arg(seed).arg(round)));
         }
+    }
+
+    void theClassTellsOfProperties_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QString>("note");
+        QTest::addRow("reset") << QByteArray("speed")
+                               << u"int Machine::speed\ncan be written and reset\n"
+                                  "changes are announced by speedChanged()"_s;
+        QTest::addRow("read-only") << QByteArray("heat")
+                                   << u"double Machine::heat\nread-only\n"
+                                      "changes are announced by speedChanged()"_s;
+        QTest::addRow("silent") << QByteArray("polled")
+                                << u"int Machine::polled\ncan be written\n"
+                                   "nothing announces changes"_s;
+        QTest::addRow("of a base class") << QByteArray("objectName")
+                                         << u"QString QObject::objectName\ncan be written\n"
+                                            "changes are announced by objectNameChanged(QString)"_s;
+        QTest::addRow("dynamic") << QByteArray("weight") << u"dynamic property"_s;
+    }
+    void theClassTellsOfProperties()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QString, note);
+        m_machine->setProperty("weight", 1);
+        runSensors();
+        KnField* const field = m_node->getField(name.constData());
+        QCOMPARE(crvPropertyNote(field), note);
+        m_machine.reset();
+        QCOMPARE(crvPropertyNote(field), QString());
+    }
+
+    void methodsWithoutParametersCanBeCalled()
+    {
+        m_machine->setSpeed(50);
+        QVERIFY(crvMethods(m_node.get()).contains(u"resetSpeed()"_s));
+        QVERIFY(!crvMethods(m_node.get()).contains(u"speedChanged()"_s));
+        QVERIFY(crvCallMethod(m_node.get(), u"resetSpeed()"_s));
+        QCOMPARE(m_machine->m_speed, 10);
+        QVERIFY(!crvCallMethod(m_node.get(), u"speedChanged()"_s));
+        m_machine.reset();
+        QVERIFY(!crvCallMethod(m_node.get(), u"resetSpeed()"_s));
+        QVERIFY(crvMethods(m_node.get()).isEmpty());
+    }
+
+    void whatIsHiddenNeverShows()
+    {
+        auto* const tool = new QObject(m_machine.get());
+        auto* const child = new QObject(m_machine.get());
+        child->setObjectName(u"child"_s);
+        QCOMPARE(treeText(m_node.get()), u"mill( child)"_s);
+        crvHideObject(tool);
+        runSensors();
+        QCOMPARE(treeText(m_node.get()), u"mill(child)"_s);
     }
 
     void anObjectOfAnotherThreadIsntRead()

@@ -24,11 +24,15 @@ QTreeView* tree(const char* name)
     return nullptr;
 }
 
-QStringList rows(const QTreeView* view)
+/// Of the top of the tree, or below one row of it.
+QStringList rows(const QTreeView* view, int top = -1)
 {
     QStringList texts;
-    for (int row = 0; view && row < view->model()->rowCount(); ++row)
-        texts += view->model()->index(row, 0).data().toString();
+    if (!view)
+        return texts;
+    const QModelIndex parent = view->model()->index(top, 0);
+    for (int row = 0; row < view->model()->rowCount(parent); ++row)
+        texts += view->model()->index(row, 0, parent).data().toString();
     return texts;
 }
 
@@ -49,8 +53,8 @@ int runWidgets(int argc, char** argv)
     window.show();
     if (!QTest::qWaitFor([] { return rows(tree("sceneTree")).contains("window"); }, 20000))
         return 99;
-    QStringList shown = rows(tree("sceneTree"));
-    print("roots " + shown.join(' '));
+    print("roots " + rows(tree("sceneTree")).join(' '));
+    print(QString("%1 gestures").arg(rows(tree("sceneTree"), 0).count("QGestureManager")));
     QTest::mouseClick(&button, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
     const auto selected = [] { return tree("sceneTree")->currentIndex().data().toString(); };
     const bool isSelected = QTest::qWaitFor([&] { return selected() == "button"; }, 20000);
