@@ -56,6 +56,12 @@ bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
+void ProgramInspector::rootDestroyed()
+{
+    m_roots.clear(); // another window may come to live there
+    updateRootsSoon();
+}
+
 /// A window that is being shown may still be without its parent.
 void ProgramInspector::updateRootsSoon()
 {
@@ -72,7 +78,7 @@ void ProgramInspector::updateRoots()
     if (roots == m_roots)
         return;
     for (QObject* const root : roots) {
-        connect(root, &QObject::destroyed, this, &ProgramInspector::updateRootsSoon,
+        connect(root, &QObject::destroyed, this, &ProgramInspector::rootDestroyed,
             Qt::UniqueConnection);
     }
     m_roots = roots;

@@ -19,12 +19,13 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void rootDestroyed();
     void updateRootsSoon();
     void updateRoots();
     void select(QObject* object);
 
     CrvInspector m_inspector;
     OwnWidgets m_own;
-    QObjectList m_roots; // as they were last; some may be dead
+    QObjectList m_roots; // what is shown; empty when that has to change
     bool m_updateWaits = false;
 };

@@ -8,10 +8,11 @@
 
 /// The enumeration of that type as its class declares it; invalid if none is known.
 QMetaEnum enumerationOf(QMetaType type);
-/// Whether values of the type are numbers of an `int`'s size.
-bool isIntSized(QMetaType type);
+/// Whether the numbers of the type fit into a field, which holds an `int`.
+bool fitsChoice(QMetaType type);
 
-/// The number of a value of an enumeration or of flags, and a value from a number.
+/// The number of a value of an enumeration or of flags, and a value from a number, of which a
+/// small type takes the lower bits.
 int choiceNumber(const QVariant& value);
 QVariant choiceValue(QMetaType type, int number);
 /// Gives the names of an enumeration to a field.

@@ -53,7 +53,7 @@ std::unique_ptr<KnField> makeChoice(const PropertyPlace& place, QMetaType type)
     const QMetaProperty declared = place.property();
     const QMetaEnum enumeration
         = declared.isEnumType() ? declared.enumerator() : enumerationOf(type);
-    if (!enumeration.isValid() || !isIntSized(type))
+    if (!enumeration.isValid() || !fitsChoice(type))
         return nullptr;
     if (enumeration.isFlag())
         return std::make_unique<ChoicePropertyField<KnSFBitMask>>(place, type, enumeration);

@@ -68,6 +68,12 @@ QImage picture(QImage::Format format)
 
 class TestObjectValues : public QObject {
     Q_OBJECT
+public:
+    enum class Small : quint8 { Low, High = 200 };
+    Q_ENUM(Small)
+    enum class Signed : qint16 { None, Below = -300 };
+    Q_ENUM(Signed)
+
 private Q_SLOTS:
     void eachTypeIsShownAndWrittenBack_data()
     {
@@ -127,6 +133,8 @@ private Q_SLOTS:
         row("alignment", QVariant::fromValue(Qt::AlignRight | Qt::AlignTop), "SFBitMask",
             u"(AlignRight | AlignTop)"_s);
         row("cursor shape", QVariant::fromValue(Qt::WaitCursor), "SFEnum", u"WaitCursor"_s);
+        row("small enum", QVariant::fromValue(Small::High), "SFEnum", u"High"_s);
+        row("smaller enum", QVariant::fromValue(Signed::Below), "SFEnum", u"Below"_s);
         row("strings", QStringList({ u"a"_s, u"b c"_s }), "MFString", u"[ \"a\", \"b c\" ]"_s);
         row("ints", QVariant::fromValue(QList<int>({ 1, 2 })), "MFInt32", u"[ 1, 2 ]"_s);
         row("colors", QVariant::fromValue(QList<QColor>({ Qt::red, Qt::blue })), "MFColorRGBA",

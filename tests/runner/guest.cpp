@@ -61,12 +61,14 @@ int runWidgets(int argc, char** argv)
     print(QString("selected %1, %2 clicks").arg(isSelected).arg(clicks));
     QTest::mouseClick(&button, Qt::LeftButton);
     print(QString("%1 clicks").arg(clicks));
-    QWidget second;
-    second.setObjectName("second");
-    second.show();
-    print(QString("second %1")
-              .arg(QTest::qWaitFor(
-                  [] { return rows(tree("sceneTree")).contains("second"); }, 20000)));
+    const auto isShown = [] { return rows(tree("sceneTree")).contains("second"); };
+    {
+        QWidget second;
+        second.setObjectName("second");
+        second.show();
+        print(QString("second %1").arg(QTest::qWaitFor(isShown, 20000)));
+    }
+    print(QString("gone %1").arg(QTest::qWaitFor([&] { return !isShown(); }, 20000)));
     print("preload " + qEnvironmentVariable("LD_PRELOAD"));
     return 7;
 }

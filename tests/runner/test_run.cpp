@@ -43,7 +43,7 @@ private Q_SLOTS:
     {
         const Result result = run({ guest, u"widgets"_s });
         QCOMPARE(result.out,
-            u"roots guest window\n0 gestures\nselected 1, 0 clicks\n1 clicks\nsecond 1\npreload \n"_s);
+            u"roots guest window\n0 gestures\nselected 1, 0 clicks\n1 clicks\nsecond 1\ngone 1\npreload \n"_s);
         QCOMPARE(result.status, 7);
     }
 
