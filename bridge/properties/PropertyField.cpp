@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "PropertyField.h"
 
+#include "KnFieldRecorder.h"
 #include "KnFieldText.h"
 #include "KnNodePtr.h"
 #include "ObjectWatch.h"
@@ -18,10 +19,13 @@ PropertyField::~PropertyField() { ObjectWatch::getInstance().unwatch(this); }
 
 void PropertyField::refresh()
 {
+    if (m_showing)
+        return; // whoever hears of the write below may ask for the value
     const std::optional<QVariant> value = m_place.read();
     if (!value || shows(*value))
         return;
     const QScopedValueRollback showing(m_showing, true);
+    const KnFieldRecorder::Pause unrecorded; // the program has written, not a person
     show(*value);
 }
 
