@@ -8,6 +8,17 @@ set(libraries ubn_kestrix_base ubn_kestrix ubn_kestrix_gl ubn_corvane_extender c
     corvane_objects)
 set_target_properties(${libraries} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+# What describes their binary interface, for scripts/check_abi.sh; in the release build, since others
+# have the compiler's settings from their preset.
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+    foreach(library ubn_kestrix_base ubn_kestrix ubn_kestrix_gl ubn_corvane_extender corvane_objects)
+        target_compile_options(${library} PRIVATE -g)
+    endforeach()
+    # Nothing else of the inspector can be seen. Without what was precompiled without -g.
+    set_source_files_properties("${PROJECT_SOURCE_DIR}/inspector/CrvInspector.cpp"
+        TARGET_DIRECTORY corvane_inspector_objects
+        PROPERTIES COMPILE_OPTIONS -g SKIP_PRECOMPILE_HEADERS ON)
+endif()
 install(TARGETS ${libraries} EXPORT corvaneTargets
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(EXPORT corvaneTargets NAMESPACE corvane::

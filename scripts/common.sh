@@ -10,6 +10,7 @@ test_packages=(xvfb xauth openbox locales clang-format binutils)
 lint_packages=(clang-tidy)
 fuzz_packages=(clang libclang-rt-dev)
 static_packages=(cppcheck clazy)
+abi_packages=(abigail-tools)
 
 fail() {
     echo "$(basename "$0"): $*" >&2
