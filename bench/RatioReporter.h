@@ -4,11 +4,20 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
+#include <initializer_list>
 #include <map>
 #include <string>
 #include <vector>
 
-/// Prints as usual and keeps the medians, or the only run, for the ratios.
+/// A line that says how many times the rival's time ours is.
+struct Ratio {
+    const char* what;
+    const char* ours; // a benchmark
+    const char* rival; // another one
+};
+
+/// Prints as usual and keeps the medians, or the only run, for the ratios; of a benchmark that runs
+/// at several sizes, those of the last.
 class RatioReporter : public benchmark::ConsoleReporter {
 public:
     RatioReporter()
@@ -25,12 +34,26 @@ public:
         }
     }
 
-    void printRatio(const char* what, const char* ours, const char* rival)
+    void printRatio(const Ratio& ratio)
     {
-        if (m_times.contains(ours) && m_times.contains(rival))
-            std::printf("%s: %.2f\n", what, m_times[ours] / m_times[rival]);
+        if (m_times.contains(ratio.ours) && m_times.contains(ratio.rival))
+            std::printf("%s: %.2f\n", ratio.what, m_times[ratio.ours] / m_times[ratio.rival]);
     }
 
 private:
     std::map<std::string, double> m_times;
 };
+
+/// What `main` does: runs the benchmarks that the command line names, or all, and prints the ratios
+/// of those that ran. Gives the exit status.
+inline int runBenchmarks(int argc, char** argv, std::initializer_list<Ratio> ratios)
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    for (const Ratio& ratio : ratios)
+        reporter.printRatio(ratio);
+    return 0;
+}

@@ -3,41 +3,36 @@
 // What an array of up to a million rows costs in its editor, against three tables of Qt's own in
 // the same run: one that is only told the row count, which is the least that any table widget can
 // cost, one over a hand-made model, and one that is filled with items.
+//
+// Usage: bench_arrays [repeats]
 
 #include "ArrayContenders.h"
+#include "Timing.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTableView>
 
-#include <algorithm>
 #include <cstdio>
-#include <functional>
-
-#include <malloc.h>
 
 namespace {
 
 constexpr int rowCounts[] = { 1'000, 100'000, 1'000'000 };
-constexpr int repeats = 9;
+int repeats = 9;
 
 /// Median of the times that `run` takes up to the last pixel, in milliseconds; `prepare` isn't
 /// timed.
-double median(const ArrayContender& table, const std::function<void()>& prepare,
-    const std::function<void()>& run)
+double medianOf(const ArrayContender& table, const Work& prepare, const Work& run)
 {
     std::vector<double> times;
     for (int i = 0; i < repeats; ++i) {
         prepare();
         table.paint();
-        QElapsedTimer timer;
-        timer.start();
-        run();
-        table.paint();
-        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+        times.push_back(milliseconds([&] {
+            run();
+            table.paint();
+        }));
     }
-    std::nth_element(times.begin(), times.begin() + repeats / 2, times.end());
-    return times[repeats / 2];
+    return median(std::move(times));
 }
 
 void show(ArrayContender& table, int rows)
@@ -58,26 +53,26 @@ constexpr Measurement measurements[] = {
                 show(table, 3);
                 table.prepare(rows);
             };
-            return median(table, prepare, [&] { table.select(); });
+            return medianOf(table, prepare, [&] { table.select(); });
         } },
     { "select, from as many rows",
         [](ArrayContender& table, int rows) {
-            return median(
+            return medianOf(
                 table, [&] { table.prepare(rows); }, [&] { table.select(); });
         } },
     { "refresh after a change",
         [](ArrayContender& table, int) {
-            return median(
+            return medianOf(
                 table, [] {}, [&] { table.refresh(); });
         } },
     { "jump",
         [](ArrayContender& table, int rows) {
-            return median(
+            return medianOf(
                 table, [&] { table.jump(0); }, [&] { table.jump(rows / 2); });
         } },
     { "edit one cell",
         [](ArrayContender& table, int rows) {
-            return median(
+            return medianOf(
                 table, [] {}, [&] { table.edit(rows / 2); });
         } },
     { "edit one cell and undo",
@@ -87,27 +82,27 @@ constexpr Measurement measurements[] = {
                 table.paint();
                 table.undo();
             };
-            return median(
+            return medianOf(
                 table, [] {}, editAndUndo);
         } },
     { "add in front",
         [](ArrayContender& table, int) {
-            return median(
+            return medianOf(
                 table, [&] { table.jump(0); }, [&] { table.add(); });
         } },
     { "delete in front",
         [](ArrayContender& table, int) {
-            return median(
+            return medianOf(
                 table, [&] { table.jump(0); }, [&] { table.remove(); });
         } },
     { "add at the end",
         [](ArrayContender& table, int rows) {
-            return median(
+            return medianOf(
                 table, [&] { table.jump(rows - 1); }, [&] { table.add(); });
         } },
     { "delete at the end",
         [](ArrayContender& table, int rows) {
-            return median(
+            return medianOf(
                 table, [&] { table.jump(rows - 1); }, [&] { table.remove(); });
         } },
 };
@@ -134,12 +129,6 @@ void printTimes(const Contenders& tables, int rows)
     }
 }
 
-double heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
-}
-
 void printMemory(const Contenders& tables, int rows)
 {
     std::printf("\nbytes a row, beyond the values, at %d rows\n", rows);
@@ -160,6 +149,7 @@ void printMemory(const Contenders& tables, int rows)
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
+    repeats = numberArgument(argc, argv, 1, repeats);
     std::printf("Qt %s\n", qVersion());
     for (const auto make : { &makeContenders, &makeEditors }) {
         {

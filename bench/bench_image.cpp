@@ -4,34 +4,20 @@
 //
 // Usage: bench_image [turns]
 #include "ImageConversion.h"
+#include "Timing.h"
 
-#include <QElapsedTimer>
+#include <QImage>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <vector>
 
 namespace {
 
-/// Milliseconds.
-template <class Work>
-double measure(Work work)
+void require(const QImage& picture)
 {
-    QElapsedTimer timer;
-    timer.start();
-    const QImage result = work();
-    const double time = double(timer.nsecsElapsed()) / 1e6;
-    if (result.isNull())
+    if (picture.isNull())
         std::abort();
-    return time;
-}
-
-double median(std::vector<double>& times)
-{
-    const auto middle = times.begin() + std::ptrdiff_t(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
 }
 
 void compare(int size, int components, int turns)
@@ -43,24 +29,18 @@ void compare(int size, int components, int turns)
     const QImage::Format format = components == 3 ? QImage::Format_RGB888 : QImage::Format_ARGB32;
     const QImage picture(bytes.data(), size, size, size * components, format);
 
-    std::vector<double> ours;
-    std::vector<double> bare;
-    for (int turn = 0; turn < turns; ++turn) {
-        ours.push_back(
-            measure([&] { return imageFromPixels(bytes.data(), size, size, components); }));
-        bare.push_back(measure([&] { return picture.rgbSwapped().mirrored(); }));
-    }
-    const double our = median(ours);
-    const double their = median(bare);
+    const TimePair times = compareInTurns(
+        turns, [&] { require(imageFromPixels(bytes.data(), size, size, components)); },
+        [&] { require(picture.rgbSwapped().mirrored()); });
     std::printf("%5d x %-5d %d components: %8.3f ms, bare %8.3f ms, ratio %.2f\n", size, size,
-        components, our, their, our / their);
+        components, times.ours, times.rival, times.ours / times.rival);
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const int turns = argc > 1 ? std::max(1, std::atoi(argv[1])) : 25;
+    const int turns = numberArgument(argc, argv, 1, 25);
     for (const int components : { 3, 4 }) {
         for (const int size : { 256, 1024, 4096 })
             compare(size, components, turns);

@@ -9,33 +9,21 @@
 #include "KnFieldSensor.h"
 #include "KnSFields.h"
 #include "LiveHost.h"
+#include "Timing.h"
 
 #include <QApplication>
 #include <QTreeView>
 #include <QWidget>
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <string>
 
 namespace {
 
 constexpr int pollMilliseconds = 12;
-
-/// Of the process, in KiB.
-long residentMemory()
-{
-    std::ifstream file("/proc/self/statm");
-    long size = 0;
-    long resident = 0;
-    file >> size >> resident;
-    return resident * (sysconf(_SC_PAGESIZE) / 1024);
-}
 
 /// Microseconds a frame of the host without an inspector.
 double bareFrame(const std::string& program, int frames)

@@ -113,10 +113,7 @@ int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     KnDatabase::init();
-    benchmark::Initialize(&argc, argv);
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatio("opening an object to reading it", "openObject", "readObject");
-    reporter.printRatio("opening a tree to copying its names", "openTree", "copyTree");
-    return 0;
+    return runBenchmarks(argc, argv,
+        { { "opening an object to reading it", "openObject", "readObject" },
+            { "opening a tree to copying its names", "openTree", "copyTree" } });
 }

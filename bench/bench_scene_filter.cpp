@@ -9,9 +9,9 @@
 #include "KnGroup.h"
 #include "KnMaterial.h"
 #include "ScenePanel.h"
+#include "Timing.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
@@ -20,7 +20,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -51,25 +50,19 @@ double typeAndTakeAway(QWidget& window, QLineEdit& line, const QString& word)
 {
     double longest = 0;
     const auto press = [&](int key, const QString& text) {
-        QElapsedTimer timer;
-        timer.start();
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
-        QCoreApplication::sendEvent(&line, &event);
-        QCoreApplication::processEvents();
-        window.grab();
-        longest = std::max(longest, static_cast<double>(timer.nsecsElapsed()) / 1e6);
+        const double time = milliseconds([&] {
+            QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+            QCoreApplication::sendEvent(&line, &event);
+            QCoreApplication::processEvents();
+            window.grab();
+        });
+        longest = std::max(longest, time);
     };
     for (const QChar character : word)
         press(Qt::Key_unknown, QString(character));
     for (qsizetype i = 0; i < word.size(); ++i)
         press(Qt::Key_Backspace, QString());
     return longest;
-}
-
-double median(std::vector<double> times)
-{
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
 }
 
 void compare(int groups, const QString& word, int turns)
@@ -121,7 +114,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    const int turns = argc > 1 ? std::max(1, std::atoi(argv[1])) : 5;
+    const int turns = numberArgument(argc, argv, 1, 5);
     std::printf("Qt %s, %d nodes\n", qVersion(), nodeCount);
     for (const int groups : { 1, 100 }) {
         for (const char* const word : { "material 99", "transparency=0", "type:mat" })

@@ -11,20 +11,16 @@
 #include "KnSensorQueue.h"
 #include "PaneTree.h"
 #include "SceneFilterModel.h"
+#include "Timing.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <vector>
-
-#include <malloc.h>
 
 namespace {
 
@@ -36,12 +32,6 @@ KnFieldContainer* newNode(int number)
     auto* const node = new KnMaterial;
     node->setName(KbName(("Material " + std::to_string(number)).c_str()));
     return node;
-}
-
-double heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
 /// A tree in a window, all of it open.
@@ -130,37 +120,9 @@ private:
     QStandardItem* m_group = nullptr; // the model's
 };
 
-/// Milliseconds.
-double measure(const std::function<void()>& work)
+void compare(const char* name, int turns, const Work& ours, const Work& rival)
 {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-double median(std::vector<double> times)
-{
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
-}
-
-/// Runs the work of both in turns.
-void compare(const char* name, int turns, const std::function<void()>& our,
-    const std::function<void()>& their)
-{
-    std::vector<double> ours;
-    std::vector<double> theirs;
-    for (int turn = 0; turn < turns; ++turn) {
-        ours.push_back(measure(our));
-        theirs.push_back(measure(their));
-    }
-    const double ourTime = median(ours);
-    const double theirTime = median(theirs);
-    std::printf("  %-34s %10.3f ms, rival %10.3f ms, ratio %.2f\n", name, ourTime, theirTime,
-        ourTime / theirTime);
-    std::fflush(stdout);
+    printTimes(name, compareInTurns(turns, ours, rival));
 }
 
 KnNodePtr makeScene(int rows)
@@ -179,7 +141,7 @@ void compareChanges(int rows, int turns)
     const double ourBytes = ours.show();
     ItemTree theirs(rows);
     const double theirBytes = theirs.show();
-    std::printf("%d rows\n", rows);
+    printSize(rows, "rows");
     std::printf("  %-34s %10.1f B,  rival %10.1f B,  ratio %.2f\n", "memory of a shown node",
         ourBytes / rows, theirBytes / rows, ourBytes / theirBytes);
 
@@ -253,7 +215,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    const int turns = argc > 1 ? std::max(1, std::atoi(argv[1])) : 15;
+    const int turns = numberArgument(argc, argv, 1, 15);
     std::printf("Qt %s\n", qVersion());
     for (const int rows : rowCounts) {
         compareChanges(rows, turns);

@@ -11,6 +11,7 @@
 #include "OrbitCamera.h"
 #include "SceneRenderer.h"
 #include "SceneTraversal.h"
+#include "Timing.h"
 
 #include <QPainter>
 
@@ -108,18 +109,11 @@ double measure(Work work)
     return double(std::clock() - start) * 1e3 / CLOCKS_PER_SEC;
 }
 
-double median(std::vector<double>& times)
-{
-    const auto middle = times.begin() + std::ptrdiff_t(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const int turns = argc > 1 ? std::max(1, std::atoi(argv[1])) : 101;
+    const int turns = numberArgument(argc, argv, 1, 101);
     const KnNodePtr root = makeScene();
     QImage background(640, 480, QImage::Format_RGB32);
     background.fill(Qt::white);

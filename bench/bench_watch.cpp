@@ -187,15 +187,10 @@ BENCHMARK(paintPolylines)->Unit(benchmark::kMillisecond);
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatio("Storing a sample, times a push into a vector", "seriesAdd", "barePush");
-    reporter.printRatio("Writing a watched field and taking the sample, times the same with a push",
-        "watchedWrite", "pushedWrite");
-    reporter.printRatio("Painting 20 curves with grid and labels, times bare polylines",
-        "paintCurves", "paintPolylines");
-    return 0;
+    return runBenchmarks(argc, argv,
+        { { "Storing a sample, times a push into a vector", "seriesAdd", "barePush" },
+            { "Writing a watched field and taking the sample, times the same with a push",
+                "watchedWrite", "pushedWrite" },
+            { "Painting 20 curves with grid and labels, times bare polylines", "paintCurves",
+                "paintPolylines" } });
 }

@@ -14,9 +14,11 @@ set -uo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 arguments=("$@")
-declare -A quick=([bench_arrays]="" [bench_console]="2000 20000" [bench_image]="1"
-    [bench_live]="30 1" [bench_scene_tree]="1" [bench_view]="3"
-    [bench_field_text]="--benchmark_min_time=0.01" [bench_watch]="--benchmark_min_time=0.01")
+declare -A quick=([bench_arrays]="1" [bench_console]="2000 20000" [bench_image]="1"
+    [bench_live]="30 1" [bench_load]="5" [bench_scene_files]="1" [bench_scene_filter]="1"
+    [bench_scene_tree]="1" [bench_selection]="1" [bench_start]="1" [bench_view]="3"
+    [bench_field_text]="--benchmark_min_time=0.01" [bench_objects]="--benchmark_min_time=0.01"
+    [bench_undo]="--benchmark_min_time=0.01" [bench_watch]="--benchmark_min_time=0.01")
 is_quick=
 instructions=
 write=
@@ -44,8 +46,7 @@ results=$build_root/benchmarks
 bin=$build_root/release/bin
 doc=$source_dir/docs/benchmarks.md
 mkdir -p "$results"
-# The rival of bench_live is a program of its own.
-build release "${benches[@]}" bench_live_bare >"$results/build.log" 2>&1 ||
+build release "${benches[@]}" corvane >"$results/build.log" 2>&1 ||
     { tail -n 20 "$results/build.log"; fail "could not build"; }
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
 load=$(cut -d ' ' -f 1 /proc/loadavg)
@@ -80,10 +81,17 @@ growth() {
             ++count[label]
             sx[label] += x; sy[label] += y; sxx[label] += x * x; sxy[label] += x * y
         }
-        # "1000 rows" is a heading; "256 x 256  3 components: ..." tells its size itself.
-        match($0, /^[0-9]+ rows/) {
-            if ($1 + 0 <= rows) ++part # another table begins with the smallest size
+        # "1000 rows" is a heading; "256 x 256  3 components: ..." and "name/1000" tell their sizes
+        # themselves.
+        match($0, /^[0-9]+ [a-z]+/) {
+            if ($2 == unit && $1 + 0 <= rows) ++part # another table begins with the smallest size
             rows = $1 + 0
+            unit = $2
+            next
+        }
+        /^[A-Za-z]+\/[0-9]+ +[0-9.]+ [num]s/ {
+            split($1, side, "/")
+            note(side[1], side[2], $2)
             next
         }
         / x [0-9]+ .*: +[0-9.]+ ms/ {
