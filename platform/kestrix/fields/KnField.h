@@ -35,6 +35,12 @@ public:
     bool isReadOnly() const { return m_readOnly; }
     void setReadOnly(bool readOnly);
 
+    /// Whether the field knows its default by itself. That of any other field is what a fresh node
+    /// of its type holds.
+    virtual bool hasOwnDefault() const { return false; }
+    /// Takes its own default. False if it has none, or, after a KnReadError, if it can't.
+    virtual bool resetToDefault() { return false; }
+
     /// Null for a field that stands alone.
     KnFieldContainer* getContainer() const;
     /// The container as its fields know it; null for a field that stands alone.

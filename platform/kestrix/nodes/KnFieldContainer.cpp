@@ -23,6 +23,7 @@ void KnFieldContainer::setName(const KbName& name)
     if (name == m_name)
         return;
     m_name = name;
+    renamed();
     KnNameSensor::report(*this);
 }
 

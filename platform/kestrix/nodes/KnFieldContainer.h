@@ -29,6 +29,9 @@ protected:
     KnFieldContainer() = default;
     ~KnFieldContainer() override;
 
+    /// The node has got another name a moment ago. Called at once, before any sensor hears of it.
+    virtual void renamed() { }
+
     /// Makes `field`, a member of this node, one of its fields. `data` is the class's own table;
     /// the first instance of a class fills it, later ones only adopt the field.
     void addField(

@@ -29,6 +29,10 @@ class KnGroup : public KnNode {
     /// -1 if it isn't a child.
     int findChild(const KnFieldContainer* child) const;
 
+    /// Whether the children are what the group stands for, so that a person can't add, move or
+    /// delete any.
+    virtual bool hasFixedChildren() const { return false; }
+
     /// Appends a child. False, with a KnDebugError and no change, for null and for a child that is
     /// this group or has it among its descendants.
     bool addChild(KnFieldContainer* child);

@@ -2,6 +2,7 @@
 #include "CrvFieldEditors.h"
 
 #include "AccessibleNames.h"
+#include "FieldActions.h"
 #include "KnField.h"
 #include "KnFieldSensor.h"
 
@@ -39,7 +40,19 @@ void CrvFieldEditors::activate()
         return;
     attachField(field);
     updateFromField();
+    limitInputs();
     show();
+}
+
+void CrvFieldEditors::limitInputs()
+{
+    const KnField& field = *m_fieldSensor->getAttachedField();
+    m_offInputs.turnOn();
+    m_isReadOnly = field.isReadOnly();
+    if (m_isReadOnly)
+        m_offInputs.turnOffAll(m_frame);
+    else if (!hasDefault(field))
+        m_offInputs.turnOff(m_frame->findChild<QWidget*>(QStringLiteral("m_defaultButton")));
 }
 
 void CrvFieldEditors::deactivate()
@@ -90,6 +103,11 @@ bool CrvFieldEditors::shows(const KnField* field) const
         && (field == m_leftField || (isAttached() && field == m_fieldSensor->getAttachedField()));
 }
 
+bool CrvFieldEditors::mayWrite(const KnField* field) const
+{
+    return shows(field) && !field->isReadOnly();
+}
+
 bool CrvFieldEditors::isAttached() const
 {
     return m_fieldSensor && m_fieldSensor->getAttachedField();
@@ -97,5 +115,9 @@ bool CrvFieldEditors::isAttached() const
 
 void CrvFieldEditors::fieldChanged(void* data, KnSensor*)
 {
-    static_cast<CrvFieldEditors*>(data)->updateFromField();
+    auto* const editor = static_cast<CrvFieldEditors*>(data);
+    editor->updateFromField();
+    const KnField* const field = editor->m_fieldSensor->getAttachedField();
+    if (field && field->isReadOnly() != editor->m_isReadOnly)
+        editor->limitInputs();
 }

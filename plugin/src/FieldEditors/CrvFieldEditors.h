@@ -3,6 +3,7 @@
 
 #include "CrvEditor.h"
 #include "FieldRange.h"
+#include "OffInputs.h"
 
 #include <QString>
 
@@ -52,6 +53,10 @@ public:
     /// popup or dialog still reports after that must not reach the field, which may be gone.
     bool shows(const KnField* field) const;
 
+    /// Whether a person's edit may be written to this field: it is shown, and not read-only. What
+    /// the inputs show while it is read-only is only to be read.
+    bool mayWrite(const KnField* field) const;
+
     /// Whether a field is attached that still exists.
     bool isAttached() const;
 
@@ -69,6 +74,11 @@ protected:
 private:
     static void fieldChanged(void* data, KnSensor* sensor);
 
+    /// Turns off what the attached field doesn't allow, and the rest on again.
+    void limitInputs();
+
+    OffInputs m_offInputs;
+    bool m_isReadOnly = false; // as the inputs were last limited
     KnFieldSensor* m_fieldSensor = nullptr; // owned, from load to unload
     const KnField* m_leftField = nullptr; // not owned; set only while deactivate() hides the frame
     QFrame* m_frame; // owned; has no parent but the dock that shows it

@@ -4,6 +4,7 @@
 #include "AccessibleNames.h"
 #include "ComponentValidator.h"
 #include "LineEdits.h"
+#include "OffInputs.h"
 #include "PanelParts.h"
 #include "Pixmaps.h"
 #include "PopupGrid.h"
@@ -32,6 +33,7 @@ void WfPopupWidget::load()
 
     m_editButton = makeFocusableIconButton(getFrame(), "m_editButton", m_editPixmap);
     setInputLabel(m_editButton, QStringLiteral("edit"));
+    setLooksOnly(m_editButton);
     m_buttonLayout->insertWidget(0, m_editButton, 0);
     connect(m_editButton, &QPushButton::clicked, this, &WfPopupWidget::managePopFramePos);
     m_lineEdit->setEnabled(false);

@@ -5,16 +5,27 @@
 #include "CrvFieldIgnoredCommand.h"
 #include "CrvFieldSetDefaultCommand.h"
 #include "CrvServices.h"
+#include "FieldEdit.h"
 #include "KnField.h"
 #include "KnFieldContainer.h"
 #include "KnNodePtr.h"
 
 #include <memory>
 
+bool hasDefault(const KnField& field)
+{
+    const KnFieldContainer* const container = field.getContainer();
+    return field.hasOwnDefault() || !container || container->getObjectType().canCreateInstance();
+}
+
 void setFieldToDefault(const CrvFieldEditors& editor, KnField* field)
 {
-    if (!editor.shows(field))
+    if (!editor.mayWrite(field))
         return;
+    if (field->hasOwnDefault()) {
+        executeFieldEdit(editor, field, [field] { field->resetToDefault(); });
+        return;
+    }
     KnFieldContainer* const container = field->getContainer();
     if (!container)
         return;
@@ -37,7 +48,7 @@ void setFieldToDefault(const CrvFieldEditors& editor, KnField* field)
 
 void setFieldIgnored(const CrvFieldEditors& editor, KnField* field, bool ignored)
 {
-    if (!editor.shows(field) || (field->isIgnored() != 0) == ignored)
+    if (!editor.mayWrite(field) || (field->isIgnored() != 0) == ignored)
         return;
     auto command = std::make_unique<CrvFieldIgnoredCommand>(field, ignored);
     field->setIgnored(ignored ? 1 : 0);

@@ -27,7 +27,7 @@ WfMFColorTable::WfMFColorTable(WfMFieldWidget* widget, QWidget* parent, const ch
 void WfMFColorTable::getColorFromEditor(int row, int col)
 {
     KnMField* const shown = field();
-    if (col != 0 || !shown)
+    if (col != 0 || !m_widget->mayWrite(shown))
         return;
     const RowColor before = rowColor(*m_widget, row);
     TrackedRow tracked;

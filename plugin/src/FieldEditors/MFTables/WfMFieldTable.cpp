@@ -91,10 +91,10 @@ void WfMFieldTable::showTableRow(int value)
 
 /// Brings table and field in line before rows are changed: what is being typed is written to the
 /// row that it was typed for, and the field's count may have changed since the last refresh.
-/// False without a field that is shown.
+/// False without a field that is shown and may be written.
 bool WfMFieldTable::prepareRowOperation()
 {
-    if (!field())
+    if (!m_widget->mayWrite(field()))
         return false;
     m_cellEditing->close();
     if (field()->getNum() != rowCount())
@@ -128,7 +128,8 @@ void WfMFieldTable::swapDownRow()
 
 void WfMFieldTable::swapRows(int row1, int row2)
 {
-    if (KnMField* const shown = field())
+    KnMField* const shown = field();
+    if (m_widget->mayWrite(shown))
         execute(std::make_unique<CrvMFSwapRowsCommand>(shown, row1, row2));
 }
 
@@ -240,7 +241,7 @@ void WfMFieldTable::cellWritten() { m_cellEditing->cellWritten(); }
 
 bool WfMFieldTable::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
-    const bool isEdited = QTableWidget::edit(index, trigger, event);
+    const bool isEdited = m_widget->mayWrite(field()) && QTableWidget::edit(index, trigger, event);
     QWidget* const editor = isEdited ? indexWidget(index) : nullptr;
     if (editor && editor != m_cellEditing->openEditor())
         m_cellEditing->begin(editor, index);

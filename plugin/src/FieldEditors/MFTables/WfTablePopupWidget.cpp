@@ -4,6 +4,7 @@
 #include "AccessibleNames.h"
 #include "ComponentValidator.h"
 #include "LayoutMetrics.h"
+#include "OffInputs.h"
 #include "PanelParts.h"
 #include "Pixmaps.h"
 #include "PopupGrid.h"
@@ -35,6 +36,7 @@ void WfTablePopupWidget::load()
 
     m_editButton = makeIconButton(getFrame(), "m_editButton", m_editPixmap);
     setInputLabel(m_editButton, QStringLiteral("edit"));
+    setLooksOnly(m_editButton);
     m_accessMoveSpacer->changeSize(layoutMetric(QStringLiteral("MFAccessMoveSpacerWidth"))
             - layoutMetric(QStringLiteral("buttonWidth")),
         layoutMetric(QStringLiteral("MFAccessMoveSpacerHeight")), QSizePolicy::Expanding,

@@ -34,7 +34,7 @@ public:
 
     void setFieldColor(int row, const void* color) override
     {
-        if (!this->hasRow(row) || !this->m_field->isOfType(Field::getClassTypeId()))
+        if (!this->mayWriteRow(row) || !this->m_field->isOfType(Field::getClassTypeId()))
             return;
         typename Components::Numbers numbers;
         std::copy_n(

@@ -19,13 +19,13 @@ void WfMFLineWidget::load()
 
 void WfMFLineWidget::swapFieldValues(int row1, int row2)
 {
-    if (hasRow(row1) && hasRow(row2))
+    if (mayWriteRow(row1) && mayWriteRow(row2))
         swapRowTexts(m_field, row1, row2);
 }
 
 void WfMFLineWidget::setFieldValue(int row, int, QString text)
 {
-    if (hasRow(row))
+    if (mayWriteRow(row))
         m_field->set1(row, toKbString(text));
 }
 

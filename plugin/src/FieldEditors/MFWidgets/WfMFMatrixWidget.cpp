@@ -47,13 +47,13 @@ void WfMFMatrixWidget::load()
 
 void WfMFMatrixWidget::swapFieldValues(int row1, int row2)
 {
-    if (hasRow(row1) && hasRow(row2))
+    if (mayWriteRow(row1) && mayWriteRow(row2))
         swapRowValues(matrices(m_field), row1, row2);
 }
 
 void WfMFMatrixWidget::setFieldValue(int row, int, QString)
 {
-    if (!hasRow(row))
+    if (!mayWriteRow(row))
         return;
     Components::Numbers numbers;
     for (std::size_t i = 0; i < numbers.size(); ++i)

@@ -33,13 +33,13 @@ public:
 
     void swapFieldValues(int row1, int row2) override
     {
-        if (hasRow(row1) && hasRow(row2))
+        if (mayWriteRow(row1) && mayWriteRow(row2))
             Traits::swap(*m_field, row1, row2);
     }
 
     void setFieldValue(int row, int, QString text) override
     {
-        if (!hasRow(row))
+        if (!mayWriteRow(row))
             return;
         executeRowEdit(
             m_field, row, [this, row, &text] { Traits::write(*m_field, row, toKbString(text)); });

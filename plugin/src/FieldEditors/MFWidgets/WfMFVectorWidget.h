@@ -45,7 +45,7 @@ public:
 
     void swapFieldValues(int row1, int row2) override
     {
-        if (hasRow(row1) && hasRow(row2))
+        if (mayWriteRow(row1) && mayWriteRow(row2))
             withField([row1, row2](auto& field) { swapRowValues(field, row1, row2); });
     }
 
@@ -70,7 +70,7 @@ public:
     /// has. For a column that doesn't exist the row is written unchanged.
     void setCellValue(Number value, int row, int col)
     {
-        if (!hasRow(row))
+        if (!mayWriteRow(row))
             return;
         withField([this, value, row, col](auto& field) {
             auto numbers = Components::read(field[row]);

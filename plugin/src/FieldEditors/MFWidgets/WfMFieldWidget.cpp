@@ -7,6 +7,7 @@
 #include "FieldButtons.h"
 #include "KnMField.h"
 #include "LayoutMetrics.h"
+#include "OffInputs.h"
 #include "PanelParts.h"
 #include "Pixmaps.h"
 #include "WfMFColorTable.h"
@@ -113,6 +114,7 @@ void WfMFieldWidget::buildButtonRow()
 
     m_accessBox = new AccessButtonPrivate(0, 0, 1, getWidget(), "m_accessBox");
     setInputLabel(m_accessBox, QStringLiteral("row"));
+    setLooksOnly(m_accessBox);
     m_accessBox->setMaximumSize(layoutMetric(QStringLiteral("MFAccessWidth")),
         layoutMetric(QStringLiteral("buttonHeight")));
     m_buttonsLayout->addWidget(m_accessBox);
@@ -180,6 +182,8 @@ void WfMFieldWidget::updateFromField()
     const KnMField* const field = shownField();
     if (!m_table || !m_updateEnabled || !field)
         return;
+    if (!mayWrite(field))
+        m_table->dropCellEdit();
     m_table->setNumRows(field->getNum());
     // The cells are drawn on the viewport, which updating the table alone doesn't repaint.
     m_table->update();
@@ -221,6 +225,8 @@ bool WfMFieldWidget::hasRow(int row) const
 {
     return shows(m_field) && row >= 0 && row < m_field->getNum();
 }
+
+bool WfMFieldWidget::mayWriteRow(int row) const { return hasRow(row) && mayWrite(m_field); }
 
 void WfMFieldWidget::shapeColumns(int count)
 {

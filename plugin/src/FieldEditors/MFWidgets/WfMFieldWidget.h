@@ -66,6 +66,8 @@ protected:
     /// Whether a field is attached that has this row now. The table's row count may differ from the
     /// field's until the next refresh.
     bool hasRow(int row) const;
+    /// The same, and a person may write it.
+    bool mayWriteRow(int row) const;
     /// Gives the table its columns, numbered and resizable, and no rows.
     void shapeColumns(int count);
     /// The same with a column for each header.

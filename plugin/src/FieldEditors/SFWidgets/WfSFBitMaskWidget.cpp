@@ -77,7 +77,7 @@ void WfSFBitMaskWidget::clearCheckBoxes()
 
 void WfSFBitMaskWidget::setBitMaskValue()
 {
-    if (!shows(m_field))
+    if (!mayWrite(m_field))
         return;
     auto* const field = static_cast<KnSFBitMask*>(m_field);
     int mask = 0;

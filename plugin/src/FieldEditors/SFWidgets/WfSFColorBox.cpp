@@ -119,7 +119,7 @@ void WfSFColorBox::chooseColor()
         = QColorDialog::getColor(color(), getFrame(), QString(), m_style.dialogOption);
     // The program keeps running behind the dialog. A colour chosen for one field must not reach
     // another.
-    if (!chosen.isValid() || !shows(field))
+    if (!chosen.isValid() || !mayWrite(field))
         return;
     colorChannels(chosen, m_channels.data(), static_cast<int>(m_channels.size()));
     fillLines();

@@ -38,6 +38,8 @@ void WfSFFilePathStringWidget::openFileDialog()
 
 void WfSFFilePathStringWidget::takePath(const QString& path)
 {
+    if (!mayWrite(m_field))
+        return;
     m_lineEdit->setText(path);
     applyChanges();
 }
