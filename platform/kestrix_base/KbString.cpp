@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "KbString.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -9,6 +10,40 @@ constexpr char32_t replacement = 0xFFFD;
 
 constexpr bool isHighSurrogate(char32_t c) { return c >= 0xD800 && c < 0xDC00; }
 constexpr bool isLowSurrogate(char32_t c) { return c >= 0xDC00 && c < 0xE000; }
+
+constexpr unsigned toUnsigned(char unit) { return static_cast<unsigned char>(unit); }
+constexpr unsigned toUnsigned(char16_t unit) { return unit; }
+constexpr unsigned toUnsigned(std::uint16_t unit) { return unit; }
+
+/// How many of these are ASCII, from the front on. Long texts are, for the most part, and what is
+/// looked at in blocks goes many times faster than character by character.
+template <class Unit>
+std::size_t countAscii(const Unit* text, std::size_t length)
+{
+    constexpr std::size_t block = 32;
+    constexpr unsigned highest = 0x80;
+    std::size_t i = 0;
+    for (; length - i >= block; i += block) {
+        unsigned all = 0;
+        for (std::size_t j = 0; j < block; ++j)
+            all |= toUnsigned(text[i + j]);
+        if (all >= highest)
+            break;
+    }
+    while (i < length && toUnsigned(text[i]) < highest)
+        ++i;
+    return i;
+}
+
+/// Appends so many ASCII characters.
+template <class Text, class Unit>
+void appendAscii(Text& out, const Unit* text, std::size_t length)
+{
+    const std::size_t start = out.size();
+    out.resize(start + length);
+    std::transform(text, text + length, out.begin() + static_cast<std::ptrdiff_t>(start),
+        [](Unit unit) { return static_cast<typename Text::value_type>(unit); });
+}
 
 /// Appends one character; a lone surrogate is written like any other character of its size.
 void appendUtf8(std::string& out, char32_t c)
@@ -80,10 +115,15 @@ KbString fromUnits(const Unit* text, std::ptrdiff_t length)
     }
     std::string utf8;
     utf8.reserve(static_cast<std::size_t>(length));
-    for (std::ptrdiff_t i = 0; i < length; ++i) {
-        char32_t c = text[i];
-        if (isHighSurrogate(c) && i + 1 < length && isLowSurrogate(text[i + 1]))
-            c = 0x10000 + ((c - 0xD800) << 10) + (text[++i] - 0xDC00U);
+    for (std::ptrdiff_t i = 0; i < length;) {
+        if (const std::size_t ascii = countAscii(text + i, static_cast<std::size_t>(length - i))) {
+            appendAscii(utf8, text + i, ascii);
+            i += static_cast<std::ptrdiff_t>(ascii);
+            continue;
+        }
+        char32_t c = text[i++];
+        if (isHighSurrogate(c) && i < length && isLowSurrogate(text[i]))
+            c = 0x10000 + ((c - 0xD800) << 10) + (text[i++] - 0xDC00U);
         appendUtf8(utf8, c);
     }
     return KbString(std::move(utf8));
@@ -144,6 +184,11 @@ std::u16string KbString::toUtf16() const
     std::u16string utf16;
     utf16.reserve(m_text.size());
     for (std::string_view rest = m_text; !rest.empty();) {
+        if (const std::size_t ascii = countAscii(rest.data(), rest.size())) {
+            appendAscii(utf16, rest.data(), ascii);
+            rest.remove_prefix(ascii);
+            continue;
+        }
         const char32_t c = takeUtf8(rest);
         if (c < 0x10000) {
             utf16 += static_cast<char16_t>(c);

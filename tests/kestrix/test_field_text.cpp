@@ -9,8 +9,12 @@
 #include <QLocale>
 #include <QTest>
 
+#include <bit>
+#include <charconv>
 #include <clocale>
+#include <cmath>
 #include <cstdlib>
+#include <iterator>
 
 namespace {
 
@@ -143,6 +147,31 @@ private Q_SLOTS:
                        " row 1, character 11: expected a number (number 2 of 3), found: ]"));
     }
 
+    /// The kernel's own way of writing most floats, against the library's.
+    void floatsAreAsShortAsTheyCanBe()
+    {
+        KnSFFloat field;
+        KbString text;
+        char expected[64];
+        // A prime step meets all exponents and all lengths; at the ends stand other ways.
+        constexpr std::uint32_t step = 17'477;
+        const auto first = std::bit_cast<std::uint32_t>(0.9e-4F);
+        const auto last = std::bit_cast<std::uint32_t>(4.3e6F);
+        for (std::uint32_t bits = first; bits < last; bits += step) {
+            // Powers of two have a nearer neighbour below than above.
+            for (const std::uint32_t each : { bits, bits & 0xFF800000U, bits | 0x80000000U }) {
+                const auto value = std::bit_cast<float>(each);
+                field.setValue(value);
+                field.get(text);
+                const bool isPlain = std::fabs(value) >= 1e-4F;
+                char* const end = std::to_chars(std::begin(expected), std::end(expected), value,
+                    isPlain ? std::chars_format::fixed : std::chars_format::scientific)
+                                      .ptr;
+                if (text.toUtf8() != std::string_view(expected, end))
+                    QCOMPARE(text.toUtf8().c_str(), std::string(expected, end).c_str());
+            }
+        }
+    }
     void longTexts()
     {
         KnMFString strings; // whose text crosses the writer's buffer at many places

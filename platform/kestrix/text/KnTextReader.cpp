@@ -103,19 +103,26 @@ bool KnTextReader::readReal(Number& value)
     m_next = end;
     if (!atDelimiter())
         return fail("the end of a number");
-    // Out of range, some libraries give an infinity or a zero, others nothing but the error.
+    if (error == std::errc() && std::isfinite(value))
+        return true;
+    return readExtreme(start, first, end, value);
+}
+
+template <class Number>
+bool KnTextReader::readExtreme(const char* start, const char* first, const char* end, Number& value)
+{
     const bool negative = *first == '-';
     const char lead = first[negative ? 1 : 0];
-    const bool digits = lead == '.' || (lead >= '0' && lead <= '9');
-    if (error == std::errc::result_out_of_range || (digits && !std::isfinite(value))) {
-        if (!isTooSmall(first, end)) {
-            m_next = start;
-            constexpr bool single = std::is_same_v<Number, float>;
-            const std::string max = single ? "3.4028235e+38" : "1.7976931348623157e+308";
-            return failRange('-' + max, max);
-        }
-        value = negative ? -Number(0) : Number(0);
+    if (lead != '.' && (lead < '0' || lead > '9'))
+        return true; // an infinity, or no number, by its name
+    // Out of range, some libraries give an infinity or a zero, others nothing but the error.
+    if (!isTooSmall(first, end)) {
+        m_next = start;
+        constexpr bool single = std::is_same_v<Number, float>;
+        const std::string max = single ? "3.4028235e+38" : "1.7976931348623157e+308";
+        return failRange('-' + max, max);
     }
+    value = negative ? -Number(0) : Number(0);
     return true;
 }
 

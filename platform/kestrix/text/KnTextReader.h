@@ -109,6 +109,10 @@ private:
     bool readInteger(std::uint64_t& magnitude, bool& negative);
     template <class Number>
     bool readReal(Number& value);
+    /// Of a number in [first, end) that its type can't hold, or that isn't finite; a failure is at
+    /// `start`.
+    template <class Number>
+    bool readExtreme(const char* start, const char* first, const char* end, Number& value);
     bool failRange(const std::string& min, const std::string& max);
 
     const char* m_first;

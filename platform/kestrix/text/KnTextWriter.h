@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "KnFloatText.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <concepts>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 /// Appends the text form of values to a string, through a small buffer, so that a number costs
 /// neither an allocation nor a call of the string.
@@ -59,6 +62,12 @@ public:
     void number(Number value)
     {
         makeRoom();
+        if constexpr (std::is_same_v<Number, float>) {
+            if (knIsPlainFloat(value)) {
+                m_next = knWriteFloat(m_next, value);
+                return;
+            }
+        }
         const Number magnitude = std::fabs(value);
         const bool plain
             = (magnitude >= Number(1e-4L) && magnitude < Number(1e15L)) || magnitude == 0;
