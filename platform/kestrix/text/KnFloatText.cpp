@@ -3,104 +3,153 @@
 
 #include <array>
 #include <bit>
-#include <charconv>
 #include <cstdint>
+#include <cstring>
 
 namespace {
 
 constexpr int mantissaBits = 23;
 constexpr int exponentBias = 127;
-constexpr int longestNumber = 16;
 
-template <std::uint64_t Base, int Count>
-constexpr std::array<std::uint64_t, Count> powers()
+template <class Number, std::size_t Count>
+constexpr std::array<Number, Count> powersOf(Number base)
 {
-    std::array<std::uint64_t, Count> result {};
-    std::uint64_t power = 1;
-    for (std::uint64_t& each : result) {
+    std::array<Number, Count> result {};
+    Number power = 1;
+    for (Number& each : result) {
         each = power;
-        power *= Base;
+        power *= base;
     }
     return result;
 }
 
-constexpr auto powersOf5 = powers<5, 15>();
-constexpr auto powersOf10 = powers<10, 15>();
+constexpr auto powersOf5 = powersOf<std::uint64_t, 15>(5);
+constexpr auto powersOf10 = powersOf<std::uint32_t, 10>(10);
+
+constexpr auto digitPairs = [] {
+    std::array<char, 200> pairs {};
+    for (std::size_t i = 0; i < pairs.size(); i += 2) {
+        pairs[i] = static_cast<char>('0' + i / 20);
+        pairs[i + 1] = static_cast<char>('0' + i / 2 % 10);
+    }
+    return pairs;
+}();
+
+/// 1233 / 4096 is the logarithm of 2 to the base of ten, near enough for the exponents of floats.
+constexpr int decimalExponent(int binaryExponent) { return (binaryExponent * 1233) >> 12; }
 
 /// `digits` times 10 to the power of minus `places`.
 struct Decimal {
-    std::uint64_t digits;
+    std::uint32_t digits;
     int places;
 };
 
+/// Drops the digits that the number doesn't need: those without which `low` and `high`, the first
+/// and the last whole number that read back to it, still have another one between them. At least
+/// one digit is dropped. With `Exact`, `low` or `number` itself may stand for its value without a
+/// remainder, which the flags say.
+template <bool Exact>
+Decimal drop(std::uint64_t low, std::uint64_t number, std::uint64_t high, int places,
+    bool lowIsExact = false, bool numberIsExact = false)
+{
+    lowIsExact = Exact && lowIsExact && low % 10 == 0;
+    auto dropped = static_cast<std::uint32_t>(number % 10);
+    auto shortLow = static_cast<std::uint32_t>(low / 10);
+    auto digits = static_cast<std::uint32_t>(number / 10);
+    auto shortHigh = static_cast<std::uint32_t>(high / 10);
+    --places;
+    const auto dropDigit = [&] {
+        if constexpr (Exact) {
+            lowIsExact = lowIsExact && shortLow % 10 == 0;
+            numberIsExact = numberIsExact && dropped == 0;
+        }
+        dropped = digits % 10;
+        shortLow /= 10;
+        digits /= 10;
+        shortHigh /= 10;
+        --places;
+    };
+    while (shortHigh / 10 > shortLow / 10)
+        dropDigit();
+    if constexpr (Exact) {
+        while (lowIsExact && shortLow % 10 == 0)
+            dropDigit();
+        if (numberIsExact && dropped == 5 && digits % 2 == 0)
+            dropped = 4; // the one above is as near, but isn't even
+    }
+    const bool isBelow = digits == shortLow && !lowIsExact;
+    return { digits + (isBelow || dropped >= 5 ? 1 : 0), places };
+}
+
 /// Any decimal between the middles to the neighbours of a number reads back to it. This takes the
-/// middles times a power of ten, so that many whole numbers lie between them, and then drops digits
-/// for as long as some still do. Nothing is ever rounded: mantissa times power fits into 64 bits.
+/// middles times a power of ten, so that many whole numbers lie between them. Nothing is rounded:
+/// mantissa times power fits into 64 bits.
 Decimal shortest(std::uint32_t bits)
 {
     const std::uint32_t fraction = bits & ((1U << mantissaBits) - 1);
     const int exponent = static_cast<int>((bits >> mantissaBits) & 0xFFU) - exponentBias;
     const std::uint64_t mantissa = fraction | (1U << mantissaBits);
-    // 1233 / 4096 is the logarithm of 2 to the base of ten. The number has ten digits or eleven
-    // before the point then, and there are sixty whole numbers between the middles, or more.
-    int places = 9 - ((exponent * 1233) >> 12);
+    // The number has ten digits or eleven before the point then, and there are sixty whole numbers
+    // between the middles, or more.
+    const int places = 9 - decimalExponent(exponent);
     // In quarters, because below a power of two the neighbour is only half as far away.
     const int shift = mantissaBits + 2 - exponent - places;
     const std::uint64_t power = powersOf5[static_cast<std::size_t>(places)];
-    const std::uint64_t scaledNumber = 4 * mantissa * power;
-    const std::uint64_t scaledLow = (4 * mantissa - (fraction != 0 ? 2 : 1)) * power;
-    const std::uint64_t scaledHigh = (4 * mantissa + 2) * power;
-    const std::uint64_t behindPoint = (std::uint64_t { 1 } << shift) - 1;
+    const std::uint64_t number = 4 * mantissa * power;
+    const std::uint64_t low = number - (fraction != 0 ? 2 : 1) * power;
+    const std::uint64_t high = number + 2 * power;
 
+    const std::uint64_t behindPoint = (std::uint64_t { 1 } << shift) - 1;
+    const bool lowIsWhole = (low & behindPoint) == 0;
+    const bool highIsWhole = (high & behindPoint) == 0;
+    const bool numberIsWhole = (number & behindPoint) == 0;
+    if (!lowIsWhole && !highIsWhole && !numberIsWhole)
+        return drop<false>(low >> shift, number >> shift, high >> shift, places);
     // A middle itself reads back to the neighbour that is even.
     const bool takesMiddles = mantissa % 2 == 0;
-    bool lowIsExact = takesMiddles && (scaledLow & behindPoint) == 0;
-    bool numberIsExact = (scaledNumber & behindPoint) == 0;
-    std::uint64_t low = scaledLow >> shift;
-    std::uint64_t number = scaledNumber >> shift;
-    std::uint64_t high = scaledHigh >> shift;
-    if (!takesMiddles && (scaledHigh & behindPoint) == 0)
-        --high;
+    return drop<true>(low >> shift, number >> shift,
+        (high >> shift) - (highIsWhole && !takesMiddles ? 1 : 0), places,
+        lowIsWhole && takesMiddles, numberIsWhole);
+}
 
-    std::uint64_t dropped = 0; // the last one
-    const auto dropDigit = [&] {
-        lowIsExact = lowIsExact && low % 10 == 0;
-        numberIsExact = numberIsExact && dropped == 0;
-        dropped = number % 10;
-        low /= 10;
-        number /= 10;
-        high /= 10;
-        --places;
-    };
-    while (high / 10 > low / 10)
-        dropDigit();
-    while (lowIsExact && low % 10 == 0)
-        dropDigit();
-    if (numberIsExact && dropped == 5 && number % 2 == 0)
-        dropped = 4; // as near as the one above, which isn't even
-    const bool isBelow = number == low && !lowIsExact;
-    return { number + (isBelow || dropped >= 5 ? 1 : 0), places };
+int countDigits(std::uint32_t number)
+{
+    const int least = decimalExponent(std::bit_width(number));
+    return least + (number >= powersOf10[static_cast<std::size_t>(least)] ? 1 : 0);
 }
 
 } // namespace
 
 char* knWriteFloat(char* next, float value)
 {
-    const auto bits = std::bit_cast<std::uint32_t>(value);
+    const Decimal decimal = shortest(std::bit_cast<std::uint32_t>(value));
     if (value < 0)
         *next++ = '-';
-    auto [digits, places] = shortest(bits);
-    if (places <= 0) {
-        digits *= powersOf10[static_cast<std::size_t>(-places)];
-        return std::to_chars(next, next + longestNumber, digits).ptr;
+
+    // Digits are taken in blocks that are longer than they are, since that needs no loops.
+    constexpr std::size_t block = 16;
+    constexpr int most = 10;
+    std::array<char, 2 * block> digits;
+    std::uint32_t rest = decimal.digits;
+    for (int i = most - 2; i >= 0; i -= 2) {
+        std::memcpy(&digits[static_cast<std::size_t>(i)], &digitPairs[rest % 100 * 2], 2);
+        rest /= 100;
     }
-    const std::uint64_t one = powersOf10[static_cast<std::size_t>(places)];
-    const std::uint64_t whole = digits / one;
-    digits -= whole * one;
-    next = std::to_chars(next, next + longestNumber, whole).ptr;
-    *next++ = '.';
-    char* const end = next + places;
-    for (char* digit = end; digit != next; digits /= 10)
-        *--digit = static_cast<char>('0' + digits % 10);
-    return end;
+    std::memset(&digits[most], '0', block); // for whole numbers that end with zeros
+    const int count = countDigits(decimal.digits);
+    const char* const first = digits.data() + (most - count);
+    const int whole = count - decimal.places;
+    if (decimal.places <= 0) {
+        std::memcpy(next, first, block);
+        return next + whole;
+    }
+    if (whole > 0) {
+        std::memcpy(next, first, block);
+        next[whole] = '.';
+        std::memcpy(next + whole + 1, first + whole, block);
+        return next + count + 1;
+    }
+    std::memcpy(next, "0.000000", 8);
+    std::memcpy(next + 2 - whole, first, block);
+    return next + 2 - whole + count;
 }

@@ -10,6 +10,6 @@ inline bool knIsPlainFloat(float value)
 }
 
 /// Writes what std::to_chars writes in plain notation, the shortest decimal text that reads back to
-/// the same number and of these the nearest to it, but several times faster. `next` has room for 16
-/// characters. Gives the end of what was written.
+/// the same number and of these the nearest to it, but several times faster. `next` has room for 32
+/// characters, more than are needed. Gives the end of what was written.
 char* knWriteFloat(char* next, float value);
