@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// Plays rounds, each in a process of its own, and cuts a round that fails down to its shortest
+/// list of steps, by processes again.
+class Rounds {
+public:
+    explicit Rounds(int stepsInRound)
+        : m_stepsInRound(stepsInRound)
+    {
+    }
+
+    /// Rounds with the seeds from `seed` on, until the time is over; at least one. False as soon as
+    /// one fails; its seed and its steps are printed.
+    bool run(quint64 seed, int seconds) const;
+
+private:
+    struct Outcome {
+        QString fault; ///< empty if all went well
+        QString kind; ///< what the fault has in common with the same one after other steps
+        QString output;
+        int lastStep = -1; ///< that was begun
+    };
+
+    static Outcome play(quint64 seed, const std::vector<int>& steps);
+    static void shorten(quint64 seed, const Outcome& outcome, std::vector<int> steps);
+
+    int m_stepsInRound;
+};

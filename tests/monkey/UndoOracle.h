@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+
+class MainWindow;
+
+/// Says whether undoing everything brings back the scene as it was when the undo stack was empty,
+/// bit for bit, and redoing everything each state behind it; and whether what would be saved reads
+/// back as the same scene. To be used where nobody but a person changes the scene.
+class UndoOracle : public QObject {
+    Q_OBJECT
+public:
+    UndoOracle() = default;
+
+    /// A new window, or one whose undo stack was emptied.
+    void begin(MainWindow& window);
+    /// Undoes and redoes everything; the stack ends where it stood. Empty if all agrees.
+    QString check(MainWindow& window);
+
+    static QByteArray sceneText();
+
+private:
+    void sceneReplaced();
+    static QString compare(const QString& when, const QByteArray& wanted, const QByteArray& found);
+    static QString checkSaving();
+
+    QByteArray m_first;
+};
