@@ -5,6 +5,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace {
 
 QWindow* windowOf(const Target& target) { return target.widget->window()->windowHandle(); }
@@ -70,21 +72,48 @@ void Hand::wheel(const Target& target, int turns, Qt::KeyboardModifiers modifier
 
 void Hand::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    if (QWindow* const window = windowForKeys())
-        QTest::keyClick(window, key, modifiers);
+    static const std::pair<Qt::KeyboardModifier, Qt::Key> held[]
+        = { { Qt::ShiftModifier, Qt::Key_Shift }, { Qt::ControlModifier, Qt::Key_Control },
+              { Qt::AltModifier, Qt::Key_Alt } };
+    Qt::KeyboardModifiers down;
+    for (const auto& [modifier, own] : held) {
+        if (modifiers.testFlag(modifier)) {
+            sendKey(QEvent::KeyPress, own, down, {});
+            down |= modifier;
+        }
+    }
+    const char ascii = QTest::keyToAscii(key);
+    const QString text = ascii ? QString(QLatin1Char(ascii)) : QString();
+    sendKey(QEvent::KeyPress, key, modifiers, text);
+    sendKey(QEvent::KeyRelease, key, modifiers, text);
+    for (const auto& [modifier, own] : held) {
+        if (modifiers.testFlag(modifier)) {
+            down &= ~Qt::KeyboardModifiers(modifier);
+            sendKey(QEvent::KeyRelease, own, down, {});
+        }
+    }
 }
 
 void Hand::type(const QString& text)
 {
     for (const QChar character : text) {
-        QWindow* const window = windowForKeys();
-        if (!window)
-            return;
         const ushort code = character.unicode();
         const bool isPlain = code >= Qt::Key_Space && code <= Qt::Key_AsciiTilde;
-        QTest::sendKeyEvent(QTest::Click, window,
-            isPlain ? Qt::Key(character.toUpper().unicode()) : Qt::Key_unknown, character, {});
+        const Qt::Key key = isPlain ? Qt::Key(character.toUpper().unicode()) : Qt::Key_unknown;
+        sendKey(QEvent::KeyPress, key, {}, character);
+        sendKey(QEvent::KeyRelease, key, {}, character);
     }
+}
+
+/// Each one asks anew where to, since even a modifier may close a menu.
+void Hand::sendKey(
+    QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text)
+{
+    QWindow* const window = windowForKeys();
+    if (!window)
+        return;
+    qt_handleKeyEvent(window, type, key, modifiers, text, false);
+    QCoreApplication::processEvents();
 }
 
 void Hand::add(

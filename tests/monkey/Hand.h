@@ -44,5 +44,7 @@ private:
     void add(Event::Kind kind, const Target& target, Qt::MouseButton button = Qt::NoButton,
         Qt::KeyboardModifiers modifiers = {});
     static void deliver(const Event& event);
+    static void sendKey(
+        QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text);
     std::deque<Event> m_events;
 };
