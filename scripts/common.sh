@@ -6,7 +6,8 @@ source_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=${CORVANE_JOBS:-$(nproc)}
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libbenchmark-dev)
-test_packages=(xvfb xauth openbox locales clang-format binutils)
+test_packages=(xvfb xauth openbox locales clang-format binutils
+    designer-qt6 linguist-qt6 qt6-3d-dev libqt6opengl6-dev libgl1-mesa-dri)
 lint_packages=(clang-tidy)
 fuzz_packages=(clang libclang-rt-dev)
 static_packages=(cppcheck clazy)

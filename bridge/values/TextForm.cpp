@@ -225,8 +225,14 @@ struct Text<QFont> {
     static QString write(const QFont& font) { return font.toString(); }
     static std::optional<QFont> read(const QString& text)
     {
+        // Qt complains aloud of other numbers of attributes.
+        const QList<qsizetype> counts { 1, 2, 10, 11, 16, 17 };
+        const QString attributes = text.trimmed();
         QFont font;
-        return font.fromString(text.trimmed()) ? std::optional(font) : std::nullopt;
+        if (attributes.startsWith(u',') || !counts.contains(attributes.count(u',') + 1)
+            || !font.fromString(attributes))
+            return std::nullopt;
+        return font;
     }
 };
 
@@ -248,7 +254,8 @@ template <>
 struct Text<QLocale> {
     static QString write(const QLocale& locale)
     {
-        return locale == QLocale::c() ? QStringLiteral("C") : locale.bcp47Name();
+        // Not by comparing with it: the C locale of the system has other number options.
+        return locale.language() == QLocale::C ? QStringLiteral("C") : locale.bcp47Name();
     }
     static std::optional<QLocale> read(const QString& text)
     {

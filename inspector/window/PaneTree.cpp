@@ -1,10 +1,28 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "PaneTree.h"
 
+#include <QHeaderView>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <utility>
+
+namespace {
+
+constexpr int nameRoom = 12; // characters that a name keeps
+constexpr int smallestStep = 3; // pixels
+
+int levelOf(const QModelIndex& index)
+{
+    int level = 1;
+    for (QModelIndex above = index.parent(); above.isValid(); above = above.parent())
+        ++level;
+    return level;
+}
+
+} // namespace
 
 void PaneTree::focusInEvent(QFocusEvent* event)
 {
@@ -32,6 +50,35 @@ void PaneTree::paintEvent(QPaintEvent* event)
     const int margin = 2 * fontMetrics().averageCharWidth();
     painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_emptyText);
+}
+
+void PaneTree::updateGeometries()
+{
+    QTreeView::updateGeometries();
+    fitSteps();
+}
+
+void PaneTree::scrollContentsBy(int dx, int dy)
+{
+    QTreeView::scrollContentsBy(dx, dy);
+    fitSteps();
+}
+
+// A row whose name has no room can't be read, and neither clicked nor reached by a key.
+void PaneTree::fitSteps()
+{
+    if (m_fitting || !rootIsDecorated() || !model())
+        return;
+    const QScopedValueRollback fitting(m_fitting, true); // finding a row may lay out the rows
+    const int bottom = viewport()->height();
+    int levels = 1;
+    for (QModelIndex index = indexAt(QPoint()); index.isValid() && visualRect(index).top() < bottom;
+         index = indexBelow(index))
+        levels = std::max(levels, levelOf(index));
+    const int room
+        = columnWidth(header()->logicalIndex(0)) - nameRoom * fontMetrics().averageCharWidth();
+    const int widest = style()->pixelMetric(QStyle::PM_TreeViewIndentation, nullptr, this);
+    setIndentation(std::clamp(room / levels, std::min(smallestStep, widest), widest));
 }
 
 void PaneTree::holdPlace()

@@ -6,6 +6,7 @@
 
 /// The tree of a panel whose current row is the host's selection. Getting the focus selects
 /// nothing, where a plain view without a current row would make its first row the current one.
+/// Far down a deep tree the steps of the indentation get narrower, so that names keep some room.
 class PaneTree : public QTreeView {
     Q_OBJECT
 public:
@@ -21,10 +22,15 @@ public:
     void doItemsLayout() override;
 
 protected:
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;
     void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void fitSteps();
+
     QString m_emptyText;
     QList<QPersistentModelIndex> m_held; // from the top of the view on; empty if nothing is held
+    bool m_fitting = false;
 };
