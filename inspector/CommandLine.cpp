@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CommandLine.h"
 
+#include "ProgramRun.h"
+
 #include <QCommandLineParser>
 #include <QHash>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <array>
@@ -12,6 +15,7 @@ namespace {
 using Step = SceneScript::Step;
 
 constexpr int maxPictureSide = 16384; // pixels
+constexpr double maxSeconds = 86400; // to wait for a program: a day
 
 // The options with their parser; whoever needs it makes one.
 struct Parser : QCommandLineParser {
@@ -23,7 +27,7 @@ struct Parser : QCommandLineParser {
             CommandLine::tr("Scene file to open, in JSON; a small scene if there is none."),
             QStringLiteral("[scene.json]"));
         addOptions({ run, help, version, profile, profilesFile, plugin, selection, picture, size,
-            list, verbose, get, set, save });
+            list, verbose, get, set, save, after });
         // For the application object, which reads them itself.
         for (const QLatin1String name : toolkitOptions()) {
             QCommandLineOption option(name, QString(), name);
@@ -48,11 +52,10 @@ struct Parser : QCommandLineParser {
         return QString();
     }
 
-    // For the help alone: where it comes first, nothing of the line is read here.
     const QCommandLineOption run { QStringLiteral("run"),
-        CommandLine::tr("Starts a program of Qt's with the inspector in it. Comes first; all that "
+        CommandLine::tr("Starts a program of Qt's with the inspector in it. Comes last; all that "
                         "follows the program is its own."),
-        QStringLiteral("program") };
+        QStringLiteral("program [arguments]") };
     const QCommandLineOption help { { QStringLiteral("h"), QStringLiteral("help") },
         CommandLine::tr("Shows this help.") };
     const QCommandLineOption version { { QStringLiteral("v"), QStringLiteral("version") },
@@ -83,11 +86,15 @@ struct Parser : QCommandLineParser {
     const QCommandLineOption get { QStringLiteral("get"),
         CommandLine::tr("Prints the value of a field."), QStringLiteral("node.field") };
     const QCommandLineOption set { QStringLiteral("set"),
-        CommandLine::tr("Gives a field a value; needs --save."),
+        CommandLine::tr("Gives a field a value; needs --save or --run."),
         QStringLiteral("node.field=text") };
     const QCommandLineOption save { QStringLiteral("save"),
         CommandLine::tr("Saves the scene into a file, which may be the scene's own."),
         QStringLiteral("file") };
+    const QCommandLineOption after { QStringLiteral("after"),
+        CommandLine::tr("Looks into a program so long after its start, in place of when it has "
+                        "shown its windows; needs --run."),
+        QStringLiteral("seconds") };
 };
 
 CommandLine refusal(const QString& error)
@@ -124,27 +131,32 @@ QList<Step> scriptSteps(const Parser& parser, QString* error)
     return steps;
 }
 
-CommandLine parseScript(const Parser& parser, const QString& scene)
+bool isScript(const Parser& parser)
+{
+    return !parser.firstSet({ parser.list, parser.get, parser.set, parser.save }).isEmpty();
+}
+
+/// Fills in the script; what is wrong with it, empty if nothing is.
+QString readScript(const Parser& parser, CommandLine& commandLine)
 {
     const QString windowOption = parser.firstSet({ parser.profile, parser.profilesFile,
         parser.plugin, parser.selection, parser.picture, parser.size });
     if (!windowOption.isEmpty()) {
-        return refusal(
-            CommandLine::tr("'--%1' shows no window, so '--%2' means nothing with it.")
-                .arg(parser.firstSet({ parser.list, parser.get, parser.set, parser.save }),
-                    windowOption));
+        return CommandLine::tr("'--%1' shows no window, so '--%2' means nothing with it.")
+            .arg(parser.firstSet({ parser.list, parser.get, parser.set, parser.save }),
+                windowOption);
     }
-    if (parser.isSet(parser.set) && !parser.isSet(parser.save)) {
-        return refusal(CommandLine::tr("'--set' changes no file by itself: say where to keep the "
-                                       "scene with '--save FILE'."));
+    const bool forProgram = commandLine.request == CommandLine::Request::Program;
+    if (parser.isSet(parser.set) && !parser.isSet(parser.save) && !forProgram) {
+        return CommandLine::tr("'--set' changes no file by itself: say where to keep the scene "
+                               "with '--save FILE'.");
     }
     if (parser.values(parser.save).size() > 1)
-        return refusal(CommandLine::tr("More than one '--save'."));
+        return CommandLine::tr("More than one '--save'.");
     QString error;
-    CommandLine commandLine;
-    commandLine.request = CommandLine::Request::Script;
-    commandLine.script = { scene, scriptSteps(parser, &error), parser.value(parser.save) };
-    return error.isEmpty() ? commandLine : refusal(error);
+    commandLine.script = { parser.positionalArguments().value(0), scriptSteps(parser, &error),
+        parser.value(parser.save) };
+    return error;
 }
 
 /// An invalid size for a text that isn't one.
@@ -156,6 +168,68 @@ QSize parseSize(const QString& text)
     const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
     const QSize limits(maxPictureSide, maxPictureSide);
     return size.isEmpty() || size.boundedTo(limits) != size ? QSize() : size;
+}
+
+/// Fills in the size of the picture; what is wrong with it, empty if nothing is.
+QString readSize(const Parser& parser, CommandLine& commandLine)
+{
+    const QString text = parser.value(parser.size);
+    commandLine.pictureSize = parseSize(text);
+    if (!commandLine.pictureSize.isValid()) {
+        return CommandLine::tr("Bad size '%1': two numbers up to %2 expected, as in 1280x800.")
+            .arg(text, QString::number(maxPictureSide));
+    }
+    return parser.isSet(parser.picture) ? QString()
+                                        : CommandLine::tr("'--size' needs '--picture'.");
+}
+
+/// Fills in when to look into a program; what is wrong with it, empty if nothing is.
+QString readTime(const Parser& parser, CommandLine& commandLine)
+{
+    if (commandLine.request != CommandLine::Request::Program)
+        return CommandLine::tr("'--after' needs '--run'.");
+    bool isNumber = false;
+    const QString text = parser.value(parser.after);
+    const double seconds = QLocale::c().toDouble(text, &isNumber);
+    if (!isNumber || !(seconds >= 0 && seconds <= maxSeconds))
+        return CommandLine::tr("Bad time '%1': seconds expected, as in 2.5.").arg(text);
+    commandLine.after = seconds;
+    return QString();
+}
+
+/// What can't stand beside `--run`; empty if nothing is wrong.
+QString programError(const Parser& parser)
+{
+    if (!parser.positionalArguments().isEmpty()) {
+        return CommandLine::tr("'--run' shows a program, not the scene file '%1'.")
+            .arg(parser.positionalArguments().constFirst());
+    }
+    QString odd
+        = parser.firstSet({ parser.profile, parser.profilesFile, parser.plugin, parser.save });
+    for (const QLatin1String name : Parser::toolkitOptions()) {
+        if (odd.isEmpty() && parser.isSet(name))
+            odd = name;
+    }
+    return odd.isEmpty() ? QString()
+                         : CommandLine::tr("'--%1' means nothing with '--run'.").arg(odd);
+}
+
+/// What is wrong with the options, as far as they can be told to be right by themselves.
+QString generalError(const Parser& parser)
+{
+    if (parser.isSet(parser.run))
+        return CommandLine::tr("'--run' and the name of the program are two words.");
+    const QStringList scenes = parser.positionalArguments();
+    if (scenes.size() > 1)
+        return CommandLine::tr("More than one scene file: '%1'").arg(scenes.at(1));
+    for (const QCommandLineOption& option : { parser.profile, parser.profilesFile, parser.plugin,
+             parser.selection, parser.picture, parser.size, parser.get, parser.set, parser.save }) {
+        if (parser.isSet(option) && parser.values(option).contains(QString()))
+            return CommandLine::tr("Empty value for '--%1'.").arg(option.names().constFirst());
+    }
+    if (parser.isSet(parser.verbose) && !parser.isSet(parser.list))
+        return CommandLine::tr("'--verbose' needs '--list'.");
+    return QString();
 }
 
 // What QCommandLineParser has no place for.
@@ -173,6 +247,13 @@ QString scriptHelp()
         "\n"
         "  TEXT is the form in which a scene file holds values: 0.5, TRUE, \"a text\",\n"
         "  1 0 0, [ 1, 2, 3 ]. The text \"\" is the default value of every type.\n"
+        "\n"
+        "Programs:\n"
+        "  With --run, the nodes are the program's objects and the fields their properties.\n"
+        "  --list, --get, --set and --picture end the program at once when they are done,\n"
+        "  with status 0 or 2, and what it prints itself goes to the standard error\n"
+        "  stream. --set goes through the property's setter. Without --after they look\n"
+        "  when the program has shown its windows, or after 5 seconds.\n"
         "\n"
         "Nodes:\n"
         "  Lamp             A node of this name or, if there is none, of this type.\n"
@@ -192,8 +273,10 @@ QString scriptHelp()
 
 CommandLine CommandLine::parse(const QStringList& arguments)
 {
+    const qsizetype run = ProgramRun::indexIn(arguments);
+    const bool forProgram = run >= 0;
     Parser parser;
-    if (!parser.parse(arguments))
+    if (!parser.parse(forProgram ? arguments.first(run) : arguments))
         return refusal(parser.errorText());
     CommandLine commandLine;
     if (parser.isSet(parser.help))
@@ -202,31 +285,26 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         commandLine.request = Request::Version;
     if (commandLine.request != Request::Run)
         return commandLine;
-    if (parser.isSet(parser.run))
-        return refusal(tr("'--run' comes first."));
 
-    const QStringList scenes = parser.positionalArguments();
-    if (scenes.size() > 1)
-        return refusal(tr("More than one scene file: '%1'").arg(scenes.at(1)));
-    for (const QCommandLineOption& option : { parser.profile, parser.profilesFile, parser.plugin,
-             parser.selection, parser.picture, parser.size, parser.get, parser.set, parser.save }) {
-        if (parser.isSet(option) && parser.values(option).contains(QString()))
-            return refusal(tr("Empty value for '--%1'.").arg(option.names().constFirst()));
+    QString error = generalError(parser);
+    if (forProgram) {
+        commandLine.request = Request::Program;
+        commandLine.options = arguments.mid(1, run - 1);
+        if (error.isEmpty())
+            error = programError(parser);
+    } else if (isScript(parser)) {
+        commandLine.request = Request::Script;
     }
-    if (parser.isSet(parser.verbose) && !parser.isSet(parser.list))
-        return refusal(tr("'--verbose' needs '--list'."));
-    if (!parser.firstSet({ parser.list, parser.get, parser.set, parser.save }).isEmpty())
-        return parseScript(parser, scenes.value(0));
-    if (parser.isSet(parser.size)) {
-        commandLine.pictureSize = parseSize(parser.value(parser.size));
-        if (!commandLine.pictureSize.isValid()) {
-            return refusal(tr("Bad size '%1': two numbers up to %2 expected, as in 1280x800.")
-                               .arg(parser.value(parser.size), QString::number(maxPictureSide)));
-        }
-        if (!parser.isSet(parser.picture))
-            return refusal(tr("'--size' needs '--picture'."));
-    }
-    commandLine.scene = scenes.value(0);
+    if (error.isEmpty() && parser.isSet(parser.after))
+        error = readTime(parser, commandLine);
+    if (error.isEmpty() && isScript(parser))
+        error = readScript(parser, commandLine);
+    if (error.isEmpty() && parser.isSet(parser.size))
+        error = readSize(parser, commandLine);
+    if (!error.isEmpty())
+        return refusal(error);
+
+    commandLine.scene = parser.positionalArguments().value(0);
     commandLine.profile = parser.value(parser.profile);
     commandLine.profilesFile = parser.value(parser.profilesFile);
     commandLine.selection = parser.value(parser.selection);

@@ -8,12 +8,21 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 /// What the program was asked to do. It is read before there is an application object, since
 /// whether a display is needed depends on it.
 class CommandLine {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 public:
-    enum class Request { Run, Script, Help, Version, Error };
+    enum class Request {
+        Run, ///< a window or a picture
+        Script,
+        Program, ///< another program, with the inspector in it
+        Help,
+        Version,
+        Error,
+    };
 
     /// `arguments` begin with the program's name.
     static CommandLine parse(const QStringList& arguments);
@@ -33,5 +42,11 @@ public:
     QString platform; ///< the toolkit's, as its own option names it; empty if it doesn't
     QString display; ///< the same for the X display
 
-    ScriptRun script; ///< for Request::Script
+    ScriptRun script; ///< for Request::Script; for Request::Program, its steps alone
+
+    QStringList options; ///< for Request::Program, as they were given
+    std::optional<double> after; ///< seconds from the program's start; none: when it has settled
+
+    /// Whether a program ends with the answer to what was asked of it.
+    bool endsProgram() const { return !picture.isEmpty() || !script.steps.isEmpty(); }
 };

@@ -86,6 +86,15 @@ int runScript(const ScriptRun& script)
     return 0;
 }
 
+int runProgram(char** argv, const CommandLine& commandLine)
+{
+    QString error;
+    if (!commandLine.picture.isEmpty() && !Picture::hasKnownFormat(commandLine.picture, &error))
+        return fail(error);
+    return ProgramRun::start(argv + commandLine.options.size() + 2, commandLine.options,
+        commandLine.endsProgram() ? ProgramRun::Output::Error : ProgramRun::Output::Own);
+}
+
 // A picture needs no display, so none is opened, unless there is one and a platform was asked for.
 void drawOffscreen()
 {
@@ -136,8 +145,6 @@ int runWindow(const CommandLine& commandLine)
 
 int CrvInspectorProgram::run(int argc, char** argv)
 {
-    if (ProgramRun::isWanted(argc, argv))
-        return ProgramRun::start(argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Orbel"));
     QCoreApplication::setApplicationName(QStringLiteral("Corvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVANE_VERSION));
@@ -145,6 +152,8 @@ int CrvInspectorProgram::run(int argc, char** argv)
     const CommandLine commandLine = CommandLine::parse(argumentList(argc, argv));
     if (commandLine.request == CommandLine::Request::Error)
         return fail(commandLine.error);
+    if (commandLine.request == CommandLine::Request::Program)
+        return runProgram(argv, commandLine);
     if (commandLine.request == CommandLine::Request::Script)
         return runScript(commandLine.script);
     if (commandLine.request != CommandLine::Request::Run)

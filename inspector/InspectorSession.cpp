@@ -43,10 +43,12 @@ bool endDialog(QWidget* widget)
 
 } // namespace
 
-InspectorSession::InspectorSession()
-    : m_settings(QStringLiteral("Orbel"), QStringLiteral("Corvane"))
-    , m_window(&m_settings, MainWindow::Role::Guest)
-    , m_profile(ProfileMemory::lastProfile(m_settings))
+InspectorSession::InspectorSession(Memory memory)
+    : m_settings(memory == Memory::None
+            ? nullptr
+            : std::make_unique<QSettings>(QStringLiteral("Orbel"), QStringLiteral("Corvane")))
+    , m_window(m_settings.get(), MainWindow::Role::Guest)
+    , m_profile(m_settings ? ProfileMemory::lastProfile(*m_settings) : nullptr)
 {
     connect(&m_window, &MainWindow::closed, this, &InspectorSession::putAway);
     CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
@@ -69,11 +71,11 @@ InspectorSession::~InspectorSession()
 
 InspectorSession* InspectorSession::getInstance() { return instance; }
 
-InspectorSession* InspectorSession::make()
+InspectorSession* InspectorSession::make(Memory memory)
 {
     // Made first, they end after the session.
     CrvPluginsManager::getInstance();
-    instance = new InspectorSession;
+    instance = new InspectorSession(memory);
     qAddPostRoutine(destroy);
     return instance;
 }
@@ -129,7 +131,9 @@ void InspectorSession::open(const std::vector<KnNodePtr>& roots)
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
     m_window.raise();
-    m_window.activateWindow();
+    // Somebody who works in the program's own window goes on doing so.
+    if (!m_window.testAttribute(Qt::WA_ShowWithoutActivating))
+        m_window.activateWindow();
 }
 
 void InspectorSession::close()

@@ -6,6 +6,7 @@
 
 #include <QSettings>
 
+#include <memory>
 #include <vector>
 
 class CrvProfile;
@@ -16,11 +17,17 @@ class CrvProfile;
 class InspectorSession : public QObject {
     Q_OBJECT
 public:
+    /// What a person's settings mean to it.
+    enum class Memory {
+        Kept, ///< layout and profile are those of last time
+        None, ///< as for somebody new, and nothing is kept
+    };
+
     /// Null if there is none. It goes with the application object at the latest.
     static InspectorSession* getInstance();
     /// Loads the default extensions, or says on `std::cerr` why it can't. Called while there is an
     /// application object, no session and no shell.
-    static InspectorSession* make();
+    static InspectorSession* make(Memory memory = Memory::Kept);
     /// Closes the window, unloads the plug-ins and destroys the session, if there is one. Below a
     /// dialog of the window that can't be unwound from here, all but the closing comes later, when
     /// the dialog has returned.
@@ -38,7 +45,7 @@ public:
     Q_DISABLE_COPY_MOVE(InspectorSession)
 
 private:
-    InspectorSession();
+    explicit InspectorSession(Memory memory);
     ~InspectorSession() override;
 
     static void destroy();
@@ -46,7 +53,7 @@ private:
     bool endDialogs();
     void putAway();
 
-    QSettings m_settings;
+    const std::unique_ptr<QSettings> m_settings; // null for Memory::None
     MainWindow m_window;
     CrvProfile* m_profile; // the manager's; active while the window is open
     bool m_open = false;

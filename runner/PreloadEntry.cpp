@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "CrvObjects.h"
+#include "OwnObjects.h"
 #include "ProgramInspector.h"
+#include "ProgramRoots.h"
+#include "ProgramSession.h"
+#include "ProgramStart.h"
 
 #include <QApplication>
 #include <QByteArrayList>
 
 #include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <utility>
 
 #include <dlfcn.h>
@@ -14,7 +20,12 @@
 
 namespace {
 
+constexpr int refused = 2; // the status without an answer
+
 bool applicationSeen = false;
+bool answerWaits = false;
+const ProgramSession* session = nullptr; // lives as long as the process
+ProgramStart* programStart = nullptr; // until the program has settled, or the application ends
 ProgramInspector* inspector = nullptr; // goes with the application object
 
 void complain(const char* what)
@@ -40,33 +51,79 @@ void leavePreload()
         setenv("LD_PRELOAD", rest.join(':').constData(), 1);
 }
 
+/// What the program has written to its own streams is kept.
+[[noreturn]] void endRefused()
+{
+    std::cout.flush();
+    std::fflush(nullptr);
+    std::_Exit(refused);
+}
+
 void atEnd()
 {
     if (!applicationSeen)
         complain("has ended without an application object of Qt 6, so there was nothing to show");
+    else if (answerWaits)
+        complain("has ended before it could be looked into");
+    if (answerWaits)
+        endRefused();
 }
 
 [[gnu::constructor]] void libraryLoaded()
 {
+    ProgramStart::begin();
     leavePreload();
+    session = new ProgramSession;
+    answerWaits = session->endsProgram();
     std::atexit(&atEnd);
+}
+
+ProgramSession::Roots rootNodes()
+{
+    ProgramSession::Roots nodes;
+    for (QObject* const root : programRoots(OwnObjects()))
+        nodes.emplace_back(crvObjectNode(root));
+    return nodes;
 }
 
 void openInspector()
 {
-    if (!qobject_cast<QApplication*>(QCoreApplication::instance())) {
+    answerWaits = false;
+    if (session->endsProgram() && !session->needsWindow())
+        session->answer(&rootNodes);
+    inspector = new ProgramInspector(*session);
+    if (session->endsProgram())
+        session->answer(&rootNodes);
+}
+
+void waitForProgram()
+{
+    session->applicationMade();
+    if (session->needsWindow() && !qobject_cast<QApplication*>(QCoreApplication::instance())) {
         complain("has no QApplication, so the inspector can't have a window in it");
+        if (session->endsProgram())
+            endRefused();
         return;
     }
-    inspector = new ProgramInspector;
-    qAddPostRoutine([] { delete std::exchange(inspector, nullptr); });
+    programStart = new ProgramStart(session->after());
+    QObject::connect(programStart, &ProgramStart::settled, programStart, [] {
+        std::exchange(programStart, nullptr)->deleteLater();
+        openInspector();
+    });
+}
+
+void applicationEnds()
+{
+    delete std::exchange(programStart, nullptr);
+    delete std::exchange(inspector, nullptr);
 }
 
 /// Called by the constructor of the application object, which isn't complete yet.
 void applicationMade()
 {
     applicationSeen = true;
-    QMetaObject::invokeMethod(QCoreApplication::instance(), &openInspector, Qt::QueuedConnection);
+    qAddPostRoutine(&applicationEnds);
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &waitForProgram, Qt::QueuedConnection);
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include "CrvServices.h"
 #include "KnGroup.h"
 #include "KnNodePtr.h"
+#include "ProgramRoots.h"
+#include "ProgramSession.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -12,24 +14,37 @@
 
 #include <vector>
 
-ProgramInspector::ProgramInspector()
+namespace {
+
+bool isWindow(const QObject* object)
+{
+    return object->isWidgetType() && static_cast<const QWidget*>(object)->isWindow();
+}
+
+} // namespace
+
+ProgramInspector::ProgramInspector(const ProgramSession& session)
 {
     // What the first `show` makes is the inspector's, also the editors that no dock shows as yet.
     QObject* const application = QCoreApplication::instance();
     const QWidgetList before = QApplication::topLevelWidgets();
     const QObjectList children = application->children();
+    session.prepareWindow();
     m_inspector.show();
     for (QObject* const child : application->children()) {
         // Qt keeps the gestures of all windows together, those of the inspector among them.
         if (!children.contains(child) || child->inherits("QGestureManager"))
             crvHideObject(child);
     }
-    const QWidgetList after = QApplication::topLevelWidgets();
-    m_own = OwnWidgets(after.begin(), after.end());
-    for (const QWidget* const widget : before)
-        m_own.remove(widget);
+    QWidget* const window = m_inspector.window();
+    if (!window)
+        return; // it has said why
+    m_own.take(window, before);
+    m_exemption = std::make_unique<ModalExemption>(window);
     application->installEventFilter(this);
     updateRoots();
+    if (!session.endsProgram())
+        session.select();
 }
 
 ProgramInspector::~ProgramInspector() = default;
@@ -42,10 +57,22 @@ bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
         if (watched->isWidgetType() || watched->isWindowType())
             updateRootsSoon();
         break;
+    case QEvent::WindowBlocked:
+        if (watched->isWindowType() && m_own.contains(watched))
+            m_exemption->windowBlocked();
+        break;
+    case QEvent::Polish:
+        if (isWindow(watched) && m_own.contains(watched))
+            m_exemption->windowPolished(static_cast<QWidget*>(watched));
+        break;
+    case QEvent::Hide:
+        if (watched == m_inspector.window() && !m_inspector.isOpen())
+            windowClosed();
+        break;
     case QEvent::MouseButtonPress: {
         const auto modifiers = static_cast<const QMouseEvent*>(event)->modifiers();
         if (!watched->isWidgetType() || modifiers != (Qt::ControlModifier | Qt::ShiftModifier)
-            || belongsTo(watched, m_own))
+            || m_own.contains(watched))
             break;
         select(watched);
         return true;
@@ -54,6 +81,13 @@ bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
         break;
     }
     return false;
+}
+
+/// What is closed costs nothing.
+void ProgramInspector::windowClosed()
+{
+    QCoreApplication::instance()->removeEventFilter(this);
+    m_exemption.reset();
 }
 
 void ProgramInspector::rootDestroyed()

@@ -2,30 +2,40 @@
 #pragma once
 
 #include "CrvInspector.h"
-#include "ProgramRoots.h"
+#include "ModalExemption.h"
+#include "OwnObjects.h"
 
 #include <QObject>
+#include <QObjectList>
+
+#include <memory>
+
+class ProgramSession;
 
 /// The inspector in a program that knows nothing of it. Shows the program's objects, follows
-/// windows that come and go, and selects the widget that is clicked with Ctrl and Shift held. It
-/// looks at the events of the program's windows for that, and takes none but this click.
+/// windows that come and go, and selects the widget that is clicked with Ctrl and Shift held. While
+/// its window is open it looks at the events of the program's windows for that, and takes none but
+/// this click.
 class ProgramInspector : public QObject {
     Q_OBJECT
 public:
-    /// Needs a QApplication. Opens the window.
-    ProgramInspector();
+    /// Needs a QApplication. Opens the window, and selects what the command line asks for unless
+    /// that is left to an answer.
+    explicit ProgramInspector(const ProgramSession& session);
     ~ProgramInspector() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void windowClosed();
     void rootDestroyed();
     void updateRootsSoon();
     void updateRoots();
     void select(QObject* object);
 
     CrvInspector m_inspector;
-    OwnWidgets m_own;
+    OwnObjects m_own;
+    std::unique_ptr<ModalExemption> m_exemption; // null without a window
     QObjectList m_roots; // what is shown; empty when that has to change
     bool m_updateWaits = false;
 };

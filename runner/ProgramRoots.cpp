@@ -1,23 +1,18 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ProgramRoots.h"
 
+#include "OwnObjects.h"
+
 #include <QApplication>
 #include <QWidget>
 #include <QWindow>
 
-bool belongsTo(const QObject* object, const OwnWidgets& own)
-{
-    while (object && !own.contains(object))
-        object = object->parent();
-    return object != nullptr;
-}
-
-QObjectList programRoots(const OwnWidgets& own)
+QObjectList programRoots(const OwnObjects& own)
 {
     QObjectList roots { QCoreApplication::instance() };
     const QWidgetList widgets = QApplication::topLevelWidgets();
     for (QWidget* const widget : widgets) {
-        if (!widget->parent() && !belongsTo(widget, own))
+        if (!widget->parent() && !own.contains(widget))
             roots += widget;
     }
     const QWindowList windows = QGuiApplication::topLevelWindows();

@@ -18,9 +18,10 @@ function layer(folder, below,    names, count, i) {
 }
 
 # The layer of a file. In platform and in the inspector each folder is one, elsewhere the outermost
-# folder is. The header of the inspector that programs include is a layer by itself.
+# folder is. Of the inspector, the header that programs include is a layer by itself, and
+# the one for what is preloaded into programs.
 function layerOf(path,    folder) {
-    if (path == published)
+    if (path == published || path == preloaded)
         return path
     folder = path
     sub(/\/[^\/]*$/, "", folder)
@@ -58,10 +59,12 @@ BEGIN {
     layer("inspector/process", platform " inspector/text")
     published = "inspector/CrvInspector.h"
     layer(published, "")
-    layer("inspector", platform " " published \
+    preloaded = "inspector/ProgramSession.h"
+    layer(preloaded, platform)
+    layer("inspector", platform " " published " " preloaded \
         " inspector/text inspector/edits inspector/scene inspector/script inspector/structure inspector/watch inspector/window" \
         " inspector/process")
-    layer("runner", platform " bridge " published)
+    layer("runner", platform " bridge " published " " preloaded)
     layer("examples", platform " " published) # written as if by somebody else
 }
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ProgramRun.h"
 
+#include "DisplayCheck.h"
 #include "Messages.h"
 #include "OwnFolder.h"
+#include "ProgramRequest.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -20,6 +22,8 @@ enum Status { UsageError = 2, CannotRun = 126, NotFound = 127 };
 // The dynamic linker parts the names of libraries by these.
 const QLatin1String separators(" :");
 
+QString tr(const char* text) { return QCoreApplication::translate("ProgramRun", text); }
+
 int fail(Status status, const QString& error)
 {
     complainToTerminal(QStringLiteral("corvane: ") + error);
@@ -31,29 +35,45 @@ bool holdsSeparator(const QString& path)
     return path.contains(separators[0]) || path.contains(separators[1]);
 }
 
-} // namespace
-
-bool ProgramRun::isWanted(int argc, char** argv)
+/// Answers need no display.
+void handOver(const QStringList& options, ProgramRun::Output output)
 {
-    return argc > 1 && (std::strcmp(argv[1], "--run") == 0 || std::strcmp(argv[1], "-run") == 0);
+    if (options.isEmpty())
+        return;
+    ProgramRequest request { options };
+    if (output == ProgramRun::Output::Error) {
+        request.output = dup(STDOUT_FILENO);
+        dup2(STDERR_FILENO, STDOUT_FILENO);
+        request.offscreen = !displayAnswers(qEnvironmentVariable("QT_QPA_PLATFORM"));
+        if (request.offscreen)
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    request.leave();
 }
 
-int ProgramRun::start(char** argv)
+} // namespace
+
+qsizetype ProgramRun::indexIn(const QStringList& arguments)
 {
-    char** const command = argv + 2;
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        if (arguments[i] == QLatin1String("--run") || arguments[i] == QLatin1String("-run"))
+            return i;
+    }
+    return -1;
+}
+
+int ProgramRun::start(char** command, const QStringList& options, Output output)
+{
     if (!*command)
-        return fail(UsageError,
-            QCoreApplication::translate("ProgramRun", "--run needs the name of a program"));
+        return fail(UsageError, tr("--run needs the name of a program"));
     const QString library = ownFile(QStringLiteral(CORVANE_RUN_FILE));
     if (!QFileInfo::exists(library))
-        return fail(
-            UsageError, QCoreApplication::translate("ProgramRun", "%1 is missing").arg(library));
+        return fail(UsageError, tr("%1 is missing").arg(library));
     if (holdsSeparator(library))
         return fail(UsageError,
-            QCoreApplication::translate("ProgramRun",
-                "a library can't be preloaded from a folder with a blank or a colon "
-                "in its name: %1")
+            tr("a library can't be preloaded from a folder with a blank or a colon in its name: %1")
                 .arg(library));
+    handOver(options, output);
     // What the caller preloads stays, behind ours.
     QByteArray preload = QFile::encodeName(library);
     const QByteArray callers = qgetenv("LD_PRELOAD");

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -17,7 +18,7 @@ struct Result {
     bool crashed = false;
 };
 
-Result run(const QStringList& arguments, const QString& preload = QString())
+Result corvane(const QStringList& arguments, const QString& preload = QString())
 {
     const QTemporaryDir settings;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -27,11 +28,16 @@ Result run(const QStringList& arguments, const QString& preload = QString())
         environment.insert(u"LD_PRELOAD"_s, preload);
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(CORVANE_PROGRAM), QStringList { u"--run"_s } + arguments);
+    process.start(QStringLiteral(CORVANE_PROGRAM), arguments);
     process.waitForFinished(-1); // however long a busy machine takes
     return { QString::fromUtf8(process.readAllStandardOutput()),
         QString::fromUtf8(process.readAllStandardError()), process.exitCode(),
         process.exitStatus() == QProcess::CrashExit };
+}
+
+Result run(const QStringList& arguments, const QString& preload = QString())
+{
+    return corvane(QStringList { u"--run"_s } + arguments, preload);
 }
 
 } // namespace
@@ -45,6 +51,78 @@ private Q_SLOTS:
         QCOMPARE(result.out,
             u"roots guest window\n0 gestures\nselected 1, 0 clicks\n1 clicks\nsecond 1\ngone 1\npreload \n"_s);
         QCOMPARE(result.status, 7);
+    }
+
+    void modalWindowsDontMix()
+    {
+        const Result result = run({ guest, u"modal"_s });
+        QCOMPARE(result.out, u"below one 1\nbelow two 1\nback 1, 1 0\nown 0, 1\nfree 1\n"_s);
+    }
+
+    void eitherWindowMayCloseFirst()
+    {
+        const Result result = run({ guest, u"closing"_s });
+        QCOMPARE(result.out, u"2 windows\n"_s);
+        QCOMPARE(result.status, 5);
+        const Result other = run({ guest, u"closing"_s, u"inspector"_s });
+        QCOMPARE(other.out, u"1 windows\n"_s);
+        QCOMPARE(other.status, 5);
+    }
+
+    void answers_data()
+    {
+        // What is asked, by words with bars between, the answer or a part of the complaint, and the
+        // status.
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<int>("status");
+        QTest::addRow("get") << u"--get|window/button.text"_s << u"\"Go\"\n"_s << 0;
+        QTest::addRow("by class") << u"--get|QPushButton.text"_s << u"\"Go\"\n"_s << 0;
+        QTest::addRow("set goes through the setter")
+            << u"--set|button.text=Stop|--get|button.text|--set|window.minimumWidth=700|--get|window.width"_s
+            << u"\"Stop\"\n700\n"_s << 0;
+        QTest::addRow("after a time")
+            << u"--after|0.1|--get|guest.objectName"_s << u"\"guest\"\n"_s << 0;
+        QTest::addRow("too late") << u"--after|1000|--get|guest.objectName"_s
+                                  << u"has ended before it could be looked into"_s << 2;
+        QTest::addRow("no object")
+            << u"--get|button.text|--get|buton.text"_s << u"did you mean \"button\"?"_s << 2;
+        QTest::addRow("read-only")
+            << u"--set|window.size=1 1|--set|window.x=3"_s << u"window.x: "_s << 2;
+        QTest::addRow("picture") << u"--select|button.text|--picture|%1/a.png"_s
+                                 << u"Wrote %1/a.png\n"_s << 0;
+        QTest::addRow("nothing to draw")
+            << u"--select|buton|--picture|%1/a.png"_s << u"did you mean \"button\"?"_s << 2;
+        QTest::addRow("no window to select in")
+            << u"--list|--select|button"_s << u"'--select'"_s << 2;
+        QTest::addRow("scene") << u"scene.json"_s << u"'scene.json'"_s << 2;
+        QTest::addRow("of scenes") << u"--profile|Fields"_s << u"'--profile' means nothing"_s << 2;
+        QTest::addRow("bad time") << u"--after|soon"_s << u"Bad time 'soon'"_s << 2;
+    }
+    void answers()
+    {
+        QFETCH(QString, options);
+        QFETCH(QString, message);
+        QFETCH(int, status);
+        const QTemporaryDir folder;
+        QStringList words = options.split(u'|');
+        words.replaceInStrings(u"%1"_s, folder.path());
+        const Result result = corvane(words + QStringList { u"--run"_s, guest, u"quiet"_s });
+        QVERIFY2(result.status == status, qPrintable(result.error));
+        QCOMPARE(QFileInfo::exists(folder.filePath(u"a.png"_s)), message.startsWith(u"Wrote"_s));
+        if (status == 0)
+            QCOMPARE(result.out, message.replace(u"%1"_s, folder.path()));
+        else
+            QVERIFY2(result.error.contains(message), qPrintable(result.error));
+        QVERIFY(status == 0 || result.out.isEmpty());
+    }
+
+    void aListHoldsTheProgramAlone()
+    {
+        const Result result = corvane({ u"--list"_s, u"--run"_s, guest, u"quiet"_s });
+        QVERIFY(result.out.startsWith(u"guest\tQApplication\n"_s));
+        QVERIFY(result.out.contains(u"\nwindow/button.text\tSFString\t\"Go\"\n"_s));
+        QVERIFY(!result.out.contains(u"sceneTree"_s) && !result.out.contains(u"noise"_s));
     }
 
     void whatTheCallerPreloadsStays()
