@@ -54,27 +54,21 @@ bool writeTo(int stream, const QByteArray& output)
 } // namespace
 
 ProgramSession::ProgramSession()
-    : m_commandLine(std::make_unique<CommandLine>())
+    : m_request(std::make_unique<ProgramRequest>(ProgramRequest::read()))
+    , m_commandLine(std::make_unique<CommandLine>())
 {
-    const ProgramRequest request = ProgramRequest::take();
-    m_output = request.output;
-    m_offscreen = request.offscreen;
-    if (request.options.isEmpty())
+    if (m_request->options.isEmpty())
         return;
     // They were found to be right before the program was started.
     *m_commandLine = CommandLine::parse(
-        QStringList { QString() } + request.options + QStringList { QStringLiteral("--run") });
+        QStringList { QString() } + m_request->options + QStringList { QStringLiteral("--run") });
     m_pictureFile = QFileInfo(m_commandLine->picture).absoluteFilePath();
 }
 
 ProgramSession::~ProgramSession() = default;
 
-void ProgramSession::applicationMade() const
-{
-    if (m_offscreen)
-        qunsetenv("QT_QPA_PLATFORM");
-}
-
+bool ProgramSession::isFirstProcess() const { return m_request->process == getpid(); }
+void ProgramSession::applicationMade() const { m_request->remove(); }
 std::optional<double> ProgramSession::after() const { return m_commandLine->after; }
 bool ProgramSession::endsProgram() const { return m_commandLine->endsProgram(); }
 bool ProgramSession::needsWindow() const { return m_commandLine->script.steps.isEmpty(); }
@@ -121,7 +115,7 @@ bool ProgramSession::runSteps(const std::function<Roots()>& roots) const
         if (step.kind == SceneScript::Step::Kind::Set)
             QCoreApplication::processEvents();
     }
-    return writeTo(m_output, output);
+    return writeTo(m_request->output, output);
 }
 
 bool ProgramSession::takePicture() const
@@ -133,5 +127,5 @@ bool ProgramSession::takePicture() const
             m_pictureFile, &error))
         return fail(error);
     return writeTo(
-        m_output, CommandLine::tr("Wrote %1").arg(m_commandLine->picture).toUtf8() + '\n');
+        m_request->output, CommandLine::tr("Wrote %1").arg(m_commandLine->picture).toUtf8() + '\n');
 }

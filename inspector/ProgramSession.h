@@ -11,6 +11,7 @@
 #include <vector>
 
 class CommandLine;
+struct ProgramRequest;
 
 /// What `corvane --run` was asked to do, from within the program that it has started: for the
 /// library that is preloaded there.
@@ -18,14 +19,17 @@ class ProgramSession {
 public:
     using Roots = std::vector<KnNodePtr>;
 
-    /// Takes what was handed over out of the environment. Made before the program does anything,
-    /// since names of files are seen from the folder in which it was started.
+    /// Reads what was handed over. Made before the program does anything, since names of files are
+    /// seen from the folder in which it was started.
     ProgramSession();
     ProgramSession(const ProgramSession&) = delete;
     ProgramSession& operator=(const ProgramSession&) = delete;
     ~ProgramSession();
 
-    /// To be called when the application object has found its platform.
+    /// Whether this is the process that was started, and not one that it has started itself.
+    bool isFirstProcess() const;
+    /// Takes what was handed over out of the environment. To be called when the application object
+    /// has found its platform.
     void applicationMade() const;
     /// Seconds from the program's start until it is to be looked into; none if it is to settle.
     std::optional<double> after() const;
@@ -49,8 +53,7 @@ private:
     bool runSteps(const std::function<Roots()>& roots) const;
     bool takePicture() const;
 
+    const std::unique_ptr<const ProgramRequest> m_request;
     const std::unique_ptr<CommandLine> m_commandLine;
     QString m_pictureFile; // absolute
-    int m_output = -1; // the caller's standard output
-    bool m_offscreen = false;
 };

@@ -15,6 +15,7 @@
 #include <utility>
 
 #include <dlfcn.h>
+#include <unistd.h>
 
 // What happens in the program that `corvane --run` has become.
 
@@ -22,6 +23,7 @@ namespace {
 
 constexpr int refused = 2; // the status without an answer
 
+pid_t loadingProcess = -1;
 bool applicationSeen = false;
 bool answerWaits = false;
 const ProgramSession* session = nullptr; // lives as long as the process
@@ -61,6 +63,9 @@ void leavePreload()
 
 void atEnd()
 {
+    // Neither a process that the program has forked, nor a helper of a script that starts it.
+    if (getpid() != loadingProcess || (!applicationSeen && !session->isFirstProcess()))
+        return;
     if (!applicationSeen)
         complain("has ended without an application object of Qt 6, so there was nothing to show");
     else if (answerWaits)
@@ -72,7 +77,7 @@ void atEnd()
 [[gnu::constructor]] void libraryLoaded()
 {
     ProgramStart::begin();
-    leavePreload();
+    loadingProcess = getpid();
     session = new ProgramSession;
     answerWaits = session->endsProgram();
     std::atexit(&atEnd);
@@ -98,7 +103,6 @@ void openInspector()
 
 void waitForProgram()
 {
-    session->applicationMade();
     if (session->needsWindow() && !qobject_cast<QApplication*>(QCoreApplication::instance())) {
         complain("has no QApplication, so the inspector can't have a window in it");
         if (session->endsProgram())
@@ -122,6 +126,9 @@ void applicationEnds()
 void applicationMade()
 {
     applicationSeen = true;
+    // What runs before Qt may become another program yet, or start it, as scripts do.
+    leavePreload();
+    session->applicationMade();
     qAddPostRoutine(&applicationEnds);
     QMetaObject::invokeMethod(QCoreApplication::instance(), &waitForProgram, Qt::QueuedConnection);
 }

@@ -5,8 +5,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <cstdlib>
-
 #include <fcntl.h>
 
 namespace {
@@ -14,6 +12,7 @@ namespace {
 constexpr const char* variable = "CORVANE_RUN_REQUEST";
 
 constexpr QLatin1String optionsKey("options");
+constexpr QLatin1String processKey("process");
 constexpr QLatin1String outputKey("output");
 constexpr QLatin1String offscreenKey("offscreen");
 
@@ -22,21 +21,27 @@ constexpr QLatin1String offscreenKey("offscreen");
 void ProgramRequest::leave() const
 {
     const QJsonObject object { { optionsKey, QJsonArray::fromStringList(options) },
-        { outputKey, output }, { offscreenKey, offscreen } };
+        { processKey, process }, { outputKey, output }, { offscreenKey, offscreen } };
     qputenv(variable, QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-ProgramRequest ProgramRequest::take()
+ProgramRequest ProgramRequest::read()
 {
     const QJsonObject object = QJsonDocument::fromJson(qgetenv(variable)).object();
-    qunsetenv(variable);
     ProgramRequest request;
     for (const auto& option : object.value(optionsKey).toArray())
         request.options += option.toString();
+    request.process = object.value(processKey).toInteger(-1);
     request.output = object.value(outputKey).toInt(-1);
     request.offscreen = object.value(offscreenKey).toBool();
-    // What the program starts doesn't get the stream either.
-    if (request.output >= 0)
-        fcntl(request.output, F_SETFD, FD_CLOEXEC);
     return request;
+}
+
+void ProgramRequest::remove() const
+{
+    qunsetenv(variable);
+    if (offscreen)
+        qunsetenv("QT_QPA_PLATFORM");
+    if (output >= 0)
+        fcntl(output, F_SETFD, FD_CLOEXEC);
 }

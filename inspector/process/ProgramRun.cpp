@@ -4,6 +4,7 @@
 #include "DisplayCheck.h"
 #include "Messages.h"
 #include "OwnFolder.h"
+#include "ProgramFile.h"
 #include "ProgramRequest.h"
 
 #include <QCoreApplication>
@@ -11,7 +12,6 @@
 #include <QFileInfo>
 
 #include <cerrno>
-#include <cstring>
 
 #include <unistd.h>
 
@@ -38,9 +38,9 @@ bool holdsSeparator(const QString& path)
 /// Answers need no display.
 void handOver(const QStringList& options, ProgramRun::Output output)
 {
-    if (options.isEmpty())
-        return;
-    ProgramRequest request { options };
+    ProgramRequest request;
+    request.options = options;
+    request.process = getpid();
     if (output == ProgramRun::Output::Error) {
         request.output = dup(STDOUT_FILENO);
         dup2(STDERR_FILENO, STDOUT_FILENO);
@@ -73,6 +73,13 @@ int ProgramRun::start(char** command, const QStringList& options, Output output)
         return fail(UsageError,
             tr("a library can't be preloaded from a folder with a blank or a colon in its name: %1")
                 .arg(library));
+    const QString name = QFile::decodeName(*command);
+    const QByteArray file = ProgramFile::find(*command);
+    if (file.isEmpty())
+        return fail(NotFound, tr("%1: there is no such program").arg(name));
+    const QString objection = ProgramFile::objection(file);
+    if (!objection.isEmpty())
+        return fail(CannotRun, QStringLiteral("%1: %2").arg(name, objection));
     handOver(options, output);
     // What the caller preloads stays, behind ours.
     QByteArray preload = QFile::encodeName(library);
@@ -82,7 +89,6 @@ int ProgramRun::start(char** command, const QStringList& options, Output output)
     qputenv("LD_PRELOAD", preload);
     execvp(*command, command);
     const int error = errno;
-    return fail(error == ENOENT ? NotFound : CannotRun,
-        QStringLiteral("%1: %2").arg(
-            QFile::decodeName(*command), QString::fromLocal8Bit(std::strerror(error))));
+    return fail(
+        CannotRun, QStringLiteral("%1: %2").arg(name, ProgramFile::startError(file, error)));
 }

@@ -125,6 +125,32 @@ private Q_SLOTS:
         QVERIFY(!result.out.contains(u"sceneTree"_s) && !result.out.contains(u"noise"_s));
     }
 
+    void scriptsLeadToTheProgram_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<QString>("error");
+        QTest::addRow("becomes it")
+            << QByteArray("#!/usr/bin/env sh\ntrue\nexec \"$@\"\n") << QString();
+        QTest::addRow("starts it") << QByteArray("#!/bin/sh\ntrue\n\"$@\"\n") << QString();
+        QTest::addRow("no interpreter") << QByteArray("#!/no/such/shell -x\n")
+                                        << u"its interpreter /no/such/shell is missing\n"_s;
+    }
+    void scriptsLeadToTheProgram()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QString, error);
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"start"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(script) > 0);
+        QVERIFY(file.setPermissions(QFile::ReadUser | QFile::ExeUser));
+        file.close();
+        const Result result = corvane(
+            { u"--get"_s, u"button.text"_s, u"--run"_s, file.fileName(), guest, u"quiet"_s });
+        QCOMPARE(result.out, error.isEmpty() ? u"\"Go\"\n"_s : QString());
+        QVERIFY2(result.error.endsWith(error) && !result.error.contains(u"has ended"_s),
+            qPrintable(result.error));
+    }
+
     void whatTheCallerPreloadsStays()
     {
         const Result result = run({ guest, u"widgets"_s }, u"libm.so.6 libc.so.6"_s);
@@ -137,9 +163,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         QTest::addColumn<int>("status");
         QTest::addRow("no program") << QStringList() << u"--run needs the name of a program"_s << 2;
-        QTest::addRow("missing") << QStringList { u"/no/such"_s } << u"corvane: /no/such: "_s
-                                 << 127;
-        QTest::addRow("folder") << QStringList { u"/"_s } << u"corvane: /: "_s << 126;
+        QTest::addRow("missing") << QStringList { u"/no/such"_s }
+                                 << u"corvane: /no/such: there is no such program"_s << 127;
+        QTest::addRow("not in the path")
+            << QStringList { u"no-such-program"_s } << u"there is no such program"_s << 127;
+        QTest::addRow("folder") << QStringList { u"/"_s } << u"corvane: /: this is a folder"_s
+                                << 126;
+        QTest::addRow("not executable")
+            << QStringList { QStringLiteral(CORVANE_SOURCE) } << u"Permission denied"_s << 126;
+        QTest::addRow("static") << QStringList { u"/sbin/ldconfig"_s }
+                                << u"it is linked statically"_s << 126;
+        QTest::addRow("other rights")
+            << QStringList { u"chage"_s } << u"other rights than yours"_s << 126;
+        QTest::addRow("Qt 5") << QStringList { QStringLiteral(CORVANE_OLD_GUEST) }
+                              << u"it is a program of Qt 5"_s << 126;
         QTest::addRow("not of Qt") << QStringList { u"/bin/false"_s }
                                    << u"has ended without an application object of Qt 6"_s << 1;
         QTest::addRow("without widgets")
