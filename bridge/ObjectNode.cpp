@@ -2,7 +2,10 @@
 #include "ObjectNode.h"
 
 #include "CrvStrings.h"
+#include "KnFieldTableSensor.h"
 #include "KnSFields.h"
+#include "NodeHold.h"
+#include "PropertyField.h"
 #include "PropertyFieldMaker.h"
 #include "PropertyPlace.h"
 
@@ -47,8 +50,6 @@ ObjectNode::ObjectNode(QObject* object)
     setName(KbName(toKbString(object->objectName())));
     makeChildrenLater();
     ObjectWatch::getInstance().addFollower(object, this);
-    if (!isForeign())
-        followDynamicProperties();
 }
 
 ObjectNode::~ObjectNode()
@@ -63,6 +64,7 @@ bool ObjectNode::isForeign() const { return m_object->thread() != QThread::curre
 
 const KnFieldData* ObjectNode::getContainerFieldData() const
 {
+    const_cast<ObjectNode*>(this)->watchEvents(); // somebody looks
     return m_ownTable ? m_ownTable.get() : &m_class->fields;
 }
 
@@ -72,10 +74,24 @@ KnField* ObjectNode::ownField(int index)
     if (m_fields.size() <= place)
         m_fields.resize(static_cast<std::size_t>(getContainerFieldData()->getNum()));
     if (!m_fields[place]) {
-        m_fields[place] = makeField(index);
-        adopt(*m_fields[place]);
+        // A getter may do anything, even look at this field.
+        std::unique_ptr<KnField> made = makeField(index);
+        if (!m_fields[place]) {
+            m_fields[place] = std::move(made);
+            adopt(*m_fields[place]);
+        }
     }
     return m_fields[place].get();
+}
+
+/// The first look at the fields or the children.
+void ObjectNode::watchEvents()
+{
+    if (m_watchesEvents || !m_object || isForeign())
+        return;
+    m_watchesEvents = true;
+    ObjectWatch::getInstance().watchEvents(m_object);
+    followDynamicProperties(); // those that have come since the node was made
 }
 
 std::unique_ptr<KnField> ObjectNode::makeField(int index) const
@@ -98,16 +114,28 @@ int ObjectNode::ownIndex(const KnField* field) const
 {
     const auto found = std::find_if(m_fields.begin(), m_fields.end(),
         [field](const std::unique_ptr<KnField>& own) { return own.get() == field; });
-    return found == m_fields.end() || !field ? -1 : static_cast<int>(found - m_fields.begin());
+    if (found != m_fields.end() && field)
+        return static_cast<int>(found - m_fields.begin());
+    for (const FormerField& former : m_formerFields) {
+        if (former.field.get() == field)
+            return former.index;
+    }
+    return -1;
 }
 
-void ObjectNode::makeChildren() { followChildren(); }
+void ObjectNode::makeChildren()
+{
+    watchEvents();
+    followChildren();
+}
 
 void ObjectNode::followObject()
 {
+    const NodeHold hold(this);
     if (m_object && !isForeign()) {
         setName(KbName(toKbString(m_object->objectName())));
         followDynamicProperties();
+        exchangeOutgrownFields();
     }
     if (!waitsForLook())
         followChildren();
@@ -116,7 +144,9 @@ void ObjectNode::followObject()
 void ObjectNode::followChildren()
 {
     QObjectList objects = m_object && !isForeign() ? m_object->children() : QObjectList();
-    objects.removeIf([](QObject* object) { return ObjectWatch::getInstance().isHidden(object); });
+    // While children are destroyed, there are gaps among them.
+    objects.removeIf(
+        [](QObject* object) { return !object || ObjectWatch::getInstance().isHidden(object); });
     const int newCount = static_cast<int>(objects.size());
     const int oldCount = getNumMadeChildren();
     const auto stands = [&](int child, int object) {
@@ -148,5 +178,37 @@ void ObjectNode::followDynamicProperties()
         if (!m_ownTable)
             m_ownTable = std::make_unique<KnFieldData>(m_class->fields);
         m_ownTable->addOwnField(fieldName);
+        KnFieldTableSensor::report(*this);
+    }
+}
+
+void ObjectNode::exchangeOutgrownFields()
+{
+    // No signal announces a dynamic property.
+    for (std::size_t i = m_class->properties.size(); i < m_fields.size(); ++i) {
+        if (auto* const property = dynamic_cast<PropertyField*>(m_fields[i].get()))
+            property->refresh();
+    }
+    // Asking reads the property, and a getter may do anything, so nothing is kept across that.
+    const auto isOutgrown = [](const KnField* field) {
+        const auto* const property = dynamic_cast<const PropertyField*>(field);
+        return property && property->isOutgrown();
+    };
+    for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        const KnField* const field = m_fields[i].get();
+        if (!isOutgrown(field) || m_fields[i].get() != field)
+            continue;
+        m_formerFields.push_back({ static_cast<int>(i), std::move(m_fields[i]) });
+        // One that was here before may be the right one again.
+        for (std::size_t j = 0; j < m_formerFields.size() && !m_fields[i]; ++j) {
+            KnField* const former = m_formerFields[j].field.get();
+            const bool isBack = m_formerFields[j].index == static_cast<int>(i) && former != field
+                && !isOutgrown(former);
+            if (isBack && !m_fields[i]) {
+                m_fields[i] = std::move(m_formerFields[j].field);
+                m_formerFields.erase(m_formerFields.begin() + static_cast<std::ptrdiff_t>(j));
+            }
+        }
+        KnFieldTableSensor::report(*this);
     }
 }

@@ -29,8 +29,9 @@ public:
 
     /// Null once it is dead.
     QObject* object() const { return m_object.data(); }
-    /// Brings children, name and dynamic properties in line with the object.
+    /// Brings children, name, dynamic properties and the kinds of fields in line with the object.
     void followObject() override;
+    QObject* followedObject() const override { return object(); }
 
 protected:
     KnField* ownField(int index) override;
@@ -43,13 +44,23 @@ private:
 
     bool isForeign() const;
     std::unique_ptr<KnField> makeField(int index) const;
+    void watchEvents();
     void followChildren();
     void followDynamicProperties();
+    void exchangeOutgrownFields();
 
     QObject* const m_address; // of the object, also when it is dead
     QPointer<QObject> m_object;
     std::shared_ptr<const ObjectClass> m_class;
+    bool m_watchesEvents = false; // of the object, since somebody has looked beyond its name
     // The fields of the class and those for the object's dynamic properties; null without any.
     std::unique_ptr<KnFieldData> m_ownTable;
     std::vector<std::unique_ptr<KnField>> m_fields; // null where nobody has looked
+    /// A field that others have taken the place of, since its property holds something else. A step
+    /// of the undo stack may name it.
+    struct FormerField {
+        int index;
+        std::unique_ptr<KnField> field;
+    };
+    std::vector<FormerField> m_formerFields;
 };

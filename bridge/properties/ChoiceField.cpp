@@ -2,68 +2,7 @@
 #include "ChoiceField.h"
 
 #include <bit>
-#include <cstring>
 #include <vector>
-
-namespace {
-
-template <class Number>
-int copied(const QVariant& value)
-{
-    Number number = 0;
-    std::memcpy(&number, value.constData(), sizeof number);
-    return number;
-}
-
-} // namespace
-
-QMetaEnum enumerationOf(QMetaType type)
-{
-    const QMetaObject* const scope = type.metaObject();
-    if (!scope || type.flags().testFlag(QMetaType::PointerToQObject))
-        return QMetaEnum();
-    QByteArray name(type.name());
-    if (name.startsWith("QFlags<"))
-        name.chop(1); // the bracket; the enumeration's name finds the flags, too
-    name.remove(0, name.lastIndexOf(name.contains(':') ? ':' : '<') + 1);
-    return scope->enumerator(scope->indexOfEnumerator(name));
-}
-
-bool fitsChoice(QMetaType type)
-{
-    const auto size = type.sizeOf();
-    return size == sizeof(qint8) || size == sizeof(qint16) || size == sizeof(qint32);
-}
-
-// The bits are copied, since not every enumeration tells Qt how it becomes a number.
-int choiceNumber(const QVariant& value)
-{
-    const bool isUnsigned = value.metaType().flags().testFlag(QMetaType::IsUnsignedEnumeration);
-    switch (value.metaType().sizeOf()) {
-    case sizeof(qint8):
-        return isUnsigned ? copied<quint8>(value) : copied<qint8>(value);
-    case sizeof(qint16):
-        return isUnsigned ? copied<quint16>(value) : copied<qint16>(value);
-    case sizeof(qint32):
-        return copied<qint32>(value);
-    default:
-        return value.toInt();
-    }
-}
-
-QVariant choiceValue(QMetaType type, int number)
-{
-    const auto byte = static_cast<qint8>(number);
-    const auto word = static_cast<qint16>(number);
-    switch (type.sizeOf()) {
-    case sizeof(qint8):
-        return QVariant(type, &byte);
-    case sizeof(qint16):
-        return QVariant(type, &word);
-    default:
-        return QVariant(type, &number);
-    }
-}
 
 void nameChoices(KnSFEnum& field, const QMetaEnum& enumeration)
 {

@@ -1,20 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "Choices.h"
 #include "KnSFBitMask.h"
 #include "PropertyFields.h"
 
-#include <QMetaEnum>
-
-/// The enumeration of that type as its class declares it; invalid if none is known.
-QMetaEnum enumerationOf(QMetaType type);
-/// Whether the numbers of the type fit into a field, which holds an `int`.
-bool fitsChoice(QMetaType type);
-
-/// The number of a value of an enumeration or of flags, and a value from a number, of which a
-/// small type takes the lower bits.
-int choiceNumber(const QVariant& value);
-QVariant choiceValue(QMetaType type, int number);
 /// Gives the names of an enumeration to a field.
 void nameChoices(KnSFEnum& field, const QMetaEnum& enumeration);
 
@@ -30,12 +20,16 @@ public:
     }
 
 protected:
+    QMetaType type() const override { return m_type; }
     bool shows(const QVariant& value) const override
     {
-        return choiceNumber(value) == this->getValue();
+        return static_cast<int>(choiceNumber(value)) == this->getValue();
     }
-    void show(const QVariant& value) override { this->setValue(choiceNumber(value)); }
-    QVariant shownValue() const override { return choiceValue(m_type, this->getValue()); }
+    void show(const QVariant& value) override
+    {
+        this->setValue(static_cast<int>(choiceNumber(value)));
+    }
+    QVariant valueFor(const QVariant&) override { return choiceValue(m_type, this->getValue()); }
 
 private:
     const QMetaType m_type;

@@ -16,10 +16,18 @@ public:
     using PropertyFieldOf::PropertyFieldOf;
 
 protected:
+    QMetaType type() const override { return QMetaType::fromType<QString>(); }
     bool shows(const QVariant& value) const override
     {
         return toKbString(value.toString()) == getValue();
     }
     void show(const QVariant& value) override { setValue(toKbString(value.toString())); }
-    QVariant shownValue() const override { return toQString(getValue()); }
+    QVariant valueFor(const QVariant& before) override
+    {
+        m_hadNull = m_hadNull || before.toString().isNull();
+        return getValue().isEmpty() && m_hadNull ? QVariant(QString()) : toQString(getValue());
+    }
+
+private:
+    bool m_hadNull = false; // an edit has replaced a null text, which an undo gives back
 };

@@ -8,6 +8,7 @@
 #include <QMetaMethod>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -44,8 +45,7 @@ void ObjectWatch::watch(PropertyField* field)
     const int notifySignal = field->place().notifySignal();
     if (notifySignal < 0) {
         m_compared.push_back(field);
-        if (!m_comparison.isActive())
-            m_comparison.start(comparisonInterval, this);
+        keepComparing();
         return;
     }
     static const int slot = staticMetaObject.indexOfSlot("propertyNotified()");
@@ -64,23 +64,36 @@ void ObjectWatch::unwatch(PropertyField* field)
         const Signal signal = *known;
         m_signals.erase(known);
         m_announced.remove(signal, field);
-        QObject* const object = field->place().object();
+        QObject* const object = field->place().remains();
         static const int slot = staticMetaObject.indexOfSlot("propertyNotified()");
         if (object && !m_announced.contains(signal))
             QMetaObject::disconnect(object, signal.second, this, slot);
         return;
     }
     std::erase(m_compared, field);
-    if (m_compared.empty())
+    keepComparing();
+}
+
+void ObjectWatch::keepComparing()
+{
+    if (m_compared.empty() && m_away.empty())
         m_comparison.stop();
+    else if (!m_comparison.isActive())
+        m_comparison.start(comparisonInterval, this);
 }
 
 void ObjectWatch::addFollower(QObject* object, ObjectFollower* follower)
 {
     m_followers.insert(object, follower);
     connect(object, &QObject::destroyed, this, &ObjectWatch::objectDestroyed, Qt::UniqueConnection);
+    connect(object, &QObject::objectNameChanged, this, &ObjectWatch::objectRenamed,
+        Qt::UniqueConnection);
+}
+
+void ObjectWatch::watchEvents(QObject* object)
+{
     if (object->thread() == thread())
-        object->installEventFilter(this);
+        object->installEventFilter(this); // which moves one that is there already
 }
 
 void ObjectWatch::removeFollower(QObject* object, ObjectFollower* follower)
@@ -93,6 +106,9 @@ void ObjectWatch::removeFollower(QObject* object, ObjectFollower* follower)
 void ObjectWatch::letGo(QObject* object)
 {
     disconnect(object, &QObject::destroyed, this, &ObjectWatch::objectDestroyed);
+    disconnect(object, &QObject::objectNameChanged, this, &ObjectWatch::objectRenamed);
+    std::erase(m_away, object);
+    keepComparing();
     if (object->thread() == thread())
         object->removeEventFilter(this);
 }
@@ -113,6 +129,9 @@ bool ObjectWatch::eventFilter(QObject* watched, QEvent* event)
     case QEvent::DynamicPropertyChange:
         objectChanged(watched);
         break;
+    case QEvent::ThreadChange:
+        leave(watched);
+        break;
     default:
         break;
     }
@@ -131,8 +150,37 @@ void ObjectWatch::propertyNotified()
 
 void ObjectWatch::objectDestroyed(QObject* object)
 {
+    ObjectFollower* const follower = followerOf(object);
+    // What dies in another thread is told late, when another object may live there already.
+    if (!follower || follower->followedObject())
+        return;
     objectChanged(object);
-    m_followers.remove(object); // another object may come to live there
+    m_followers.remove(object);
+}
+
+/// The object is about to go to another thread, where a filter of this one would do harm.
+void ObjectWatch::leave(QObject* object)
+{
+    object->removeEventFilter(this);
+    m_away.emplace_back(object);
+    keepComparing();
+    objectChanged(object);
+}
+
+void ObjectWatch::lookForReturns()
+{
+    const std::vector<QPointer<QObject>> away = std::exchange(m_away, {});
+    for (const QPointer<QObject>& object : away) {
+        if (!object)
+            continue;
+        if (object->thread() != thread()) {
+            m_away.push_back(object);
+            continue;
+        }
+        watchEvents(object);
+        objectChanged(object);
+    }
+    keepComparing();
 }
 
 void ObjectWatch::objectChanged(QObject* object)
@@ -165,6 +213,8 @@ void ObjectWatch::customEvent(QEvent*)
 
 void ObjectWatch::timerEvent(QTimerEvent*)
 {
+    if (!m_away.empty())
+        lookForReturns();
     const std::vector<PropertyField*> compared = m_compared;
     for (PropertyField* const field : compared) {
         // A getter may do anything, even close what shows the fields.

@@ -1,22 +1,26 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "PropertyField.h"
+
 #include <QBasicTimer>
 #include <QHash>
 #include <QObject>
+#include <QPointer>
 #include <QSet>
 
 #include <unordered_set>
 #include <utility>
 #include <vector>
 
-class PropertyField;
-
 /// Whoever wants to know of an object's children and dynamic properties.
 class ObjectFollower {
 public:
-    /// Something has happened to them, or the object has died. Called from the event loop.
+    /// Something has happened to them or to the object's name or thread, or the object has died.
+    /// Called from the event loop.
     virtual void followObject() = 0;
+    /// Null once it is dead.
+    virtual QObject* followedObject() const = 0;
 
 protected:
     ~ObjectFollower() = default;
@@ -37,12 +41,17 @@ public:
     void watch(PropertyField* field);
     /// Also forgets a change that waits to be shown.
     void unwatch(PropertyField* field);
+    /// The field can't show what its property holds by now: tells whoever follows the object.
+    void outgrown(const PropertyField& field) { objectChanged(field.place().object()); }
 
     /// Who follows an object; null if nobody does.
     ObjectFollower* followerOf(QObject* object) const { return m_followers.value(object); }
-    /// Makes this the one who follows an object, and is told when it dies. What else happens to an
-    /// object of another thread isn't told.
+    /// Makes this the one who follows an object, and is told when it dies or gets another name.
+    /// What else happens to an object of another thread isn't told.
     void addFollower(QObject* object, ObjectFollower* follower);
+    /// From now on its follower is told of children and dynamic properties as well, for which each
+    /// event of the object passes through here. Harmless for one that is watched already.
+    void watchEvents(QObject* object);
     /// Forgets the follower; the object may be dead.
     void removeFollower(QObject* object, ObjectFollower* follower);
     /// Leaves a living object as it was before anybody followed it.
@@ -66,10 +75,14 @@ private:
 
     void wake();
     void objectChanged(QObject* object);
+    void leave(QObject* object);
+    void lookForReturns();
+    void keepComparing();
 
 private Q_SLOTS:
     void propertyNotified();
     void objectDestroyed(QObject* object);
+    void objectRenamed() { objectChanged(sender()); }
 
 private:
     QHash<QObject*, ObjectFollower*> m_followers; // not owned; they leave when they go
@@ -77,7 +90,10 @@ private:
     QMultiHash<Signal, PropertyField*> m_announced; // watched fields whose changes a signal tells
     QHash<PropertyField*, Signal> m_signals; // of these fields
     std::vector<PropertyField*> m_compared; // the other watched fields
-    QBasicTimer m_comparison; // runs while there are any of them
+    // Objects whose events were watched and which have gone to another thread, which nothing but a
+    // look tells the end of.
+    std::vector<QPointer<QObject>> m_away;
+    QBasicTimer m_comparison; // runs while there are any of these or of those
     // What has changed since the last turn. Order doesn't matter, since each is shown as it is.
     std::unordered_set<PropertyField*> m_changedFields;
     std::unordered_set<ObjectFollower*> m_changed;

@@ -52,6 +52,7 @@ public:
     }
 
 protected:
+    QMetaType type() const override { return QMetaType::fromType<Qt>(); }
     bool shows(const QVariant& value) const override
     {
         return m_wasShown && !m_edited && value.value<Qt>().cacheKey() == m_shownKey;
@@ -64,9 +65,18 @@ protected:
         m_edited = false;
         writePicture(*this, PictureValue<Qt>::fromQt(picture));
     }
-    QVariant shownValue() const override
+    QVariant valueFor(const QVariant& before) override
     {
-        return QVariant::fromValue(PictureValue<Qt>::toQt(readPicture(*this)));
+        const auto replaced = before.value<Qt>();
+        const QImage wanted = readPicture(*this);
+        const Qt* const former = m_former.find([&wanted](const Qt& picture) {
+            return plainPicture(PictureValue<Qt>::fromQt(picture)) == wanted;
+        });
+        const QVariant value
+            = QVariant::fromValue(former ? *former : PictureValue<Qt>::toQt(wanted));
+        m_former.keep(replaced,
+            [&replaced](const Qt& picture) { return picture.cacheKey() == replaced.cacheKey(); });
+        return value;
     }
     void written() override
     {
@@ -75,6 +85,7 @@ protected:
     }
 
 private:
+    FormerValues<Qt> m_former;
     qint64 m_shownKey = 0;
     bool m_wasShown = false;
     bool m_edited = false; // the field holds another picture than the one shown

@@ -3,7 +3,7 @@
 
 #include "KnFieldRecorder.h"
 #include "KnFieldText.h"
-#include "KnNodePtr.h"
+#include "NodeHold.h"
 #include "ObjectWatch.h"
 
 #include <QScopedValueRollback>
@@ -21,20 +21,42 @@ void PropertyField::refresh()
 {
     if (m_showing)
         return; // whoever hears of the write below may ask for the value
+    // A getter may run an event loop, in which the tree lets go of the node.
+    const NodeHold hold(m_field.getContainer());
     const std::optional<QVariant> value = m_place.read();
-    if (!value || shows(*value))
+    if (!value)
+        return;
+    m_outgrown = !isFor(*value);
+    if (m_outgrown) {
+        ObjectWatch::getInstance().outgrown(*this);
+        return;
+    }
+    if (shows(*value))
         return;
     const QScopedValueRollback showing(m_showing, true);
     const KnFieldRecorder::Pause unrecorded; // the program has written, not a person
     show(*value);
 }
 
+bool PropertyField::isFor(const QVariant& value) const
+{
+    return !m_place.isVariant() || value.metaType() == type();
+}
+
+bool PropertyField::isOutgrown() const
+{
+    if (!m_outgrown)
+        return false;
+    const std::optional<QVariant> value = m_place.read();
+    return value && !isFor(*value);
+}
+
 bool PropertyField::takesText() const
 {
-    if (m_place.object())
-        return true;
-    knPostRefusal(m_field, "the object is gone");
-    return false;
+    const char* const refusal = m_place.refusal();
+    if (refusal)
+        knPostRefusal(m_field, refusal);
+    return !refusal;
 }
 
 void PropertyField::fieldWritten()
@@ -42,21 +64,25 @@ void PropertyField::fieldWritten()
     if (m_showing)
         return;
     // A setter may run an event loop, in which the tree lets go of the node.
-    const KnNodePtr node(m_field.getContainer());
+    const NodeHold hold(m_field.getContainer());
     const std::optional<QVariant> before = m_place.read();
     if (!before) {
-        knPostRefusal(m_field, "the object is gone");
+        takesText(); // says why not
         return;
     }
-    if (shows(*before))
-        return;
-    const QVariant wanted = shownValue();
-    if (m_field.isReadOnly())
-        knPostRefusal(m_field, "the property is read-only");
-    else if (m_place.isVariant() && before->metaType() != wanted.metaType())
+    if (m_place.isVariant() && before->metaType() != type()) {
         knPostRefusal(m_field, "the property holds a value of another type by now");
-    else if (!m_place.write(wanted))
-        knPostRefusal(m_field, "the property doesn't take the value");
+        return;
+    }
+    if (isFor(*before) && shows(*before))
+        return;
+    if (m_field.isReadOnly()) {
+        knPostRefusal(m_field, "the property is read-only");
+    } else {
+        const QVariant wanted = valueFor(*before);
+        if (wanted.isValid() && !m_place.write(wanted))
+            knPostRefusal(m_field, "the property doesn't take the value");
+    }
     refresh();
 }
 

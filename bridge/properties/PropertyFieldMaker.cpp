@@ -6,12 +6,14 @@
 #include "PictureField.h"
 #include "PropertyFields.h"
 #include "TextField.h"
+#include "TextListField.h"
 
 #include <QHash>
 
 namespace {
 
 using Maker = std::unique_ptr<KnField> (*)(const PropertyPlace& place);
+using Makers = QHash<int, Maker>; // by the number of the type
 
 template <class Field>
 std::unique_ptr<KnField> make(const PropertyPlace& place)
@@ -19,7 +21,22 @@ std::unique_ptr<KnField> make(const PropertyPlace& place)
     return std::make_unique<Field>(place);
 }
 
-using Makers = QHash<int, Maker>;
+/// Whether the kernel's field would show another value.
+template <class Qt>
+bool needsText(const QVariant& value)
+{
+    return !KernelValue<Qt>::canShow(value.value<Qt>());
+}
+
+/// For a type of which some values need a text.
+template <class Qt>
+std::unique_ptr<KnField> makeByValue(const PropertyPlace& place)
+{
+    const auto type = QMetaType::fromType<Qt>();
+    if (needsText<Qt>(place.read().value_or(QVariant(type))))
+        return std::make_unique<TextPropertyField>(place, type, textFormOf(type), &needsText<Qt>);
+    return std::make_unique<SinglePropertyField<Qt>>(place);
+}
 
 template <class Qt>
 void addType(Makers& makers)
@@ -34,6 +51,8 @@ Makers makersOf()
 {
     Makers makers;
     (addType<Types>(makers), ...);
+    makers[QMetaType::QColor] = &makeByValue<QColor>;
+    makers[QMetaType::QQuaternion] = &makeByValue<QQuaternion>;
     makers[QMetaType::QImage] = &make<PicturePropertyField<QImage>>;
     makers[QMetaType::QPixmap] = &make<PicturePropertyField<QPixmap>>;
     makers[QMetaType::QIcon] = &make<PicturePropertyField<QIcon>>;
@@ -72,8 +91,10 @@ std::unique_ptr<KnField> makePropertyField(const PropertyPlace& place)
         return std::make_unique<FilePathPropertyField>(place);
     if (const Maker maker = makerOf(type))
         return maker(place);
-    if (type.flags().testFlag(QMetaType::PointerToQObject))
-        return std::make_unique<TextPropertyField>(place, objectForm());
-    const TextForm* const form = textFormOf(type);
-    return std::make_unique<TextPropertyField>(place, form ? *form : descriptionForm());
+    const TextForm& form = textFormOf(type);
+    // A list of variants has a text, for where it stands in another one.
+    const bool isList = !form.read || type == QMetaType::fromType<QVariantList>();
+    if (isList && isTextList(type))
+        return std::make_unique<TextListPropertyField>(place, type);
+    return std::make_unique<TextPropertyField>(place, type, form);
 }

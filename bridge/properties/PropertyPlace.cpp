@@ -31,6 +31,15 @@ QObject* PropertyPlace::object() const
         : nullptr;
 }
 
+const char* PropertyPlace::refusal() const
+{
+    if (object())
+        return nullptr;
+    return m_object && m_object->thread() != QThread::currentThread()
+        ? "the object lives in another thread"
+        : "the object is gone";
+}
+
 QMetaProperty PropertyPlace::property() const
 {
     return object() && m_index >= 0 ? m_class->property(m_index) : QMetaProperty();

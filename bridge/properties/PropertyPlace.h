@@ -19,6 +19,10 @@ public:
 
     /// Null once the object is dead or being destroyed, and while it lives in another thread.
     QObject* object() const;
+    /// The object as long as it lives, wherever that is and whatever is left of it.
+    QObject* remains() const { return m_object.data(); }
+    /// Why there is no object, for people; null if there is one.
+    const char* refusal() const;
     QByteArray name() const { return m_name; }
     /// Empty if there is no object.
     std::optional<QVariant> read() const;

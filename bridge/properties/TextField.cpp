@@ -4,9 +4,12 @@
 #include "CrvStrings.h"
 #include "KnFieldText.h"
 
-TextPropertyField::TextPropertyField(const PropertyPlace& place, const TextForm& form)
+TextPropertyField::TextPropertyField(
+    const PropertyPlace& place, QMetaType type, const TextForm& form, NeedsText needsText)
     : PropertyField(static_cast<KnField&>(*this), place)
+    , m_type(type)
     , m_form(form)
+    , m_needsText(needsText)
 {
     if (!form.read)
         setReadOnly(true);
@@ -25,16 +28,26 @@ void TextPropertyField::get(KbString& text) const
 
 bool TextPropertyField::set(const KbString& text)
 {
+    refresh(); // whether the value that is there now can be written
     if (!knAcceptsText(*this) || !takesText())
         return false;
+    const QVariant before = place().read().value_or(QVariant());
     const QString wanted = toQString(text);
+    const QVariant* const former
+        = m_former.find([&](const QVariant& value) { return looksLike(value, wanted); });
     // The kernel's text for the default value of every type.
-    m_wanted = wanted == QLatin1String("\"\"") ? QVariant(m_form.type) : m_form.read(wanted);
-    if (!m_wanted.isValid()) {
+    const bool isDefault = wanted == QLatin1String("\"\"");
+    if (former)
+        m_wanted = *former;
+    else if (isDefault)
+        m_wanted = QVariant(m_type);
+    else
+        m_wanted = m_form.read(wanted, before.metaType() == m_type ? before : QVariant(m_type));
+    if (!m_wanted) {
         knPostRefusal(*this, -1, text.toUtf8(), 0, m_form.expected);
         return false;
     }
-    m_text = m_form.write(m_wanted);
+    m_text = m_form.write(*m_wanted);
     touch();
     return true;
 }
@@ -44,10 +57,29 @@ QObject* TextPropertyField::linkedObject() const
     return place().read().value_or(QVariant()).value<QObject*>();
 }
 
-bool TextPropertyField::shows(const QVariant& value) const { return m_form.write(value) == m_text; }
+bool TextPropertyField::isFor(const QVariant& value) const
+{
+    return PropertyField::isFor(value) && (!m_needsText || m_needsText(value));
+}
+
+bool TextPropertyField::looksLike(const QVariant& value, const QString& text) const
+{
+    return m_form.write(value) == text;
+}
+
+bool TextPropertyField::shows(const QVariant& value) const { return looksLike(value, m_text); }
 
 void TextPropertyField::show(const QVariant& value)
 {
     m_text = m_form.write(value);
+    if (m_form.isPartial)
+        setReadOnly(!place().isWritable() || !readsBack(m_form, value));
     touch();
+}
+
+QVariant TextPropertyField::valueFor(const QVariant& before)
+{
+    const QString text = m_form.write(before);
+    m_former.keep(before, [&](const QVariant& value) { return looksLike(value, text); });
+    return m_wanted.value_or(QVariant());
 }

@@ -3,16 +3,21 @@
 
 #include "KbString.h"
 #include "KnSField.h"
-#include "PropertyField.h"
+#include "PropertyFields.h"
 #include "TextForm.h"
 
-/// A property that is shown, and edited where its form can be read back, as one line of text. Each
+/// A property that is shown, and edited where its text can be read back, as one line of text. Each
 /// form has a type of field of its own, derived from SField, which the editors of no other type
 /// take.
 class TextPropertyField final : public KnSField, public PropertyField {
 public:
-    /// `form` outlives the field.
-    TextPropertyField(const PropertyPlace& place, const TextForm& form);
+    /// Whether a value of a type that has another field as well needs this one.
+    using NeedsText = bool (*)(const QVariant& value);
+
+    /// For values of `type`. `form` outlives the field. `needsText` is null if the type has no
+    /// other field.
+    TextPropertyField(const PropertyPlace& place, QMetaType type, const TextForm& form,
+        NeedsText needsText = nullptr);
 
     KnType getObjectType() const override;
     using KnField::set;
@@ -26,12 +31,19 @@ protected:
     void watchBegins() override { fieldWatchBegins(); }
     void watchEnds() override { fieldWatchEnds(); }
 
+    QMetaType type() const override { return m_type; }
+    bool isFor(const QVariant& value) const override;
     bool shows(const QVariant& value) const override;
     void show(const QVariant& value) override;
-    QVariant shownValue() const override { return m_wanted; }
+    QVariant valueFor(const QVariant& before) override;
 
 private:
+    bool looksLike(const QVariant& value, const QString& text) const;
+
+    const QMetaType m_type;
     const TextForm& m_form;
+    const NeedsText m_needsText;
     QString m_text;
-    QVariant m_wanted; // what was written last
+    std::optional<QVariant> m_wanted; // what was written last
+    FormerValues<QVariant> m_former;
 };

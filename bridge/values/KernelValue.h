@@ -15,9 +15,13 @@
 #include <QVector3D>
 #include <QVector4D>
 
+#include <algorithm>
+#include <cmath>
+
 /// How a value of Qt's becomes one of the kernel's and back, by pure functions: `fromQt`, `toQt`,
 /// and the fields that show one value (`Single`) and a list of them (`Array`). `standsFor` says
 /// whether `toQt` of a value is this one of Qt's, where several values of the kernel stand for one.
+/// `canShow` is false for a value that the field would show as another one.
 template <class Qt>
 struct KernelValue;
 
@@ -29,6 +33,7 @@ struct KernelFields {
     using Value = typename SingleField::Value;
 
     static bool standsFor(const Value&, const Qt&) { return false; }
+    static bool canShow(const Qt&) { return true; }
 };
 
 /// A type that is the same on both sides.
@@ -64,6 +69,11 @@ template <>
 struct KernelValue<QString> : KernelFields<QString, KnSFString, KnMFString> {
     static KbString fromQt(const QString& text) { return toKbString(text); }
     static QString toQt(const KbString& text) { return toQString(text); }
+    /// The kernel's null text is empty, and so is Qt's.
+    static bool standsFor(const KbString& text, const QString& value)
+    {
+        return toQt(text) == value;
+    }
 };
 
 /// Percent-encoded, which is the one text of a URL that reads back to it.
@@ -76,7 +86,7 @@ struct KernelValue<QUrl> : KernelFields<QUrl, KnSFString, KnMFString> {
 };
 
 /// Exact for colours of the RGB model, which has 16 bits for each component. An edit makes a colour
-/// of any other model one of this, and an invalid one, which is shown as black, a valid one.
+/// of any other model one of this. An invalid colour would be shown as black.
 template <>
 struct KernelValue<QColor> : KernelFields<QColor, KnSFColorRGBA, KnMFColorRGBA> {
     static KbColorRGBA fromQt(const QColor& color)
@@ -92,6 +102,7 @@ struct KernelValue<QColor> : KernelFields<QColor, KnSFColorRGBA, KnMFColorRGBA> 
     {
         return QColor::fromRgbF(color[0], color[1], color[2], std::clamp(color[3], 0.0F, 1.0F));
     }
+    static bool canShow(const QColor& color) { return color.isValid(); }
 };
 
 template <>
@@ -141,6 +152,12 @@ struct KernelValue<QQuaternion> : KernelFields<QQuaternion, KnSFRotation, KnMFRo
     {
         const auto [x, y, z, w] = rotation.getValue();
         return x == q.x() && y == q.y() && z == q.z() && w == q.scalar();
+    }
+    /// A rotation has no length, and only as much of one as rounding leaves may be lost.
+    static bool canShow(const QQuaternion& q)
+    {
+        constexpr float tolerance = 1e-5F;
+        return std::abs(q.lengthSquared() - 1) < tolerance;
     }
 };
 

@@ -35,15 +35,22 @@ QImage::Format formatOf(int components)
 
 } // namespace
 
-void writePicture(KnSFImage& field, const QImage& picture)
+QImage plainPicture(const QImage& picture)
 {
     constexpr int maxSide = std::numeric_limits<std::int16_t>::max();
-    if (picture.isNull() || picture.width() > maxSide || picture.height() > maxSide) {
+    if (picture.isNull() || picture.width() > maxSide || picture.height() > maxSide)
+        return QImage();
+    return picture.convertToFormat(formatOf(componentsOf(picture)));
+}
+
+void writePicture(KnSFImage& field, const QImage& picture)
+{
+    const QImage plain = plainPicture(picture);
+    if (plain.isNull()) {
         field.setValue(KbVec2s(0, 0), 0, nullptr);
         return;
     }
     const int components = componentsOf(picture);
-    const QImage plain = picture.convertToFormat(formatOf(components));
     const auto lineLength = static_cast<std::size_t>(plain.width() * components);
     std::vector<unsigned char> bytes(lineLength * static_cast<std::size_t>(plain.height()));
     auto line = bytes.begin();

@@ -10,5 +10,7 @@ class QImage;
 
 /// Writes the picture into the field. One that is larger than a field can hold empties it.
 void writePicture(KnSFImage& field, const QImage& picture);
+/// A picture as a field gives it back, which has what the kernel can hold and nothing beyond.
+QImage plainPicture(const QImage& picture);
 /// The field's picture; a null image if it has no pixels. Grey with alpha becomes colours.
 QImage readPicture(const KnSFImage& field);

@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -158,6 +159,7 @@ void FieldPanel::fill(const std::vector<KnFieldContainer*>& nodes)
     m_model.setNodes(nodes, m_compareAction->isChecked());
     m_list->header()->setSectionHidden(FieldListModel::OtherColumn, !m_model.isComparing());
     m_names.setAttached(!nodes.empty());
+    m_tables.setAttached(!nodes.empty());
     showHeading();
     showField(CrvServices::getInstance()->getSelectedField());
 }
@@ -184,6 +186,33 @@ void FieldPanel::namesChanged(void* data, KnSensor*)
     if (std::any_of(nodes.begin(), nodes.end(),
             [&renamed](KnFieldContainer* node) { return renamed.contains(node); }))
         panel->showHeading();
+}
+
+void FieldPanel::tablesChanged(void* data, KnSensor*)
+{
+    auto* const panel = static_cast<FieldPanel*>(data);
+    const KnFieldTableSensor::Nodes changed = panel->m_tables.takeNodes();
+    const std::vector<KnFieldContainer*> nodes = panel->m_model.nodes();
+    if (std::any_of(nodes.begin(), nodes.end(),
+            [&changed](KnFieldContainer* node) { return changed.contains(node); }))
+        panel->showOtherFields();
+}
+
+/// The list stays where it is, and what has taken the place of the selected field is selected.
+void FieldPanel::showOtherFields()
+{
+    const int place = m_list->verticalScrollBar()->value();
+    fill(m_model.nodes());
+    m_list->verticalScrollBar()->setValue(place);
+    CrvServices* const services = CrvServices::getInstance();
+    const KnField* const selected = services->getSelectedField();
+    KnFieldContainer* const node = selected ? selected->getContainer() : nullptr;
+    if (!node)
+        return;
+    const KnFieldData* const table = node->getContainerFieldData();
+    KnField* const current = table->getField(node, table->getIndex(node, selected));
+    if (current && current != selected)
+        services->selectField(current);
 }
 
 void FieldPanel::showHeading()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "FieldListModel.h"
+#include "KnFieldTableSensor.h"
 #include "KnNameSensor.h"
 
 #include <QWidget>
@@ -52,10 +53,14 @@ private:
     void currentChanged(const QModelIndex& current);
     void showMenu(const QPoint& position);
 
+    void showOtherFields();
+
     static void namesChanged(void* data, KnSensor* sensor);
+    static void tablesChanged(void* data, KnSensor* sensor);
 
     FieldListModel m_model;
     KnNameSensor m_names { namesChanged, this }; // attached while a node is shown
+    KnFieldTableSensor m_tables { tablesChanged, this }; // the same
     PauseAction* m_pauseAction; // child
     QAction* m_compareAction; // child; visible while there are two nodes
     QToolButton* m_compareButton = nullptr; // child; as visible as its action

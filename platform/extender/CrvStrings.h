@@ -15,5 +15,6 @@ inline QString toQString(const KbName& name) { return toQString(name.getString()
 /// Qt text as kernel text. It is never null, not even for a null QString.
 inline KbString toKbString(const QString& text)
 {
-    return KbString::fromUtf16(text.utf16(), text.size());
+    // QString::utf16 would make a null text an empty one, in place.
+    return KbString::fromUtf16(QStringView(text).utf16(), text.size());
 }

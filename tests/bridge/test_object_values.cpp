@@ -4,20 +4,33 @@
 #include "KnField.h"
 #include "KnFieldContainer.h"
 #include "KnFieldSensor.h"
+#include "KnMField.h"
 #include "KnNodePtr.h"
 #include "KnReadErrorCapture.h"
 #include "KnSensorQueue.h"
 
+#include <QBitArray>
 #include <QBitmap>
+#include <QCursor>
+#include <QDataStream>
+#include <QEasingCurve>
 #include <QFont>
 #include <QIcon>
+#include <QJsonObject>
 #include <QKeySequence>
 #include <QLine>
 #include <QLocale>
 #include <QMargins>
 #include <QMatrix4x4>
+#include <QPalette>
+#include <QPen>
+#include <QPolygonF>
 #include <QQuaternion>
+#include <QRegion>
+#include <QRegularExpression>
+#include <QSizePolicy>
 #include <QTest>
+#include <QTextFormat>
 #include <QTimeZone>
 #include <QTransform>
 #include <QUrl>
@@ -28,6 +41,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -49,11 +63,31 @@ struct Holder {
         return toQString(text);
     }
     QVariant value() const { return object.property("value"); }
+    /// The field that the node has now.
+    KnField* current() const { return node->getField("value"); }
 
     QObject object;
     KnNodePtr node;
     KnField* field = nullptr;
 };
+
+/// All there is to a value, also what `==` passes over.
+QByteArray identity(const QVariant& value)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    if (value.metaType().hasRegisteredDataStreamOperators())
+        stream << value;
+    QString text;
+    QDebug(&text) << value;
+    if (value.metaType() == QMetaType::fromType<QString>())
+        text += value.toString().isNull() ? u"null"_s : u"not null"_s;
+    else if (value.metaType() == QMetaType::fromType<QFont>())
+        text += QString::number(value.value<QFont>().resolveMask());
+    else if (value.metaType() == QMetaType::fromType<QPalette>())
+        text += QString::number(value.value<QPalette>().resolveMask());
+    return bytes + text.toUtf8();
+}
 
 QImage picture(QImage::Format format)
 {
@@ -73,6 +107,7 @@ public:
     Q_ENUM(Small)
     enum class Signed : qint16 { None, Below = -300 };
     Q_ENUM(Signed)
+    enum class Huge : quint64 { None };
 
 private Q_SLOTS:
     void eachTypeIsShownAndWrittenBack_data()
@@ -102,8 +137,8 @@ private Q_SLOTS:
         row("color of 16 bits", QColor(QRgba64::fromRgba64(1, 2, 3, 65534)), "SFColorRGBA", {});
         row("point", QPoint(-1, 2), "SFVec2i32", u"-1 2"_s);
         row("size", QSize(3, 4), "SFVec2i32", u"3 4"_s);
-        row("point of doubles", QPointF(0.1, 1e300), "SFPoint", u"0.1 1e+300"_s);
-        row("size of doubles", QSizeF(0.1, 2), "SFSize", u"0.1 2"_s);
+        row("point of doubles", QPointF(0.1, 1e300), "SFPointF", u"0.1 1e+300"_s);
+        row("size of doubles", QSizeF(0.1, 2), "SFSizeF", u"0.1 2"_s);
         row("vector2", QVector2D(1, 2.5F), "SFVec2f", u"1 2.5"_s);
         row("vector3", QVector3D(1, 2, 3), "SFVec3f", u"1 2 3"_s);
         row("vector4", QVector4D(1, 2, 3, 4), "SFVec4f", u"1 2 3 4"_s);
@@ -140,6 +175,39 @@ private Q_SLOTS:
             u"[ 1 0 0 1, 0 0 1 1 ]"_s);
         row("vectors", QVariant::fromValue(QList<QVector3D>({ { 1, 2, 3 } })), "MFVec3f",
             u"[ 1 2 3 ]"_s);
+        row("bools", QVariant::fromValue(QList<bool> { true, false }), "MFBool",
+            u"[ \"TRUE\", \"FALSE\" ]"_s);
+        row("enums", QVariant::fromValue(QList<Small> { Small::High, Small(7) }), "MFChoice",
+            u"[ \"High\", \"7\" ]"_s);
+        row("rects", QVariant::fromValue(QList<QRect> { { 1, 2, 3, 4 } }), "MFRect",
+            u"[ \"1 2 3 4\" ]"_s);
+        row("vector of numbers", QVariant::fromValue(std::vector<qint64> { 1, -2 }), "MFInt64",
+            u"[ \"1\", \"-2\" ]"_s);
+        row("variants", QVariantList { 1, 1.0, u"1"_s, true, QDate(2030, 1, 2) }, "MFVariant",
+            u"[ \"1\", \"1.0\", \"\\\"1\\\"\", \"true\", \"QDate \\\"2030-01-02\\\"\" ]"_s);
+        row("map", QVariantMap { { u"a\"b"_s, 1 }, { u"c"_s, QVariantList { 2.5, QVariant() } } },
+            "SFVariantMap", u"{ \"a\\\"b\": 1, \"c\": [ 2.5, null ] }"_s);
+        row("hash", QVariantHash { { u"a"_s, QVariantMap { { u"b"_s, QStringList { u"c"_s } } } } },
+            "SFVariantHash", u"QVariantHash { \"a\": { \"b\": QStringList [ \"c\" ] } }"_s);
+        row("huge flags", QVariant::fromValue(Huge(1ULL << 40)), "SFChoice", u"1099511627776"_s);
+        row("size policy", QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed), "SFSizePolicy",
+            u"Expanding Fixed"_s);
+        row("cursor", QCursor(Qt::WaitCursor), "SFCursor", u"WaitCursor"_s);
+        row("brush", QBrush(Qt::red, Qt::Dense4Pattern), "SFBrush", u"Dense4Pattern:#ff0000"_s);
+        row("pen", QPen(QColor(1, 2, 3), 2.5, Qt::DotLine), "SFPen",
+            u"#010203 2.5 DotLine SquareCap BevelJoin"_s);
+        row("pattern", QRegularExpression(u"a/b"_s, QRegularExpression::CaseInsensitiveOption),
+            "SFRegularExpression", u"/a/b/i"_s);
+        QBitArray bits(3);
+        bits.setBit(1);
+        row("bits", bits, "SFBits", u"010"_s);
+        row("curve", QEasingCurve(QEasingCurve::InOutBack), "SFEasingCurve", u"InOutBack"_s);
+        row("region", QRegion(1, 2, 3, 4), "SFRegion", u"1 2 3 4"_s);
+        row("polygon", QPolygon({ { 1, 2 }, { 3, 4 } }), "SFPolygon", u"1 2, 3 4"_s);
+        row("polygon of doubles", QPolygonF({ { 1.5, 2 }, { 3, 4 } }), "SFPolygonF",
+            u"1.5 2, 3 4"_s);
+        row("json", QJsonObject { { u"a"_s, 1 } }, "SFJsonObject", u"{\"a\":1}"_s);
+        row("date beyond ISO", QDate(12000, 1, 2), "SFDate", u"JD 6103971"_s);
         row("grey image", picture(QImage::Format_Grayscale8), "SFImage",
             u"2 3 1 0x0 0xc8 0x0 0x0 0xff 0x0"_s);
         row("colored image", picture(QImage::Format_ARGB32), "SFImage",
@@ -234,13 +302,23 @@ private Q_SLOTS:
     {
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<QString>("type");
-        QTest::addRow("map") << QVariant(QVariantMap({ { u"a"_s, 1 } })) << u"SFDescription"_s;
-        QTest::addRow("bools") << QVariant::fromValue(QList<bool>({ true })) << u"SFDescription"_s;
         QPixmap pixmap(4, 4);
         pixmap.fill(Qt::red);
-        QTest::addRow("icon") << QVariant(QIcon(pixmap)) << u"SFImage"_s;
-        QTest::addRow("object") << QVariant::fromValue(qobject_cast<QObject*>(this))
-                                << u"SFObject"_s;
+        const auto row = [](const char* name, const QVariant& value, const char* type) {
+            QTest::addRow("%s", name) << value << QString::fromLatin1(type);
+        };
+        row("icon", QIcon(pixmap), "SFImage");
+        row("object", QVariant::fromValue(qobject_cast<QObject*>(this)), "SFObject");
+        row("objects", QVariant::fromValue(QObjectList { this, this }), "MFObject");
+        row("pictures", QVariant::fromValue(QList<QPixmap> { pixmap }), "MFDescription");
+        row("map with a picture", QVariantMap { { u"a"_s, pixmap } }, "SFVariantMap");
+        row("list with a picture", QVariantList { 1, pixmap }, "MFVariant");
+        row("gradient", QVariant::fromValue(QBrush(QLinearGradient(0, 0, 1, 1))), "SFBrush");
+        row("palette with a texture", QPalette(QBrush(pixmap), pixmap, {}, {}, {}, {}, {}, {}, {}),
+            "SFPalette");
+        row("cursor with a picture", QCursor(pixmap), "SFCursor");
+        row("curve of points", QEasingCurve(QEasingCurve::BezierSpline), "SFEasingCurve");
+        row("format", QTextFormat(QTextFormat::CharFormat), "SFDescription");
     }
     void whatCantBeReadBackIsReadOnly()
     {
@@ -248,10 +326,129 @@ private Q_SLOTS:
         QFETCH(QString, type);
         Holder shown(value);
         QCOMPARE(toQString(shown.field->getObjectType().getName()), type);
-        QVERIFY(shown.field->isReadOnly());
         QVERIFY(!shown.text().isEmpty() && shown.text() != u"0 0 0"_s);
+        QVERIFY(shown.field->isReadOnly());
         const KnReadErrorCapture capture;
         QVERIFY(!shown.field->set("\"\""));
+        QCOMPARE(identity(shown.value()), identity(value));
+    }
+
+    // What the field's editor can't say comes back with the step all the same.
+    void anEditAndItsUndoGiveBackTheVeryValue_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("edit");
+        const auto row = [](const char* name, const QVariant& value, const char* edit) {
+            QTest::addRow("%s", name) << value << QString::fromUtf8(edit);
+        };
+        row("null string", QString(), "\"a\"");
+        row("null string in a list", QStringList { u"a"_s, QString() }, "[ \"b\" ]");
+        row("null bytes", QByteArray(), "a");
+        row("hsv", QColor::fromHsvF(0.123F, 0.4F, 0.5F), "1 0 0 1");
+        row("cmyk in a list", QVariant::fromValue(QList<QColor> { QColor::fromCmyk(1, 2, 3, 4) }),
+            "[ 1 0 0 1 ]");
+        row("invalid color", QColor(), "#ff0000");
+        row("rotation", QQuaternion(0.8F, 0.6F, 0, 0), "0 1 0 1.5");
+        row("long quaternion", QQuaternion(1, 2, 3, 4), "1 0 0 0.5");
+        QFont font(u"Serif"_s);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        row("font", font, "Sans,20,-1,5,400,0,0,0,0,0,0,0,0,0,0,1");
+        QPalette palette;
+        palette.setColor(QPalette::Window, QColor::fromHsv(10, 20, 30));
+        row("palette", palette, "Window #ff0000");
+        QLocale locale(QLocale::German);
+        locale.setNumberOptions(QLocale::OmitGroupSeparator);
+        row("locale", locale, "fr");
+        const QTimeZone zone("Europe/Berlin");
+        const QDateTime late = QDateTime(QDate(2030, 10, 27), QTime(1, 30), Qt::UTC);
+        row("hour that comes twice", late.toTimeZone(zone), "2030-01-01T00:00:00.000 UTC");
+        row("url that is none", QUrl(u"http://a:b:c"_s), "\"http://a\"");
+        QImage deep(2, 2, QImage::Format_RGBA64);
+        deep.fill(QColor(QRgba64::fromRgba64(1, 2, 3, 40000)));
+        deep.setDotsPerMeterX(1234);
+        row("picture of 16 bits", deep, "1 1 1 0x5");
+        row("list of variants", QVariantList { QString(), 0.1F, QVariant(), QRect(1, 2, 3, 4) },
+            "[ \"1\", \"QUrl \\\"http://b\\\"\" ]");
+        row("fonts", QVariant::fromValue(QList<QFont> { font }), "[ ]");
+    }
+    void anEditAndItsUndoGiveBackTheVeryValue()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(QString, edit);
+        Holder shown(value);
+        QCOMPARE(identity(shown.value()), identity(value));
+        const QString before = shown.text();
+        const QString kind = toQString(shown.field->getObjectType().getName());
+        KnField* const field = shown.field;
+        QVERIFY(field->set(toKbString(edit)));
+        QVERIFY(identity(shown.value()) != identity(value));
+        const QVariant edited = shown.value();
+        QVERIFY(field->set(toKbString(before)));
+        QCOMPARE(identity(shown.value()), identity(value));
+        // Redone, undone.
+        QVERIFY(field->set(toKbString(edit)));
+        QCOMPARE(identity(shown.value()), identity(edited));
+        QVERIFY(field->set(toKbString(before)));
+        QCOMPARE(identity(shown.value()), identity(value));
+        QCoreApplication::processEvents();
+        QCOMPARE(toQString(shown.current()->getObjectType().getName()), kind);
+    }
+
+    void rowsThatArentEditedKeepTheirVeryValue()
+    {
+        const QColor hsv = QColor::fromHsvF(0.123F, 0.4F, 0.5F);
+        Holder shown(QVariant::fromValue(QList<QColor> { hsv, Qt::red, hsv, QColor() }));
+        auto& rows = dynamic_cast<KnMField&>(*shown.field);
+        shown.text();
+        QVERIFY(rows.set1(1, "0 1 0 1"));
+        QCOMPARE(shown.value().value<QList<QColor>>(),
+            (QList<QColor> { hsv, QColor(0, 255, 0), hsv, QColor() }));
+        rows.removeValues(0, 1);
+        QCOMPARE(shown.value().value<QList<QColor>>(),
+            (QList<QColor> { QColor(0, 255, 0), hsv, QColor() }));
+    }
+
+    void anEditOfAFontLeavesWhatItDoesntSay()
+    {
+        QFont font;
+        font.setHintingPreference(QFont::PreferNoHinting);
+        Holder shown(font);
+        QVERIFY(shown.field->set(toKbString(shown.text().replace(u",400,"_s, u",700,"_s))));
+        const auto edited = shown.value().value<QFont>();
+        QCOMPARE(edited.weight(), QFont::Bold);
+        QCOMPARE(edited.hintingPreference(), QFont::PreferNoHinting);
+        QCOMPARE(edited.resolveMask(), font.resolveMask() | QFont::WeightResolved);
+    }
+
+    void aValueOfAnotherTypeGetsAnotherField_data()
+    {
+        QTest::addColumn<QVariant>("first");
+        QTest::addColumn<QVariant>("second");
+        QTest::addColumn<QString>("type");
+        QTest::addRow("variant") << QVariant(1) << QVariant(u"a"_s) << u"SFString"_s;
+        QTest::addRow("color") << QVariant(QColor(Qt::red)) << QVariant(QColor())
+                               << u"SFColorText"_s;
+        QTest::addRow("quaternion")
+            << QVariant(QQuaternion()) << QVariant(QQuaternion(1, 2, 3, 4)) << u"SFQuaternion"_s;
+    }
+    void aValueOfAnotherTypeGetsAnotherField()
+    {
+        QFETCH(QVariant, first);
+        QFETCH(QVariant, second);
+        QFETCH(QString, type);
+        Holder shown(first);
+        const QString before = shown.text();
+        shown.object.setProperty("value", second);
+        QCoreApplication::processEvents();
+        QVERIFY(shown.current() != shown.field);
+        QCOMPARE(toQString(shown.current()->getObjectType().getName()), type);
+        const KnFieldData* const table = shown.node->getContainerFieldData();
+        QCOMPARE(table->getIndex(shown.node.get(), shown.field), table->getIndex("value"));
+        // The old one shows what it has shown, and comes back with its type.
+        QCOMPARE(shown.text(), before);
+        shown.object.setProperty("value", first);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.current(), shown.field);
     }
 
     void aNanIsNoChange()
