@@ -3,6 +3,7 @@
 
 #include "CrvObjects.h"
 #include "PropertyField.h"
+#include "TextForm.h"
 
 #include <QCoreApplication>
 #include <QMetaMethod>
@@ -84,12 +85,31 @@ QStringList crvMethods(const KnFieldContainer* node)
     return signatures;
 }
 
-bool crvCallMethod(const KnFieldContainer* node, const QString& signature)
+bool crvCallMethod(const KnFieldContainer* node, const QString& signature, QString* result)
 {
     QObject* const object = callableObject(node);
     if (!object)
         return false;
     const QMetaObject* const meta = object->metaObject();
     const QMetaMethod method = meta->method(meta->indexOfMethod(signature.toLatin1()));
-    return method.isValid() && needsNoParameters(method) && method.invoke(object);
+    if (!method.isValid() || !needsNoParameters(method))
+        return false;
+    const QMetaType type = method.returnMetaType();
+    // Invalid for no type, and for one that can't be made without a value.
+    QVariant returned = type.id() == QMetaType::Void ? QVariant() : QVariant(type);
+    const bool isKept = returned.isValid();
+    // A call that returns a variant writes it as a whole.
+    void* const place = type == QMetaType::fromType<QVariant>() ? &returned : returned.data();
+    try {
+        const bool isCalled = isKept ? method.invoke(object, Qt::DirectConnection,
+                                  QGenericReturnArgument(method.typeName(), place))
+                                     : method.invoke(object, Qt::DirectConnection);
+        if (isCalled && isKept && result)
+            *result = valueText(returned);
+        return isCalled;
+    } catch (...) {
+        if (result)
+            *result = tr("an exception was thrown");
+        return false;
+    }
 }

@@ -18,6 +18,8 @@ QString crvPropertyNote(const KnField* field);
 /// The signatures of the public methods that need no parameters, those of the base classes first:
 /// slots, and what is marked as invokable. Empty for a node that is no object's.
 QStringList crvMethods(const KnFieldContainer* node);
-/// Calls the method of this signature. False if there is none, or no object. The object may be gone
-/// afterwards.
-bool crvCallMethod(const KnFieldContainer* node, const QString& signature);
+/// Calls the method of this signature. False if there is none, or no object, or if it threw an
+/// exception. `result`, if given, is what it returned as text, or says that it threw. The object
+/// may be gone afterwards.
+bool crvCallMethod(
+    const KnFieldContainer* node, const QString& signature, QString* result = nullptr);

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "KnNodePtr.h"
+
 class KnField;
-class KnFieldContainer;
 class QObject;
 
 /// A tree of objects as a scene graph, for a program that has none of the kernel's:
@@ -20,6 +21,9 @@ class QObject;
 /// The node of an object; the same one as long as anybody holds a reference on it. A fresh one has
 /// a reference count of 0, so take one. Null for null.
 KnFieldContainer* crvObjectNode(QObject* object);
+/// The same, when all that stands above the object has looked at its children: whoever shows the
+/// top of its tree then finds the node there.
+KnNodePtr crvPlacedNode(QObject* object);
 /// Keeps an object, and all that stands below it, out of the tree, for what a tool has made itself.
 void crvHideObject(QObject* object);
 /// The object behind a node; null if it is dead, or if the node is no object's.

@@ -129,6 +129,13 @@ void ObjectNode::makeChildren()
     followChildren();
 }
 
+void ObjectNode::renamed()
+{
+    const QString name = toQString(getName().getString());
+    if (m_object && !isForeign() && m_object->objectName() != name)
+        m_object->setObjectName(name);
+}
+
 void ObjectNode::followObject()
 {
     const NodeHold hold(this);

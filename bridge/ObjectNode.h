@@ -26,6 +26,7 @@ public:
 
     KnType getObjectType() const override { return m_class->type; }
     const KnFieldData* getContainerFieldData() const override;
+    bool hasFixedChildren() const override { return true; }
 
     /// Null once it is dead.
     QObject* object() const { return m_object.data(); }
@@ -37,6 +38,8 @@ protected:
     KnField* ownField(int index) override;
     int ownIndex(const KnField* field) const override;
     void makeChildren() override;
+    /// Names the object, too.
+    void renamed() override;
 
 private:
     explicit ObjectNode(QObject* object);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "InspectorSession.h"
 
+#include "CrvNodeDetails.h"
 #include "CrvPluginsManager.h"
 #include "CrvServices.h"
 #include "DefaultPlugin.h"
@@ -168,6 +169,7 @@ void InspectorSession::putAway()
     if (services->getSelectedNode())
         services->selectNode(nullptr);
     services->setRoots({});
+    CrvNodeDetails::endAllWatches();
     CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
     m_profile = manager->getActiveProfile();
     m_window.keepPlaces();

@@ -51,6 +51,27 @@ bool PropertyField::isOutgrown() const
     return value && !isFor(*value);
 }
 
+// Unlike a refresh it is a person's edit, and recorded as one.
+bool PropertyField::resetProperty()
+{
+    const NodeHold hold(m_field.getContainer()); // a setter may run an event loop
+    if (!takesText())
+        return false;
+    // Remembers what the field can't say of the value that goes.
+    if (const std::optional<QVariant> before = m_place.read(); before && isFor(*before))
+        valueFor(*before);
+    if (!m_place.reset()) {
+        knPostRefusal(m_field, "the property can't be reset");
+        return false;
+    }
+    const std::optional<QVariant> value = m_place.read();
+    if (!value || !isFor(*value) || shows(*value))
+        return true;
+    const QScopedValueRollback showing(m_showing, true);
+    show(*value);
+    return true;
+}
+
 bool PropertyField::takesText() const
 {
     const char* const refusal = m_place.refusal();

@@ -29,6 +29,8 @@ protected:
 
     /// For KnField::set: false, after a KnReadError, if the object is gone.
     bool takesText() const;
+    /// For KnField::resetToDefault: calls the property's own way to do so.
+    bool resetProperty();
     /// For the hooks of KnField of the same names.
     void fieldWritten();
     void fieldWatchBegins();

@@ -28,6 +28,8 @@ public:
         Field::get(text);
     }
     bool set(const KbString& text) override { return takesText() && Field::set(text); }
+    bool hasOwnDefault() const override { return place().isResettable(); }
+    bool resetToDefault() override { return resetProperty(); }
 
 protected:
     void written() override { fieldWritten(); }

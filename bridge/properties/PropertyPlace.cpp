@@ -12,6 +12,7 @@ PropertyPlace::PropertyPlace(QObject* object, int index)
     m_name = declared.name();
     m_notifySignal = declared.notifySignalIndex();
     m_writable = declared.isWritable();
+    m_resettable = declared.isResettable();
     m_variant = declared.metaType() == QMetaType::fromType<QVariant>();
 }
 
@@ -51,6 +52,12 @@ std::optional<QVariant> PropertyPlace::read() const
     if (!from)
         return std::nullopt;
     return m_index >= 0 ? m_class->property(m_index).read(from) : from->property(m_name);
+}
+
+bool PropertyPlace::reset() const
+{
+    QObject* const of = object();
+    return of && m_index >= 0 && m_class->property(m_index).reset(of);
 }
 
 bool PropertyPlace::write(const QVariant& value) const

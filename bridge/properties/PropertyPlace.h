@@ -28,6 +28,10 @@ public:
     std::optional<QVariant> read() const;
     /// Calls the setter. False if there is no object, or if the property takes no such value.
     bool write(const QVariant& value) const;
+    /// Whether the class has a way to reset the property.
+    bool isResettable() const { return m_resettable; }
+    /// Calls that way. False if there is no object, or no such way.
+    bool reset() const;
     bool isWritable() const { return m_writable; }
     /// Whether the property may hold a value of any type.
     bool isVariant() const { return m_variant; }
@@ -44,5 +48,6 @@ private:
     QByteArray m_name;
     int m_notifySignal = -1;
     bool m_writable = true;
+    bool m_resettable = false;
     bool m_variant = true;
 };

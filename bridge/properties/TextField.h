@@ -23,6 +23,8 @@ public:
     using KnField::set;
     void get(KbString& text) const override;
     bool set(const KbString& text) override;
+    bool hasOwnDefault() const override { return place().isResettable(); }
+    bool resetToDefault() override { return resetProperty(); }
     /// The object that the property points to; null if it doesn't point to any.
     QObject* linkedObject() const;
 

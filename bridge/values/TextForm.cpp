@@ -79,6 +79,8 @@ const TextForm& textFormOf(QMetaType type)
     return type.flags().testFlag(QMetaType::PointerToQObject) ? objectForm() : descriptionForm();
 }
 
+QString valueText(const QVariant& value) { return textFormOf(value.metaType()).write(value); }
+
 const TextForm& objectForm()
 {
     static const TextForm form { QMetaType(), "SFObject", "", &describeObject, nullptr };

@@ -26,6 +26,8 @@ struct TextForm {
 /// The form for values of a type: its own, that of enumerations, that of pointers to objects, or
 /// else a description, which can't be read back.
 const TextForm& textFormOf(QMetaType type);
+/// A value of any type as text, by the form that its type has.
+QString valueText(const QVariant& value);
 /// For a pointer to an object: its class and name. It can't be read back.
 const TextForm& objectForm();
 /// Whether the text of this value reads back to it.

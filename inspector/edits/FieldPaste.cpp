@@ -22,16 +22,19 @@ constexpr int shownMessages = 4;
 constexpr qsizetype shownLength = 40;
 
 /// What was left out, and how much was not.
-QString report(int count, QStringList messages)
+QString report(const FieldStep& step, QStringList messages)
 {
+    const int count = step.count();
     messages.removeDuplicates();
-    if (messages.isEmpty())
+    if (messages.isEmpty() && step.readOnlyNote().isEmpty())
         return QString();
     const qsizetype more = messages.size() - shownMessages;
     if (more > 0) {
         messages = messages.first(shownMessages);
         messages += tr("and %1 more").arg(more);
     }
+    if (!step.readOnlyNote().isEmpty())
+        messages += step.readOnlyNote();
     const QString lines = messages.join(QLatin1Char('\n'));
     if (count == 0)
         return lines;
@@ -82,10 +85,11 @@ QString pasteOntoFields(const std::vector<KnFieldContainer*>& nodes,
     QStringList messages;
     for (KnField* field : chosen) {
         if (!(named ? step.setText(*field, toKbString(lines.front().value.toString()))
-                    : setLoneValue(step, *field, text)))
+                    : setLoneValue(step, *field, text))
+            && !field->isReadOnly())
             messages += step.refusal();
     }
-    const QString message = report(step.count(), messages);
+    const QString message = report(step, messages);
     step.finish(tr("Paste into %1 fields").arg(step.count()));
     return message;
 }
@@ -104,11 +108,12 @@ QString pasteOntoNodes(const std::vector<KnFieldContainer*>& nodes, const QStrin
                            .arg(typeName(node->getObjectType()),
                                line.name.first(std::min<qsizetype>(line.name.size(), shownLength))
                                    .toString());
-            else if (!step.setText(*field, toKbString(line.value.toString())))
+            else if (!step.setText(*field, toKbString(line.value.toString()))
+                && !field->isReadOnly())
                 messages += step.refusal();
         }
     }
-    const QString message = report(step.count(), messages);
+    const QString message = report(step, messages);
     step.finish(tr("Paste %1 fields into %2").arg(step.count()).arg(nodesLabel(nodes)));
     return message;
 }

@@ -17,18 +17,65 @@ namespace {
 
 // How much of a value the text of a step shows, in characters.
 constexpr int shownLength = 24;
+// Of the fields that were left out.
+constexpr qsizetype shownNames = 6;
+
+KbString fieldText(const KnField& field)
+{
+    KbString text;
+    field.get(text);
+    return text;
+}
 
 } // namespace
 
 FieldStep::FieldStep() = default;
 FieldStep::~FieldStep() = default;
 
+bool FieldStep::mayWrite(const KnField& field)
+{
+    if (!field.isReadOnly())
+        return true;
+    const QString name = fieldName(field);
+    if (!m_readOnly.contains(name))
+        m_readOnly += name;
+    m_refusal = QCoreApplication::translate("FieldStep", "%1 is read-only").arg(name);
+    return false;
+}
+
+QString FieldStep::readOnlyNote() const
+{
+    if (m_readOnly.isEmpty())
+        return QString();
+    QString names = m_readOnly.first(std::min(m_readOnly.size(), shownNames)).join(u", ");
+    if (m_readOnly.size() > shownNames)
+        names = QCoreApplication::translate("FieldStep", "%1 and %2 more")
+                    .arg(names)
+                    .arg(m_readOnly.size() - shownNames);
+    return QCoreApplication::translate("FieldStep", "Read-only: %1").arg(names);
+}
+
 bool FieldStep::setText(KnField& field, const KbString& text)
 {
+    if (field.isReadOnly() && fieldText(field) == text)
+        return true;
+    return write(field, [&text](FieldTextCommand& command) { return command.write(text); });
+}
+
+bool FieldStep::reset(KnField& field)
+{
+    return write(field, [](FieldTextCommand& command) { return command.writeOwnDefault(); });
+}
+
+template <class Write>
+bool FieldStep::write(KnField& field, Write write)
+{
+    if (!mayWrite(field))
+        return false;
     const QString before = fieldSummary(field, shownLength);
     auto command = std::make_unique<FieldTextCommand>(field);
     const KnReadErrorCapture capture;
-    if (!command->write(text)) {
+    if (!write(*command)) {
         m_refusal = toQString(capture.getText());
         return false;
     }
@@ -39,6 +86,8 @@ bool FieldStep::setText(KnField& field, const KbString& text)
 
 bool FieldStep::setRows(KnMField& field, int start, Rows how, const KbString& text)
 {
+    if (!mayWrite(field))
+        return false;
     // Read elsewhere first, so that a bad value leaves the array as it is.
     const std::unique_ptr<KnTypedObject> fresh(field.getObjectType().createInstance());
     auto& scratch = static_cast<KnMField&>(*fresh);

@@ -3,7 +3,7 @@
 
 #include "KbString.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -29,8 +29,13 @@ public:
     /// work grows with the new rows, not with the array.
     bool setRows(KnMField& field, int start, Rows how, const KbString& text);
 
+    /// The same with the field's own default.
+    bool reset(KnField& field);
+
     /// The kernel's message on the last text that was refused.
     const QString& refusal() const { return m_refusal; }
+    /// Names the fields that were left as they are because they are read-only; empty for none.
+    QString readOnlyNote() const;
     /// How many fields have changed.
     int count() const { return static_cast<int>(m_commands.size()); }
 
@@ -39,11 +44,15 @@ public:
     void finish(const QString& text);
 
 private:
+    template <class Write>
+    bool write(KnField& field, Write write);
+    bool mayWrite(const KnField& field);
     void add(std::unique_ptr<CrvCommand> command, const KnField& field, const QString& before);
 
     std::vector<std::unique_ptr<CrvCommand>> m_commands;
     QString m_change; // what happened to the last field
     QString m_refusal;
+    QStringList m_readOnly; // names
 };
 
 /// How a step names what it is about: "Desk lamp", or "3 nodes".

@@ -11,9 +11,13 @@ FieldTextCommand::FieldTextCommand(KnField& field)
     field.get(m_oldText);
 }
 
-bool FieldTextCommand::write(const KbString& text)
+bool FieldTextCommand::write(const KbString& text) { return keepNewText(m_field.set(text)); }
+
+bool FieldTextCommand::writeOwnDefault() { return keepNewText(m_field.resetToDefault()); }
+
+bool FieldTextCommand::keepNewText(bool isTaken)
 {
-    if (!m_field.set(text))
+    if (!isTaken)
         return false;
     m_field.get(m_newText);
     announceEdit(m_field);

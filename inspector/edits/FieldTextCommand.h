@@ -16,6 +16,8 @@ public:
     /// Writes the new value; to be called once, before the command is executed. A refused text
     /// changes nothing and gives false, after a KnReadError.
     bool write(const KbString& text);
+    /// The same with the field's own default.
+    bool writeOwnDefault();
     /// Whether the field holds something else now.
     bool hasChanged() const { return !(m_oldText == m_newText); }
 
@@ -25,6 +27,8 @@ public:
     void redo() override;
 
 private:
+    bool keepNewText(bool isTaken);
+
     KnNodePtr m_node;
     KnField& m_field;
     KbString m_oldText;

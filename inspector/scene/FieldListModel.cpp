@@ -20,14 +20,6 @@ namespace {
 constexpr qint64 lightTime = 700;
 constexpr int lightStep = 36;
 
-/// What the class of its node says of a field.
-QString meaning(const KnField& field)
-{
-    const KnFieldContainer* const node = field.getContainer();
-    const KnFieldData* const fields = node->getContainerFieldData();
-    return fieldMeaning(fields->getInfo(fields->getIndex(node, &field)));
-}
-
 } // namespace
 
 FieldListModel::FieldListModel(QObject* parent)
@@ -133,15 +125,19 @@ QVariant FieldListModel::cell(ListedField& row, int column, int role) const
     case Qt::ToolTipRole:
         return toolTip(row, column);
     case Qt::StatusTipRole:
-        return meaning(row.field());
+        return fieldNote(row.field()).replace(u'\n', QStringLiteral(", "));
+    case Qt::AccessibleDescriptionRole:
+        return isValue && row.shown().isReadOnly ? tr("read-only") : QString();
     case Qt::FontRole: {
         const ListedField::Shown& shown = row.shown();
         const bool isBold = shown.isChanged && (isValue || column == NameColumn);
-        if (!isBold && !shown.isIgnored)
+        const bool isLink = shown.isLink && isValue;
+        if (!isBold && !shown.isIgnored && !isLink)
             return QVariant();
         QFont font;
         font.setBold(isBold);
         font.setStrikeOut(isValue && shown.isIgnored);
+        font.setUnderline(isLink);
         return font;
     }
     case Qt::CheckStateRole:
@@ -155,6 +151,10 @@ QVariant FieldListModel::cell(ListedField& row, int column, int role) const
         return isValue ? light(row) : 0.0;
     case DiffersRole:
         return (isValue || column == OtherColumn) && row.shown().differs;
+    case ReadOnlyRole:
+        return column != OtherColumn && row.shown().isReadOnly;
+    case LinkRole:
+        return column != OtherColumn && row.shown().isLink;
     default:
         return QVariant();
     }
@@ -183,7 +183,8 @@ QString FieldListModel::toolTip(ListedField& row, int column) const
     QStringList lines { QStringLiteral("<b>%1</b>  %2")
                             .arg(row.name().toHtmlEscaped(),
                                 typeName(row.field().getObjectType()).toHtmlEscaped()),
-        meaning(row.field()).toHtmlEscaped(), value.toHtmlEscaped() };
+        fieldNote(row.field()).toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")),
+        value.toHtmlEscaped() };
     lines.removeAll(QString());
     return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>")
         .arg(lines.join(QStringLiteral("<br>")));
@@ -219,6 +220,8 @@ Qt::ItemFlags FieldListModel::flags(const QModelIndex& index) const
     if (!index.isValid() || index.column() != ValueColumn)
         return flags;
     const ListedField& listed = row(index);
+    if (listed.isReadOnly())
+        return flags;
     if (listed.isBool())
         return flags | Qt::ItemIsUserCheckable;
     return fitsLine(listed.field()) ? flags | Qt::ItemIsEditable : flags;

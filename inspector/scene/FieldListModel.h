@@ -23,6 +23,10 @@ public:
         LightRole = Qt::UserRole,
         /// Whether the two nodes that are compared differ here.
         DiffersRole,
+        /// Whether a person can't write a value.
+        ReadOnlyRole,
+        /// Whether a value leads to another node.
+        LinkRole,
     };
 
     explicit FieldListModel(QObject* parent = nullptr);

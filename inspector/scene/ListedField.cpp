@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ListedField.h"
 
+#include "CrvNodeDetails.h"
 #include "FieldDefaults.h"
 #include "FieldValues.h"
 #include "KnSFImage.h"
@@ -52,6 +53,12 @@ void ListedField::sensorRan(void* data, KnSensor*)
 
 bool ListedField::isBool() const { return field().isOfType(KnSFBool::getClassTypeId()); }
 
+bool ListedField::isReadOnly() const
+{
+    return std::all_of(
+        m_fields.begin(), m_fields.end(), [](const KnField* field) { return field->isReadOnly(); });
+}
+
 const ListedField::Shown& ListedField::shown()
 {
     if (!m_shown) {
@@ -80,6 +87,9 @@ ListedField::Shown ListedField::read() const
     shown.value = shown.isMixed ? QString(dash) : fieldSummary(first);
     shown.isIgnored = std::any_of(m_fields.begin(), m_fields.end(),
         [](const KnField* field) { return field->isIgnored() != 0; });
+    shown.isReadOnly = isReadOnly();
+    const CrvNodeDetails* const details = CrvNodeDetails::of(first);
+    shown.isLink = details && !shown.isMixed && details->isLink(first);
     shown.isChanged = std::any_of(m_fields.begin(), m_fields.end(), [this](const KnField* field) {
         const KnField* const fresh = m_defaults.of(*field);
         return fresh && !holdSame(*field, *fresh);

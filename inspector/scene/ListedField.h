@@ -32,6 +32,8 @@ public:
         QString value;
         bool isMixed = false; // the nodes don't agree; the value stands for that
         bool isIgnored = false;
+        bool isReadOnly = false;
+        bool isLink = false; // leads to another node
         bool isChanged = false; // differs from the default in one of the nodes
         Qt::CheckState check = Qt::Unchecked; // of a truth value
         QColor color; // of a color; invalid for anything else
@@ -54,6 +56,8 @@ public:
     KnField& field() const { return *m_fields.front(); }
     const std::vector<KnField*>& fields() const { return m_fields; }
     bool isBool() const;
+    /// Whether a person can write it in none of the nodes.
+    bool isReadOnly() const;
 
     const Shown& shown();
     /// Whether what was shown last differs from the default; false before anybody has asked.

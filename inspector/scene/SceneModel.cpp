@@ -13,6 +13,16 @@
 
 #include <utility>
 
+namespace {
+
+/// Of a row that has children.
+bool hasFixedChildren(const SceneItem& item)
+{
+    return static_cast<const KnGroup*>(item.node.get())->hasFixedChildren();
+}
+
+} // namespace
+
 SceneModel::SceneModel(QObject* parent)
     : SceneModel(nullptr, parent)
 {
@@ -144,7 +154,7 @@ QVariant SceneModel::data(const QModelIndex& index, int role) const
     if (role == Qt::EditRole && index.column() == NameColumn)
         return toQString(shown->getName());
     if (role == Qt::ToolTipRole)
-        return toolTipText(text());
+        return toolTipText(index.column() == NameColumn ? nodeNote(*shown) : text());
     // A node without a name stands under its type's.
     if (role == Qt::FontRole && index.column() == NameColumn && shown->getName().isEmpty()) {
         QFont font;
@@ -170,9 +180,12 @@ Qt::ItemFlags SceneModel::flags(const QModelIndex& index) const
         return m_rootsFixed ? flags : flags | Qt::ItemIsDropEnabled;
     if (index.column() == NameColumn)
         flags |= Qt::ItemIsEditable;
-    if (!m_rootsFixed || item.parent != m_top.get())
+    const bool isFixed = item.parent == m_top.get() ? m_rootsFixed : hasFixedChildren(*item.parent);
+    if (!isFixed)
         flags |= Qt::ItemIsDragEnabled;
-    return flags | (item.isGroup ? Qt::ItemIsDropEnabled : Qt::ItemNeverHasChildren);
+    if (!item.isGroup)
+        return flags | Qt::ItemNeverHasChildren;
+    return hasFixedChildren(item) ? flags : flags | Qt::ItemIsDropEnabled;
 }
 
 bool SceneModel::setData(const QModelIndex& index, const QVariant& value, int role)

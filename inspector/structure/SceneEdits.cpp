@@ -4,6 +4,7 @@
 #include "CrvServices.h"
 #include "KnDebugError.h"
 #include "KnGraphWalk.h"
+#include "KnGroup.h"
 #include "NodeCommands.h"
 #include "NodeCopy.h"
 #include "NodeFinder.h"
@@ -53,6 +54,12 @@ void sortFromTheBack(SceneEdits::Places& places)
 }
 
 } // namespace
+
+bool SceneEdits::mayChange(const ChildList& list) const
+{
+    return list.isRoots() ? m_roots == Roots::Free
+                          : !static_cast<const KnGroup*>(list.group())->hasFixedChildren();
+}
 
 bool SceneEdits::mayChange(const Places& places) const
 {

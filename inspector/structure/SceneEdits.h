@@ -30,10 +30,7 @@ public:
     }
 
     /// Whether nodes may come to and go from there.
-    bool mayChange(const ChildList& list) const
-    {
-        return !list.isRoots() || m_roots == Roots::Free;
-    }
+    bool mayChange(const ChildList& list) const;
     bool mayChange(const Places& places) const;
 
     void add(const KnType& type, const ListGap& gap);

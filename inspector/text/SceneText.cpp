@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "SceneText.h"
 
+#include "CrvNodeDetails.h"
 #include "KnFieldContainer.h"
 #include "KnMField.h"
 #include "KnSFImage.h"
@@ -115,6 +116,29 @@ QString fieldMeaning(const KnFieldInfo& info)
     return numbers.isEmpty()
         ? sentence
         : QStringLiteral("%1 (%2)").arg(sentence, numbers.join(QStringLiteral(", "))).trimmed();
+}
+
+QString fieldNote(const KnField& field)
+{
+    QStringList lines;
+    if (const KnFieldContainer* const node = field.getContainer()) {
+        const KnFieldData* const fields = node->getContainerFieldData();
+        lines += fieldMeaning(fields->getInfo(fields->getIndex(node, &field)));
+    }
+    if (const CrvNodeDetails* const details = CrvNodeDetails::of(field))
+        lines += details->fieldNote(field).split(u'\n');
+    if (field.isReadOnly())
+        lines += QCoreApplication::translate("SceneText", "read-only");
+    lines.removeAll(QString());
+    lines.removeDuplicates();
+    return lines.join(u'\n');
+}
+
+QString nodeNote(const KnFieldContainer& node)
+{
+    const CrvNodeDetails* const details = CrvNodeDetails::of(node);
+    const QString note = details ? details->nodeNote(node) : QString();
+    return note.isEmpty() ? nodeLabel(node) : nodeLabel(node) + u'\n' + note;
 }
 
 QString fieldSummary(const KnField& field, int maxLength)

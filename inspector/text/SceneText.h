@@ -24,6 +24,12 @@ QString fieldName(const KnField& field);
 /// The sentence about a field, with its unit and range; empty if its class says nothing.
 QString fieldMeaning(const KnFieldInfo& info);
 
+/// All that a person should know of a field, line by line: what its class says, what the library
+/// says that made the node, and whether it can be written.
+QString fieldNote(const KnField& field);
+/// The same of a node: its name or its type, and what the library says that made it.
+QString nodeNote(const KnFieldContainer& node);
+
 /// One line of at most about `maxLength` characters that says what the field holds: the first
 /// values of an array and its length, the size of an image, the text of anything else.
 QString fieldSummary(const KnField& field, int maxLength = 80);

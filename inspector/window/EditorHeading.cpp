@@ -22,7 +22,10 @@ QString objectText(const KnTypedObject* object)
 {
     if (const auto* const field = dynamic_cast<const KnField*>(object)) {
         const KnFieldContainer* const node = field->getContainer();
-        return node ? nodeLabel(*node) + QLatin1Char('.') + fieldName(*field) : QString();
+        if (!node)
+            return QString();
+        const QString place = nodeLabel(*node) + QLatin1Char('.') + fieldName(*field);
+        return field->isReadOnly() ? EditorHeading::tr("%1 (read-only)").arg(place) : place;
     }
     const auto* const node = dynamic_cast<const KnFieldContainer*>(object);
     return node ? nodeLabel(*node) : QString();

@@ -3,6 +3,7 @@
 
 #include "CrvServices.h"
 #include "EditorPanes.h"
+#include "FieldListModel.h"
 #include "KnField.h"
 #include "PaneWalk.h"
 #include "ViewMenu.h"
@@ -49,7 +50,9 @@ bool EditorOpener::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     const auto* const key = static_cast<QKeyEvent*>(event);
     if (watched == m_list) {
-        const bool isReturn = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        // Return on a link leads to another node.
+        const bool isReturn = (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+            && !m_list->currentIndex().data(FieldListModel::LinkRole).toBool();
         QDockWidget* const dock
             = isReturn && !key->modifiers().testFlag(Qt::ControlModifier) ? open() : nullptr;
         return dock && dock->widget() && PaneWalk::enter(dock->widget());

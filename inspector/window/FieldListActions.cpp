@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FieldListActions.h"
 
+#include "CrvNodeDetails.h"
 #include "CrvServices.h"
 #include "FieldClipboard.h"
 #include "FieldListModel.h"
 #include "FieldStep.h"
 #include "KnMField.h"
+#include "NodeChoice.h"
+#include "SceneText.h"
 
 #include <QAction>
 #include <QMenu>
@@ -24,7 +27,10 @@ FieldListActions::FieldListActions(QTreeView* list, FieldListModel* model)
     , m_paste(addAction("pasteFields", tr("&Paste"), QKeySequence::Paste, &FieldListActions::paste))
     , m_reset(addAction(
           "resetFields", tr("&Reset to Default"), QKeySequence::Delete, &FieldListActions::reset))
+    , m_goTo(new QAction(tr("&Go to Object"), this))
 {
+    m_goTo->setObjectName(QStringLiteral("goToObject"));
+    connect(m_goTo, &QAction::triggered, this, [this] { follow(m_list->currentIndex()); });
 }
 
 QAction* FieldListActions::addAction(
@@ -45,7 +51,11 @@ void FieldListActions::addTo(QMenu& menu)
     m_copy->setEnabled(m_list->selectionModel()->hasSelection());
     m_copyAll->setEnabled(m_model->node());
     m_paste->setEnabled(m_model->node() && canPasteFields());
-    m_reset->setEnabled(m_list->selectionModel()->hasSelection());
+    m_reset->setEnabled(canReset());
+    if (m_list->currentIndex().data(FieldListModel::LinkRole).toBool()) {
+        menu.addAction(m_goTo);
+        menu.addSeparator();
+    }
     menu.addActions({ m_copy, m_copyAll, m_paste });
     addRowsMenu(menu);
     menu.addSeparator();
@@ -115,7 +125,7 @@ void FieldListActions::addRowsMenu(QMenu& menu)
         return;
     QMenu* const places = menu.addMenu(tr("Paste R&ows"));
     places->setObjectName(QStringLiteral("pasteRows"));
-    places->setEnabled(canPasteFields());
+    places->setEnabled(canPasteFields() && !array->isReadOnly());
     const auto addPlace = [&](const QString& text, int row, FieldStep::Rows how) {
         // The host may drop the node while the menu is open.
         connect(places->addAction(text), &QAction::triggered, this,
@@ -146,21 +156,48 @@ int FieldListActions::chosenRow(const KnField& array) const
     return -1;
 }
 
+bool FieldListActions::canReset() const
+{
+    const std::vector<KnField*> chosen = chosenFields(Of::AllNodes);
+    return std::any_of(chosen.begin(), chosen.end(), [this](const KnField* field) {
+        return !field->isReadOnly() && (field->hasOwnDefault() || m_model->defaults().of(*field));
+    });
+}
+
+void FieldListActions::follow(const QModelIndex& index)
+{
+    const KnField* const field = m_model->field(index);
+    const CrvNodeDetails* const details = field ? CrvNodeDetails::of(*field) : nullptr;
+    const KnNodePtr node = details ? details->linkedNode(*field) : KnNodePtr();
+    if (node)
+        NodeChoice::choose(node.get());
+    else if (field)
+        Q_EMIT told(tr("%1 leads to no object any more").arg(fieldName(*field)));
+}
+
 void FieldListActions::reset()
 {
     FieldStep step;
     QString message;
     KbString text;
     for (KnField* field : chosenFields(Of::AllNodes)) {
+        // A read-only one is left out and named, whatever its default.
+        if (field->hasOwnDefault() || field->isReadOnly()) {
+            if (!step.reset(*field))
+                message = step.refusal();
+            continue;
+        }
         const KnField* const fresh = m_model->defaults().of(*field);
         if (!fresh) {
-            message = tr("Nothing is known of the defaults of this node");
+            message = tr("Nothing is known of the default of %1").arg(fieldName(*field));
             continue;
         }
         fresh->get(text);
         if (!step.setText(*field, text))
             message = step.refusal();
     }
+    if (!step.readOnlyNote().isEmpty())
+        message = step.readOnlyNote();
     step.finish(
         tr("Reset %1 fields of %2").arg(step.count()).arg(nodesLabel(m_model->editedNodes())));
     Q_EMIT told(message);

@@ -9,6 +9,7 @@ class FieldListModel;
 class KnField;
 class QAction;
 class QMenu;
+class QModelIndex;
 class QTreeView;
 
 /// What a person can do with the chosen fields of the list, by its keys and its context menu: copy,
@@ -23,6 +24,9 @@ public:
     void addTo(QMenu& menu);
     /// For all fields of the nodes that the list shows.
     void addNodeEntriesTo(QMenu& menu);
+
+    /// Selects the node that a row of the list leads to.
+    void follow(const QModelIndex& index);
 
 Q_SIGNALS:
     /// Something for the person to read; an empty text when the last one is of no use any more.
@@ -40,6 +44,7 @@ private:
     void addRowsMenu(QMenu& menu);
     int chosenRow(const KnField& array) const;
     void reset();
+    bool canReset() const;
 
     QTreeView* m_list;
     FieldListModel* m_model; // outlives this object
@@ -47,4 +52,5 @@ private:
     QAction* m_copyAll; // child
     QAction* m_paste; // child
     QAction* m_reset; // child
+    QAction* m_goTo; // child
 };

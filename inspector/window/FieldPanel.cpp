@@ -76,6 +76,8 @@ FieldPanel::FieldPanel(QWidget* parent)
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_actions = new FieldListActions(m_list, &m_model);
     connect(m_actions, &FieldListActions::told, this, &FieldPanel::tell);
+    connect(m_list, &FieldListView::refused, this, &FieldPanel::tell);
+    connect(m_list, &FieldListView::linkFollowed, m_actions, &FieldListActions::follow);
     connect(m_list, &QWidget::customContextMenuRequested, this, &FieldPanel::showMenu);
     new FieldDrag(m_list, [this](const QModelIndex& index) { return m_model.field(index); });
 

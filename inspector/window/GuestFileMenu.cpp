@@ -10,6 +10,31 @@
 
 #include <QDir>
 
+namespace {
+
+/// A file holds one root: that of the selection, or else the first. Null without a scene.
+KnNodePtr rootToSave()
+{
+    const CrvServices* const services = CrvServices::getInstance();
+    const std::vector<KnNodePtr>& roots = services->getRoots();
+    if (KnFieldContainer* const root = findRoot(roots, services->getSelectedNode()))
+        return KnNodePtr(root);
+    return roots.empty() ? KnNodePtr() : roots.front();
+}
+
+/// Why there is nothing to be saved; empty if there is.
+QString obstacle(const KnNodePtr& root)
+{
+    if (!root)
+        return GuestFileMenu::tr("There is no scene to save");
+    // A file of them could never be opened.
+    if (!root->getObjectType().canCreateInstance())
+        return GuestFileMenu::tr("Live objects can't be saved as a scene");
+    return QString();
+}
+
+} // namespace
+
 GuestFileMenu::GuestFileMenu(QWidget* parent)
     : QMenu(tr("&File"), parent)
 {
@@ -22,22 +47,25 @@ GuestFileMenu::GuestFileMenu(QWidget* parent)
     QAction* const close
         = addAction(tr("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W), parent, &QWidget::close);
     close->setObjectName(QStringLiteral("closeAction"));
-    // Without a scene there is nothing to copy.
-    connect(this, &QMenu::aboutToShow, save,
-        [save] { save->setEnabled(!CrvServices::getInstance()->getRoots().empty()); });
+    setToolTipsVisible(true);
+    connect(this, &QMenu::aboutToShow, save, [save] {
+        const QString why = obstacle(rootToSave());
+        save->setEnabled(why.isEmpty());
+        save->setToolTip(why);
+        save->setStatusTip(why);
+    });
     connect(this, &QMenu::aboutToHide, save, [save] { save->setEnabled(true); });
 }
 
 void GuestFileMenu::saveCopy()
 {
     FileDialogs::commitTyping(parentWidget());
-    CrvServices* const services = CrvServices::getInstance();
-    if (services->getRoots().empty())
+    const KnNodePtr root = rootToSave();
+    const QString why = obstacle(root);
+    if (!why.isEmpty()) {
+        say(why);
         return;
-    // A file holds one root: that of the selection, or else the first.
-    KnNodePtr root(findRoot(services->getRoots(), services->getSelectedNode()));
-    if (!root)
-        root = services->getRoots().front();
+    }
     QString name = nodeLabel(*root.get());
     name.replace(QLatin1Char('/'), QLatin1Char('_'));
     const QString fileName = FileDialogs::askWhereToSave(parentWidget(), tr("Save a Copy As"),

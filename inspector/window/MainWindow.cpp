@@ -13,6 +13,7 @@
 #include "HelpMenu.h"
 #include "HistoryView.h"
 #include "KnField.h"
+#include "NodeMembers.h"
 #include "NodeNavigation.h"
 #include "PaneColumns.h"
 #include "PaneNames.h"
@@ -33,6 +34,7 @@
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QTreeView>
 
@@ -42,6 +44,9 @@ namespace {
 
 // Changes with the set of the window's own docks.
 constexpr int layoutVersion = 2;
+
+// How long the status bar shows what somebody asked for, in milliseconds.
+constexpr int toldTime = 10000;
 
 // What a list shows first of all.
 constexpr int sceneNameCharacters = 24; // with the indentation
@@ -99,6 +104,10 @@ void MainWindow::buildPanels()
     completeNames(fields, tr("Fields"));
     connect(m_scenePanel, &ScenePanel::nodesSelected, fields, &FieldPanel::showNodes);
     connect(m_scenePanel, &ScenePanel::menuRequested, fields, &FieldPanel::addNodeEntriesTo);
+    auto* const members = new NodeMembers(this);
+    connect(m_scenePanel, &ScenePanel::menuRequested, members, &NodeMembers::addTo);
+    connect(members, &NodeMembers::told, this,
+        [this](const QString& text) { statusBar()->showMessage(text, toldTime); });
     buildWatch(fields);
     shareColumns(QStringLiteral("sceneTree"), sceneNameCharacters, { SceneModel::TypeColumn });
     shareColumns(QStringLiteral("fieldList"), valueCharacters,

@@ -43,7 +43,51 @@ QIcon swatch(const QColor& color, const QStyleOptionViewItem& option)
     return icon;
 }
 
+/// A closed lock in the middle of `place`, drawn in the colour of the text.
+void drawLock(QPainter& painter, const QRectF& place, const QColor& color)
+{
+    const double unit = place.height() / 10;
+    const QPointF middle = place.center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 1.2 * unit));
+    const QRectF shackle(middle.x() - 2 * unit, middle.y() - 4.5 * unit, 4 * unit, 5 * unit);
+    painter.drawArc(shackle, 0, 180 * 16);
+    for (const double x : { shackle.left(), shackle.right() })
+        painter.drawLine(QPointF(x, shackle.center().y()), QPointF(x, middle.y()));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(
+        QRectF(middle.x() - 3.2 * unit, middle.y() - 0.5 * unit, 6.4 * unit, 5 * unit), unit, unit);
+    painter.restore();
+}
+
 } // namespace
+
+// A locked value ends where its lock begins.
+void ValueDelegate::paint(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (!index.data(FieldListModel::ReadOnlyRole).toBool()) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem value(option);
+    QStyleOptionViewItem lock(option);
+    initStyleOption(&lock, index);
+    value.rect.setRight(value.rect.right() - option.fontMetrics.height());
+    lock.rect.setLeft(value.rect.right() + 1);
+    QStyledItemDelegate::paint(painter, value, index);
+    option.widget->style()->drawPrimitive(
+        QStyle::PE_PanelItemViewItem, &lock, painter, option.widget);
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    QColor color = lock.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
+    color.setAlphaF(0.7F);
+    const double height = option.fontMetrics.ascent();
+    drawLock(*painter,
+        QRectF(lock.rect.left(), lock.rect.center().y() - height / 2, lock.rect.width(), height),
+        color);
+}
 
 // As high whatever stands in the row, since the first row stands for all of them.
 QSize ValueDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
@@ -60,6 +104,8 @@ void ValueDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIn
         option->icon = swatch(own, *option);
         option->decorationSize = option->icon.availableSizes().constFirst();
     }
+    if (index.data(FieldListModel::LinkRole).toBool())
+        option->palette.setBrush(QPalette::Text, option->palette.link());
     if (index.data(FieldListModel::DiffersRole).toBool()) {
         option->text = QStringLiteral("%1 %2").arg(QChar(0x2260)).arg(option->text);
         QColor mark = option->palette.color(QPalette::Highlight);

@@ -77,7 +77,7 @@ public:
     Parts m_parts = Wheel;
     QColor m_paint = Qt::red;
     QQuaternion m_turn;
-    QList<int> m_steps { 1, 2, 3 };
+    QList<int> m_steps = QList<int>() << 1 << 2 << 3;
     QRect m_place { 1, 2, 30, 40 };
     qint64 m_serial = 1;
     QVariant m_load = 2.5;
