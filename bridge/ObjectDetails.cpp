@@ -25,10 +25,20 @@ QObject* objectOf(const KnFieldContainer& node)
     return object && object->thread() == QThread::currentThread() ? object : nullptr;
 }
 
-const TextPropertyField* linkOf(const KnField& field)
+/// Whether the object, or what it stands below, is kept out of the tree.
+bool isHidden(const QObject* object)
+{
+    while (object && !ObjectWatch::getInstance().isHidden(const_cast<QObject*>(object)))
+        object = object->parent();
+    return object;
+}
+
+/// Null if the field leads nowhere.
+QObject* linkedObject(const KnField& field)
 {
     const auto* const text = dynamic_cast<const TextPropertyField*>(&field);
-    return text && text->linkedObject() ? text : nullptr;
+    QObject* const object = text ? text->linkedObject() : nullptr;
+    return isHidden(object) ? nullptr : object;
 }
 
 /// The members of a class that a test accepts, once each, the most derived class first.
@@ -99,12 +109,11 @@ QString ObjectDetails::nodeNote(const KnFieldContainer& node) const
 
 QString ObjectDetails::fieldNote(const KnField& field) const { return crvPropertyNote(&field); }
 
-bool ObjectDetails::isLink(const KnField& field) const { return linkOf(field); }
+bool ObjectDetails::isLink(const KnField& field) const { return linkedObject(field); }
 
 KnNodePtr ObjectDetails::linkedNode(const KnField& field) const
 {
-    const TextPropertyField* const link = linkOf(field);
-    return link ? crvPlacedNode(link->linkedObject()) : KnNodePtr();
+    return crvPlacedNode(linkedObject(field));
 }
 
 std::vector<CrvNodeDetails::Member> ObjectDetails::methods(const KnFieldContainer& node) const

@@ -2,6 +2,7 @@
 #include "ObjectNode.h"
 
 #include "CrvStrings.h"
+#include "KnDebugError.h"
 #include "KnFieldTableSensor.h"
 #include "KnSFields.h"
 #include "NodeHold.h"
@@ -45,9 +46,10 @@ ObjectNode* ObjectNode::of(QObject* object)
 ObjectNode::ObjectNode(QObject* object)
     : m_address(object)
     , m_object(object)
+    , m_firstName(toKbString(object->objectName()))
     , m_class(isForeign() ? foreignClass(*object) : ObjectClass::of(object->metaObject()))
 {
-    setName(KbName(toKbString(object->objectName())));
+    setName(m_firstName);
     makeChildrenLater();
     ObjectWatch::getInstance().addFollower(object, this);
 }
@@ -131,9 +133,17 @@ void ObjectNode::makeChildren()
 
 void ObjectNode::renamed()
 {
-    const QString name = toQString(getName().getString());
-    if (m_object && !isForeign() && m_object->objectName() != name)
-        m_object->setObjectName(name);
+    if (!m_object) {
+        KnDebugError::post(KnDebugError::Warning, "The object is gone, so it got no other name");
+    } else if (!isForeign()) {
+        const QString name = toQString(getName().getString());
+        if (m_object->objectName() != name)
+            m_object->setObjectName(name);
+    } else if (!(getName() == m_firstName)) {
+        KnDebugError::post(
+            KnDebugError::Warning, "An object of another thread can't get another name");
+        setName(m_firstName);
+    }
 }
 
 void ObjectNode::followObject()

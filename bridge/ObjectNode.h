@@ -54,6 +54,7 @@ private:
 
     QObject* const m_address; // of the object, also when it is dead
     QPointer<QObject> m_object;
+    const KbName m_firstName; // of the object, when the node was made
     std::shared_ptr<const ObjectClass> m_class;
     bool m_watchesEvents = false; // of the object, since somebody has looked beyond its name
     // The fields of the class and those for the object's dynamic properties; null without any.

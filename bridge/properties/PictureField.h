@@ -62,8 +62,8 @@ protected:
         const auto picture = value.value<Qt>();
         m_shownKey = picture.cacheKey();
         m_wasShown = true;
-        m_edited = false;
         writePicture(*this, PictureValue<Qt>::fromQt(picture));
+        m_edited = false; // this was no edit
     }
     QVariant valueFor(const QVariant& before) override
     {

@@ -54,6 +54,9 @@ bool TextPropertyField::set(const KbString& text)
 
 QObject* TextPropertyField::linkedObject() const
 {
+    // Looking is only worth it where the property is a pointer.
+    if (&m_form != &objectForm())
+        return nullptr;
     return place().read().value_or(QVariant()).value<QObject*>();
 }
 

@@ -101,6 +101,11 @@ bool FieldListModel::isChanged(int row) const
     return m_rows[static_cast<std::size_t>(row)]->shown().isChanged;
 }
 
+bool FieldListModel::isDefault(int row) const
+{
+    return !isChanged(row) && m_rows[static_cast<std::size_t>(row)]->hasDefault();
+}
+
 int FieldListModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());

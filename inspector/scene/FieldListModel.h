@@ -52,6 +52,8 @@ public:
     int rowOf(const KnField* field) const;
     /// Whether a value differs from its default.
     bool isChanged(int row) const;
+    /// Whether a value certainly is the default: there is one, and it doesn't differ.
+    bool isDefault(int row) const;
     FieldDefaults& defaults() { return m_defaults; }
 
     /// Holds the texts as they are, also of fields whose change hasn't been announced yet. What is

@@ -59,6 +59,12 @@ bool ListedField::isReadOnly() const
         m_fields.begin(), m_fields.end(), [](const KnField* field) { return field->isReadOnly(); });
 }
 
+bool ListedField::hasDefault() const
+{
+    return std::any_of(m_fields.begin(), m_fields.end(),
+        [this](const KnField* field) { return m_defaults.of(*field); });
+}
+
 const ListedField::Shown& ListedField::shown()
 {
     if (!m_shown) {

@@ -58,6 +58,8 @@ public:
     bool isBool() const;
     /// Whether a person can write it in none of the nodes.
     bool isReadOnly() const;
+    /// Whether the default is known in one of the nodes.
+    bool hasDefault() const;
 
     const Shown& shown();
     /// Whether what was shown last differs from the default; false before anybody has asked.

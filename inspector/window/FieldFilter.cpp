@@ -24,7 +24,7 @@ void FieldFilter::apply()
 {
     const bool filters = m_action->isChecked();
     for (int row = 0; row < m_model->rowCount(); ++row) {
-        const bool isHidden = filters && !m_model->isChanged(row);
+        const bool isHidden = filters && m_model->isDefault(row);
         if (m_list->isRowHidden(row, QModelIndex()) != isHidden)
             m_list->setRowHidden(row, QModelIndex(), isHidden);
     }

@@ -321,6 +321,24 @@ private Q_SLOTS:
         }
     }
 
+    void aPictureThatStaysIsShownOnce()
+    {
+        QImage picture(2, 2, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        m_machine->setProperty("picture", picture);
+        runSensors();
+        KnField* const field = m_node->getField("picture");
+        const Watch watch(field);
+        text(field);
+        runSensors();
+        QCOMPARE(watch.runs, 0);
+        picture.fill(Qt::blue);
+        m_machine->setProperty("picture", picture);
+        text(field);
+        runSensors();
+        QCOMPARE(watch.runs, 1);
+    }
+
     void theClassTellsOfProperties_data()
     {
         QTest::addColumn<QByteArray>("name");

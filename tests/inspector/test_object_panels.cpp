@@ -19,6 +19,7 @@
 #include <QStatusBar>
 #include <QTextEdit>
 #include <QTimer>
+#include <QToolButton>
 #include <QUndoStack>
 
 using namespace Qt::StringLiterals;
@@ -264,6 +265,9 @@ private Q_SLOTS:
         QCOMPARE(message(), u"Nothing is known of the default of polled"_s);
         QCOMPARE(stack().count(), 0);
         QVERIFY(!cell(u"polled"_s).data(Qt::FontRole).value<QFont>().bold());
+        // What may have changed isn't filtered away.
+        QTest::mouseClick(find<QToolButton>(u"changedOnlyButton"_s), Qt::LeftButton);
+        QVERIFY(!list()->isRowHidden(cell(u"polled"_s).row(), QModelIndex()));
     }
 
     void linksLead_data()
