@@ -15,6 +15,7 @@
 #include <utility>
 
 #include <dlfcn.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 // What happens in the program that `corvane --run` has become.
@@ -61,10 +62,19 @@ void leavePreload()
     std::_Exit(refused);
 }
 
+/// One of them may have been the program, as with a script.
+bool hadChildren()
+{
+    rusage usage = {};
+    return getrusage(RUSAGE_CHILDREN, &usage) == 0 && usage.ru_maxrss > 0;
+}
+
 void atEnd()
 {
     // Neither a process that the program has forked, nor a helper of a script that starts it.
     if (getpid() != loadingProcess || (!applicationSeen && !session->isFirstProcess()))
+        return;
+    if (!applicationSeen && hadChildren())
         return;
     if (!applicationSeen)
         complain("has ended without an application object of Qt 6, so there was nothing to show");

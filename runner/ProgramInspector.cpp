@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ProgramInspector.h"
 
+#include "ApplicationFilters.h"
 #include "CrvObjects.h"
 #include "CrvServices.h"
 #include "KnGroup.h"
@@ -41,13 +42,16 @@ ProgramInspector::ProgramInspector(const ProgramSession& session)
         return; // it has said why
     m_own.take(window, before);
     m_exemption = std::make_unique<ModalExemption>(window);
-    application->installEventFilter(this);
+    ApplicationFilters::leaveOut(&m_own);
+    ApplicationFilters::installOwn(this);
+    connect(CrvServices::getInstance(), &CrvServices::selectedNodeChanged, this,
+        [this](const KnFieldContainer* node) { m_outline.surround(crvNodeObject(node)); });
     updateRoots();
     if (!session.endsProgram())
         session.select();
 }
 
-ProgramInspector::~ProgramInspector() = default;
+ProgramInspector::~ProgramInspector() { windowClosed(); }
 
 bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
 {
@@ -78,7 +82,7 @@ bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     default:
-        break;
+        return m_outline.concerns(event);
     }
     return false;
 }
@@ -87,7 +91,9 @@ bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
 void ProgramInspector::windowClosed()
 {
     QCoreApplication::instance()->removeEventFilter(this);
+    ApplicationFilters::leaveOut(nullptr);
     m_exemption.reset();
+    m_outline.surround(nullptr);
 }
 
 void ProgramInspector::rootDestroyed()

@@ -3,6 +3,7 @@
 
 #include "CrvInspector.h"
 #include "ModalExemption.h"
+#include "Outline.h"
 #include "OwnObjects.h"
 
 #include <QObject>
@@ -35,6 +36,7 @@ private:
 
     CrvInspector m_inspector;
     OwnObjects m_own;
+    Outline m_outline;
     std::unique_ptr<ModalExemption> m_exemption; // null without a window
     QObjectList m_roots; // what is shown; empty when that has to change
     bool m_updateWaits = false;

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -140,6 +144,94 @@ int runClosing(int argc, char** argv)
     return QApplication::exec() + 5;
 }
 
+/// Eats what it hears of, wherever that goes.
+class Eater : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        return event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress;
+    }
+};
+
+int runFiltered(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    application.setObjectName("guest");
+    Eater eater;
+    application.installEventFilter(&eater);
+    Window window("window");
+    window.show();
+    if (!comes("window"))
+        return 99;
+    QWidget* const inspector = tree("sceneTree")->window();
+    auto* const line = inspector->findChild<QLineEdit*>("sceneFilter");
+    click(&window.button, window.button.rect().center());
+    print(QString("row %1, %2 clicks").arg(clickRow("window")).arg(window.clicks));
+    inspector->activateWindow();
+    click(line, line->rect().center());
+    QTest::keyClick(inspector->windowHandle(), Qt::Key_X);
+    print("typed " + line->text());
+    application.removeEventFilter(&eater);
+    click(&window.button, window.button.rect().center());
+    print(QString("%1 clicks").arg(window.clicks));
+    return 0;
+}
+
+/// Where the line around the selected widget is, seen from the window; null while it isn't seen.
+QRect outline(const QWidget& window)
+{
+    const auto* const line = window.findChild<QWidget*>("corvaneOutline");
+    return line && line->isVisible() ? line->geometry() : QRect();
+}
+
+int runOutline(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    Window window("window");
+    // Takes all children for panes.
+    QSplitter splitter(&window);
+    splitter.setWindowFlag(Qt::Window);
+    splitter.setObjectName("splitter");
+    QScrollArea area;
+    QWidget content;
+    content.resize(400, 2000);
+    QPushButton button("Deep", &content);
+    button.setObjectName("deep");
+    button.setGeometry(10, 100, 100, 30);
+    area.setWidget(&content);
+    splitter.addWidget(&area);
+    splitter.resize(500, 400);
+    splitter.show();
+    window.resize(300, 300);
+    window.show();
+    if (!comes("window"))
+        return 99;
+    const auto isAround = [&](const QWidget& widget, const QWidget& top) {
+        const QRect rect(widget.mapTo(&top, QPoint()), widget.size());
+        return QTest::qWaitFor([&] { return outline(top) == (rect & top.rect()); }, 20000);
+    };
+    QTest::mouseClick(&button, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
+    print(QString("around %1, %2 panes").arg(isAround(button, splitter)).arg(splitter.count()));
+    area.verticalScrollBar()->setValue(40);
+    print(QString("scrolled %1").arg(isAround(button, splitter)));
+    area.verticalScrollBar()->setValue(1000);
+    print(
+        QString("out %1").arg(QTest::qWaitFor([&] { return outline(splitter).isNull(); }, 20000)));
+    button.setParent(&window);
+    button.show();
+    print(QString("moved %1").arg(isAround(button, window)));
+    const QStringList shown
+        = rows(tree("sceneTree"), static_cast<int>(rows(tree("sceneTree")).indexOf("window")));
+    print(QString("listed %1").arg(shown.contains("corvaneOutline")));
+    bool pressed = false;
+    QObject::connect(&button, &QPushButton::pressed, &window, [&pressed] { pressed = true; });
+    click(&button, { 1, 1 }); // on the line
+    print(QString("pressed %1").arg(pressed));
+    tree("sceneTree")->window()->close();
+    print(QString("gone %1").arg(outline(window).isNull()));
+    return 0;
+}
+
 int runWidgets(int argc, char** argv)
 {
     QApplication application(argc, argv);
@@ -177,6 +269,10 @@ int main(int argc, char** argv)
         return runWidgets(argc, argv);
     if (what == "modal")
         return runModal(argc, argv);
+    if (what == "filtered")
+        return runFiltered(argc, argv);
+    if (what == "outline")
+        return runOutline(argc, argv);
     if (what == "quiet")
         return runQuiet(argc, argv);
     if (what == "closing")

@@ -53,20 +53,33 @@ private Q_SLOTS:
         QCOMPARE(result.status, 7);
     }
 
-    void modalWindowsDontMix()
+    void guests_data()
     {
-        const Result result = run({ guest, u"modal"_s });
-        QCOMPARE(result.out, u"below one 1\nbelow two 1\nback 1, 1 0\nown 0, 1\nfree 1\n"_s);
+        // What the program does, what it sees of it, and its status.
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("output");
+        QTest::addColumn<int>("status");
+        QTest::addRow("modal windows don't mix")
+            << QStringList { u"modal"_s }
+            << u"below one 1|below two 1|back 1, 1 0|own 0, 1|free 1"_s << 0;
+        QTest::addRow("the program's window closes")
+            << QStringList { u"closing"_s } << u"2 windows"_s << 5;
+        QTest::addRow("the inspector closes first")
+            << QStringList { u"closing"_s, u"inspector"_s } << u"1 windows"_s << 5;
+        QTest::addRow("filters of the application stay with the program")
+            << QStringList { u"filtered"_s } << u"row 1, 0 clicks|typed x|1 clicks"_s << 0;
+        QTest::addRow("the selected widget is outlined")
+            << QStringList { u"outline"_s }
+            << u"around 1, 1 panes|scrolled 1|out 1|moved 1|listed 0|pressed 1|gone 1"_s << 0;
     }
-
-    void eitherWindowMayCloseFirst()
+    void guests()
     {
-        const Result result = run({ guest, u"closing"_s });
-        QCOMPARE(result.out, u"2 windows\n"_s);
-        QCOMPARE(result.status, 5);
-        const Result other = run({ guest, u"closing"_s, u"inspector"_s });
-        QCOMPARE(other.out, u"1 windows\n"_s);
-        QCOMPARE(other.status, 5);
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, output);
+        QFETCH(int, status);
+        const Result result = run(QStringList { guest } + arguments);
+        QCOMPARE(result.out.trimmed().split(u'\n'), output.split(u'|'));
+        QCOMPARE(result.status, status);
     }
 
     void answers_data()
@@ -131,7 +144,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("error");
         QTest::addRow("becomes it")
             << QByteArray("#!/usr/bin/env sh\ntrue\nexec \"$@\"\n") << QString();
-        QTest::addRow("starts it") << QByteArray("#!/bin/sh\ntrue\n\"$@\"\n") << QString();
+        QTest::addRow("starts it") << QByteArray("#!/bin/bash\ntrue\n\"$@\"\ntrue\n") << QString();
         QTest::addRow("no interpreter") << QByteArray("#!/no/such/shell -x\n")
                                         << u"its interpreter /no/such/shell is missing\n"_s;
     }
