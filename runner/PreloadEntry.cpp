@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "CrvObjects.h"
+#include "LooseObjects.h"
 #include "OwnObjects.h"
 #include "ProgramInspector.h"
 #include "ProgramRoots.h"
@@ -88,27 +88,28 @@ void atEnd()
 {
     ProgramStart::begin();
     loadingProcess = getpid();
+    ObjectRegister::start();
     session = new ProgramSession;
     answerWaits = session->endsProgram();
     std::atexit(&atEnd);
 }
 
-ProgramSession::Roots rootNodes()
+ProgramSession::Roots nodesOfProgram()
 {
-    ProgramSession::Roots nodes;
-    for (QObject* const root : programRoots(OwnObjects()))
-        nodes.emplace_back(crvObjectNode(root));
-    return nodes;
+    static auto* const loose = new LooseObjects;
+    static const KnNodePtr held(loose);
+    loose->update(ObjectRegister::Look::All);
+    return rootNodes(programRoots(OwnObjects()), loose);
 }
 
 void openInspector()
 {
     answerWaits = false;
     if (session->endsProgram() && !session->needsWindow())
-        session->answer(&rootNodes);
+        session->answer(&nodesOfProgram);
     inspector = new ProgramInspector(*session);
     if (session->endsProgram())
-        session->answer(&rootNodes);
+        session->answer(&nodesOfProgram);
 }
 
 void waitForProgram()
@@ -117,6 +118,7 @@ void waitForProgram()
         complain("has no QApplication, so the inspector can't have a window in it");
         if (session->endsProgram())
             endRefused();
+        ObjectRegister::stop();
         return;
     }
     programStart = new ProgramStart(session->after());

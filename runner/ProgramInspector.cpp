@@ -5,7 +5,7 @@
 #include "CrvObjects.h"
 #include "CrvServices.h"
 #include "KnGroup.h"
-#include "KnNodePtr.h"
+#include "LooseObjects.h"
 #include "ProgramRoots.h"
 #include "ProgramSession.h"
 
@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr int newsInterval = 300; // milliseconds
+
 bool isWindow(const QObject* object)
 {
     return object->isWidgetType() && static_cast<const QWidget*>(object)->isWindow();
@@ -25,7 +27,10 @@ bool isWindow(const QObject* object)
 } // namespace
 
 ProgramInspector::ProgramInspector(const ProgramSession& session)
+    : m_loose(new LooseObjects)
+    , m_looseNode(m_loose)
 {
+    const ObjectRegister::Pause pause;
     // What the first `show` makes is the inspector's, also the editors that no dock shows as yet.
     QObject* const application = QCoreApplication::instance();
     const QWidgetList before = QApplication::topLevelWidgets();
@@ -46,6 +51,8 @@ ProgramInspector::ProgramInspector(const ProgramSession& session)
     ApplicationFilters::installOwn(this);
     connect(CrvServices::getInstance(), &CrvServices::selectedNodeChanged, this,
         [this](const KnFieldContainer* node) { m_outline.surround(crvNodeObject(node)); });
+    ObjectRegister::tell(this);
+    m_loose->update(ObjectRegister::Look::All);
     updateRoots();
     if (!session.endsProgram())
         session.select();
@@ -68,6 +75,11 @@ bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Polish:
         if (isWindow(watched) && m_own.contains(watched))
             m_exemption->windowPolished(static_cast<QWidget*>(watched));
+        break;
+    case QEvent::WindowActivate:
+        // Somebody turns to the inspector.
+        if (watched == m_inspector.window())
+            lookAtLoose(ObjectRegister::Look::All);
         break;
     case QEvent::Hide:
         if (watched == m_inspector.window() && !m_inspector.isOpen())
@@ -92,8 +104,30 @@ void ProgramInspector::windowClosed()
 {
     QCoreApplication::instance()->removeEventFilter(this);
     ApplicationFilters::leaveOut(nullptr);
+    ObjectRegister::stop();
+    m_news.stop();
     m_exemption.reset();
     m_outline.surround(nullptr);
+}
+
+/// Objects come and go in crowds.
+void ProgramInspector::customEvent(QEvent*) { m_news.start(newsInterval, this); }
+
+void ProgramInspector::timerEvent(QTimerEvent*)
+{
+    m_news.stop();
+    lookAtLoose(ObjectRegister::Look::News);
+}
+
+void ProgramInspector::lookAtLoose(ObjectRegister::Look look)
+{
+    const ObjectRegister::Pause pause;
+    const bool wasEmpty = m_loose->isEmpty();
+    m_loose->update(look);
+    if (wasEmpty != m_loose->isEmpty()) {
+        m_roots.clear();
+        updateRoots();
+    }
 }
 
 void ProgramInspector::rootDestroyed()
@@ -122,12 +156,10 @@ void ProgramInspector::updateRoots()
             Qt::UniqueConnection);
     }
     m_roots = roots;
-    std::vector<KnNodePtr> held; // while the inspector has them not yet
+    const std::vector<KnNodePtr> held = rootNodes(roots, m_loose);
     std::vector<KnFieldContainer*> nodes;
-    for (QObject* const root : roots) {
-        held.emplace_back(crvObjectNode(root));
-        nodes.push_back(held.back().get());
-    }
+    for (const KnNodePtr& node : held)
+        nodes.push_back(node.get());
     m_inspector.setRoots(nodes);
 }
 

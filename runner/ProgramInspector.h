@@ -2,10 +2,12 @@
 #pragma once
 
 #include "CrvInspector.h"
+#include "LooseObjects.h"
 #include "ModalExemption.h"
 #include "Outline.h"
 #include "OwnObjects.h"
 
+#include <QBasicTimer>
 #include <QObject>
 #include <QObjectList>
 
@@ -27,17 +29,25 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+protected:
+    void customEvent(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
 private:
+    void lookAtLoose(ObjectRegister::Look look);
     void windowClosed();
     void rootDestroyed();
     void updateRootsSoon();
     void updateRoots();
     void select(QObject* object);
 
+    LooseObjects* const m_loose; // m_looseNode owns it
+    const KnNodePtr m_looseNode;
     CrvInspector m_inspector;
     OwnObjects m_own;
     Outline m_outline;
     std::unique_ptr<ModalExemption> m_exemption; // null without a window
     QObjectList m_roots; // what is shown; empty when that has to change
+    QBasicTimer m_news; // runs while objects have come that nobody has looked at
     bool m_updateWaits = false;
 };

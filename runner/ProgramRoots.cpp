@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ProgramRoots.h"
 
+#include "CrvObjects.h"
+#include "LooseObjects.h"
 #include "OwnObjects.h"
 
 #include <QApplication>
@@ -22,4 +24,14 @@ QObjectList programRoots(const OwnObjects& own)
             roots += window;
     }
     return roots;
+}
+
+std::vector<KnNodePtr> rootNodes(const QObjectList& roots, LooseObjects* loose)
+{
+    std::vector<KnNodePtr> nodes;
+    for (QObject* const root : roots)
+        nodes.emplace_back(crvObjectNode(root));
+    if (!loose->isEmpty())
+        nodes.emplace_back(loose);
+    return nodes;
 }

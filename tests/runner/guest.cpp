@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
@@ -121,6 +122,8 @@ int runQuiet(int argc, char** argv)
     application.setObjectName("guest");
     Window window("window");
     window.show();
+    QAction action("Loose");
+    action.setObjectName("action");
     print("noise");
     QTimer::singleShot(10000, &application, &QCoreApplication::quit);
     return QApplication::exec();
@@ -256,6 +259,19 @@ int runWidgets(int argc, char** argv)
         print(QString("second %1").arg(QTest::qWaitFor(isShown, 20000)));
     }
     print(QString("gone %1").arg(QTest::qWaitFor([&] { return !isShown(); }, 20000)));
+    const auto isLoose = [] {
+        const QStringList tops = rows(tree("sceneTree"));
+        const auto top = static_cast<int>(tops.indexOf("Objects without a parent"));
+        return top >= 0 && rows(tree("sceneTree"), top).contains("loose");
+    };
+    {
+        QAction loose;
+        loose.setObjectName("loose");
+        print(QString("loose %1").arg(QTest::qWaitFor(isLoose, 20000)));
+        loose.setParent(&window);
+        const QAction other; // so that there is something to look for
+        print(QString("taken %1").arg(QTest::qWaitFor([&] { return !isLoose(); }, 20000)));
+    }
     print("preload " + qEnvironmentVariable("LD_PRELOAD"));
     return 7;
 }

@@ -49,7 +49,7 @@ private Q_SLOTS:
     {
         const Result result = run({ guest, u"widgets"_s });
         QCOMPARE(result.out,
-            u"roots guest window\n0 gestures\nselected 1, 0 clicks\n1 clicks\nsecond 1\ngone 1\npreload \n"_s);
+            u"roots guest window Objects without a parent\n0 gestures\nselected 1, 0 clicks\n1 clicks\nsecond 1\ngone 1\nloose 1\ntaken 1\npreload \n"_s);
         QCOMPARE(result.status, 7);
     }
 
@@ -94,6 +94,8 @@ private Q_SLOTS:
         QTest::addRow("set goes through the setter")
             << u"--set|button.text=Stop|--get|button.text|--set|window.minimumWidth=700|--get|window.width"_s
             << u"\"Stop\"\n700\n"_s << 0;
+        QTest::addRow("without a parent")
+            << u"--get|Objects without a parent/action.text"_s << u"\"Loose\"\n"_s << 0;
         QTest::addRow("after a time")
             << u"--after|0.1|--get|guest.objectName"_s << u"\"guest\"\n"_s << 0;
         QTest::addRow("too late") << u"--after|1000|--get|guest.objectName"_s
