@@ -56,6 +56,7 @@ BEGIN {
     room("examples/loop", "example", 75, 1, "loop/")
     room("examples/viewer", "example", 75, 2, "viewer/")
     room("examples/view", "example", 75, 3, "view/")
+    room("examples/torus", "example", 75, 4, "torus/")
 
     target("defaults", 575, 20, 750, upper, "ubn_corvane_extender_base")
     room("plugin", "defaults", 380, 0, "plugin/")

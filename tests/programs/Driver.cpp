@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "InspectorInput.h"
 #include "ObjectWalk.h"
+#include "PictureEdits.h"
 #include "ProgramStart.h"
 #include "PropertyEdits.h"
 #include "PropertySnapshot.h"
@@ -66,6 +67,16 @@ int edit()
     return result.faults.isEmpty() ? Passed : Failed;
 }
 
+int picture()
+{
+    InspectorInput input;
+    const PictureResult result = editPicture(input);
+    print(QStringLiteral("changes %1").arg(result.changes));
+    for (const QString& fault : result.faults)
+        print(QStringLiteral("fault: ") + fault);
+    return result.faults.isEmpty() ? Passed : Failed;
+}
+
 void run()
 {
     int status = UnknownTask;
@@ -77,6 +88,8 @@ void run()
         status = walk();
     else if (task == "edit")
         status = edit();
+    else if (task == "picture")
+        status = picture();
     for (const QString& warning : std::as_const(*warnings))
         print(QStringLiteral("warning: ") + warning);
     std::fflush(nullptr);

@@ -37,6 +37,7 @@ Result drive(Inspector inspector, const QString& task, const QStringList& comman
     environment.insert(u"XDG_DATA_HOME"_s, home.path());
     environment.insert(u"LD_PRELOAD"_s, QStringLiteral(CORVANE_DRIVER));
     environment.insert(u"CORVANE_DRIVE"_s, task);
+    environment.insert(u"LIBGL_ALWAYS_SOFTWARE"_s, u"1"_s);
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -110,6 +111,17 @@ private Q_SLOTS:
         QVERIFY2(isClean(result, alone), result.text());
         QVERIFY2(result.count(u"edited"_s) >= least, result.text());
     }
+
+#ifdef CORVANE_TORUS
+    void aSliderChangesWhatQt3DDraws()
+    {
+        const QStringList torus { QStringLiteral(CORVANE_TORUS) };
+        const Result alone = drive(Inspector::Absent, u"alone"_s, torus);
+        const Result result = drive(Inspector::Present, u"picture"_s, torus);
+        QVERIFY2(isClean(result, alone), result.text());
+        QCOMPARE(result.count(u"changes"_s), 5);
+    }
+#endif
 
 private:
     const QStringList designer { QStringLiteral(CORVANE_DESIGNER),
