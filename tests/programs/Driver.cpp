@@ -2,23 +2,28 @@
 #include "InspectorInput.h"
 #include "ObjectWalk.h"
 #include "PictureEdits.h"
+#include "ProgramPicture.h"
 #include "ProgramStart.h"
 #include "PropertyEdits.h"
 #include "PropertySnapshot.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
 
 // Preloaded into a program that is inspected: waits for the inspector's window, works in it as a
-// person would, prints what came of it, and ends the program. CORVANE_DRIVE says what to do.
+// person would, prints what came of it, and ends the program. CORVANE_DRIVE says what to do; "draw"
+// has the name of a file behind it.
 
 namespace {
 
 enum Status { Passed = 0, Failed = 1, NoWindow = 2, UnknownTask = 3 };
+
+constexpr char drawing[] = "draw ";
 
 QByteArray task;
 QStringList* warnings = nullptr; // those that nobody expects
@@ -77,6 +82,12 @@ int picture()
     return result.faults.isEmpty() ? Passed : Failed;
 }
 
+int draw(const QString& file)
+{
+    InspectorInput input;
+    return drawEditedForm(input, file) ? Passed : Failed;
+}
+
 void run()
 {
     int status = UnknownTask;
@@ -90,6 +101,8 @@ void run()
         status = edit();
     else if (task == "picture")
         status = picture();
+    else if (task.startsWith(drawing))
+        status = draw(QFile::decodeName(task.mid(qstrlen(drawing))));
     for (const QString& warning : std::as_const(*warnings))
         print(QStringLiteral("warning: ") + warning);
     std::fflush(nullptr);
@@ -107,7 +120,7 @@ void waitForWindow()
         const bool isReady = task == "alone" || InspectorInput::isReady();
         if (!isReady && clock.elapsed() < patience)
             return;
-        if (isReady && !programIsReady())
+        if (isReady && !task.startsWith(drawing) && !programIsReady())
             return;
         timer->deleteLater();
         QMetaObject::invokeMethod(QCoreApplication::instance(), &run, Qt::QueuedConnection);

@@ -81,18 +81,6 @@ QString otherText(const QVariant& value, const QString& shown)
     }
 }
 
-/// As a person does it: all of the old text is selected, and the first key replaces it.
-void typeInto(QWidget* widget, const QString& text)
-{
-    QTest::mouseClick(widget, Qt::LeftButton);
-    QTest::keySequence(widget, QKeySequence::SelectAll);
-    if (text.isEmpty())
-        QTest::keyClick(widget, Qt::Key_Delete);
-    else
-        QTest::keyClicks(widget, text);
-    QTest::keyClick(widget, Qt::Key_Return);
-}
-
 void chooseOther(QComboBox* box)
 {
     const bool isLast = box->currentIndex() + 1 >= box->count();
@@ -137,6 +125,17 @@ bool editCell(QTableWidget* table, const QVariant& value)
 }
 
 } // namespace
+
+void typeInto(QWidget* input, const QString& text)
+{
+    QTest::mouseClick(input, Qt::LeftButton);
+    QTest::keySequence(input, QKeySequence::SelectAll);
+    if (text.isEmpty())
+        QTest::keyClick(input, Qt::Key_Delete);
+    else
+        QTest::keyClicks(input, text);
+    QTest::keyClick(input, Qt::Key_Return);
+}
 
 bool editByInput(QWidget* editor, const QVariant& value)
 {
