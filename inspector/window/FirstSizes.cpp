@@ -73,9 +73,8 @@ void FirstSizes::shareSpace()
 {
     const int height = m_window->height();
     const int below = atMost(historyHeight, historyPart, height);
-    m_window->resizeDocks(
-        { m_scene }, { atMost(sceneWidth, scenePart, m_window->width()) }, Qt::Horizontal);
-    m_window->resizeDocks({ m_scene, m_history }, { height - below, below }, Qt::Vertical);
+    share({ m_scene }, { atMost(sceneWidth, scenePart, m_window->width()) }, Qt::Horizontal);
+    share({ m_scene, m_history }, { height - below, below }, Qt::Vertical);
 }
 
 // A dock comes up as small as its content at that moment, and its editor comes later.
@@ -91,8 +90,7 @@ void FirstSizes::resize(QDockWidget* dock)
     if (m_ended)
         return;
     if (m_window->dockWidgetArea(dock) == Qt::BottomDockWidgetArea) {
-        m_window->resizeDocks(
-            { dock }, { atMost(bottomHeight, bottomPart, m_window->height()) }, Qt::Vertical);
+        share({ dock }, { atMost(bottomHeight, bottomPart, m_window->height()) }, Qt::Vertical);
         return;
     }
     const int width = m_window->width();
@@ -102,6 +100,21 @@ void FirstSizes::resize(QDockWidget* dock)
     const int scene
         = std::max(std::min(atMost(sceneWidth, scenePart, width), width - editor - leastFieldWidth),
             leastSceneWidth);
-    m_window->resizeDocks({ m_scene, dock }, { scene, editor }, Qt::Horizontal);
-    m_window->resizeDocks({ dock }, { m_window->height() * editorHeight / 100 }, Qt::Vertical);
+    share({ m_scene, dock }, { scene, editor }, Qt::Horizontal);
+    share({ dock }, { m_window->height() * editorHeight / 100 }, Qt::Vertical);
+}
+
+// Docks that float have no share of the window.
+void FirstSizes::share(
+    const QList<QDockWidget*>& docks, const QList<int>& sizes, Qt::Orientation orientation)
+{
+    QList<QDockWidget*> sharing;
+    QList<int> shares;
+    for (qsizetype i = 0; i < docks.size(); ++i) {
+        if (!docks.at(i)->isFloating()) {
+            sharing += docks.at(i);
+            shares += sizes.at(i);
+        }
+    }
+    m_window->resizeDocks(sharing, shares, orientation);
 }

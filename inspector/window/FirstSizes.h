@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QList>
 #include <QObject>
 
 class QDockWidget;
@@ -29,6 +30,8 @@ private:
 
     void shrinkToScreen();
     void shareSpace();
+    void share(
+        const QList<QDockWidget*>& docks, const QList<int>& sizes, Qt::Orientation orientation);
 
     QMainWindow* const m_window; // the parent
     QDockWidget* m_scene = nullptr; // the window's, like the next one

@@ -205,6 +205,19 @@ private Q_SLOTS:
         QCOMPARE(header->sectionSize(FieldListModel::NameColumn), width);
     }
 
+    /// Without a warning of the toolkit's, which wants to know nothing of the size of such docks.
+    void floatingDocksComeBack()
+    {
+        for (const QString& name : { u"Console"_s, u"sceneDock"_s })
+            m_inspector->dock(name)->setFloating(true);
+        m_inspector->window.close();
+        m_inspector.reset();
+        m_inspector = std::make_unique<InspectorFixture>(*m_folder);
+        m_inspector->clickField(u"Desk lamp"_s, u"on"_s);
+        for (const QString& name : { u"Console"_s, u"sceneDock"_s })
+            QVERIFY(m_inspector->dock(name)->isFloating());
+    }
+
     void theSplitterComesBack()
     {
         const auto splitter = [this] {

@@ -49,16 +49,12 @@ QString stateOf(const QWidget* widget)
     return state + (widget->isEnabled() ? u""_s : u" (disabled)"_s);
 }
 
-/// Whether it shows what a person has chosen for the editor, whatever the field.
-bool isChoice(const QWidget* widget) { return widget->objectName() == "m_notifyCheckBox"_L1; }
-
 /// By name and number, in the order in which they were made.
 std::map<QString, QString> statesIn(const QWidget* frame)
 {
     std::map<QString, QString> states;
     for (const QWidget* widget : frame->findChildren<QWidget*>()) {
-        if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"_L1)
-            || isChoice(widget))
+        if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"_L1))
             continue;
         const QString state = stateOf(widget);
         if (state.isEmpty())
@@ -71,7 +67,7 @@ std::map<QString, QString> statesIn(const QWidget* frame)
     return states;
 }
 
-/// Whether a line holds what somebody has typed, or a popup or a cell is open.
+/// Whether an input may hold what hasn't been written yet.
 bool isInUse(const QWidget* frame)
 {
     for (const QLineEdit* line : frame->findChildren<QLineEdit*>()) {
@@ -80,6 +76,11 @@ bool isInUse(const QWidget* frame)
     }
     for (const QAbstractSlider* slider : frame->findChildren<QAbstractSlider*>()) {
         if (slider->isSliderDown())
+            return true;
+    }
+    // A slider that doesn't write at each move may stand anywhere.
+    for (const QCheckBox* box : frame->findChildren<QCheckBox*>(u"m_notifyCheckBox"_s)) {
+        if (!box->isChecked())
             return true;
     }
     for (const QTableView* table : frame->findChildren<QTableView*>()) {
