@@ -37,14 +37,16 @@ float dotSizeOf(const KnDrawStyle* style)
     return style ? valueOf(style->pointSize, defaultDotSize) : defaultDotSize;
 }
 
-/// By Newell's method, which minds neither a dent nor three corners in a line.
+/// By Newell's method, which minds neither a dent nor three corners in a line. Zero for a face
+/// without an area.
 QVector3D normalOf(const std::vector<QVector3D>& outline)
 {
     QVector3D sum;
     for (std::size_t i = 0; i < outline.size(); ++i)
         sum += QVector3D::crossProduct(
             outline[i] - outline[0], outline[(i + 1) % outline.size()] - outline[0]);
-    return sum / sum.length();
+    const float length = sum.length();
+    return length > 0.0F ? sum / length : QVector3D();
 }
 
 } // namespace
@@ -258,7 +260,7 @@ void SceneTraversal::addFace(const Surface& surface, int place)
         break;
     default: {
         const QVector3D normal = normalOf(m_outline);
-        if (isDrawable(normal))
+        if (isDrawable(normal) && !normal.isNull())
             addFilled(surface, normal, place);
     }
     }

@@ -77,6 +77,7 @@ private Q_SLOTS:
         row("Coordinates: point=[0 0 0, 1 1 nan, inf 0 0]\nIndexedFaceSet: coordIndex=[0, 1, 2]",
             "nothing");
         row("Coordinates: point=[0 0 0]\nIndexedFaceSet: coordIndex=[0, 1, 7]", "nothing");
+        row("Coordinates: point=[1 2 3]\nIndexedFaceSet: coordIndex=[0, 0, 0]", "nothing");
         row("ClipPlane: plane=1 0 0 0.25\nSquare", "0.25 -1 0, 1 1 0");
         row("ClipPlane: on=FALSE; plane=1 0 0 0.25\nSquare", "-1 -1 0, 1 1 0");
         row("ClipPlanes: plane=[2 0 0 0, 0 -1 0 -0.5]\nSquare", "0 -1 0, 1 0.5 0");
