@@ -24,7 +24,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a person sees of one widget; empty if nothing of the field.
+/// What a person sees of one widget; empty if nothing of the field. The range of a slider grows
+/// with what it has shown before, so its handle may stand elsewhere.
 QString stateOf(const QWidget* widget)
 {
     QString state;
@@ -40,10 +41,6 @@ QString stateOf(const QWidget* widget)
         state = u"%1 rows"_s.arg(table->model()->rowCount());
     else if (const auto* const label = qobject_cast<const QLabel*>(widget))
         state = label->text();
-    else if (const auto* const slider = qobject_cast<const QSlider*>(widget))
-        state = u"%1 from %2 to %3"_s.arg(slider->value())
-                    .arg(slider->minimum())
-                    .arg(slider->maximum());
     else
         return {};
     return state + (widget->isEnabled() ? u""_s : u" (disabled)"_s);

@@ -38,19 +38,21 @@ bool isPerson(const StepKind& kind) { return kind.by == StepKind::By::Person; }
 
 } // namespace
 
-Player::Player(quint64 seed, std::vector<int> steps)
-    : m_seed(seed)
-    , m_steps(std::move(steps))
+Player::Player(Stage& stage, Cast cast)
+    : m_stage(stage)
+    , m_cast(cast)
 {
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
-        &Player::aboutToBlock);
 }
 
-void Player::run()
+void Player::run(quint64 seed, std::vector<int> steps)
 {
+    m_seed = seed;
+    m_steps = std::move(steps);
+    m_next = 0;
+    const QMetaObject::Connection turns = connect(QAbstractEventDispatcher::instance(),
+        &QAbstractEventDispatcher::aboutToBlock, this, &Player::aboutToBlock);
     QApplication::exec();
-    std::printf(
-        "played %zu steps, compared %d times\n", m_steps.size(), m_editorOracle.comparisons());
+    disconnect(turns);
 }
 
 void Player::fail(const QString& what)
@@ -104,9 +106,11 @@ void Player::turn()
 
 void Player::play(int step, bool inDialog)
 {
+    if (step == m_plantedStep)
+        m_stage.roots().front()->setName("planted");
     StepRandom random(m_seed, step);
     const StepKind& kind = chooseStepKind(random);
-    if (kind.by == StepKind::By::Scene && castOf(m_seed) == Cast::PersonAlone)
+    if (kind.by == StepKind::By::Scene && m_cast == Cast::PersonAlone)
         return;
     if (inDialog && !kind.inDialogs)
         return;
@@ -170,12 +174,11 @@ bool Player::isSettled()
 
 void Player::check()
 {
-    // The person has quit, and starts the program again.
-    if (!m_stage.window().isVisible() && !m_stage.window().isMinimized())
-        m_stage.restart();
+    if (!m_stage.window().isVisible())
+        m_stage.reopen();
     if (m_knownBeginnings != m_stage.beginnings()) {
         m_knownBeginnings = m_stage.beginnings();
-        m_undoOracle.begin(m_stage.window());
+        m_undoOracle.begin(m_stage);
     }
     if (!QApplication::activeWindow())
         m_stage.window().activateWindow();
@@ -188,8 +191,8 @@ void Player::check()
 
 void Player::end()
 {
-    if (castOf(m_seed) == Cast::PersonAlone) {
-        const QString error = m_undoOracle.check(m_stage.window());
+    if (m_cast == Cast::PersonAlone) {
+        const QString error = m_undoOracle.check(m_stage);
         if (!error.isEmpty())
             fail(error);
     }

@@ -24,14 +24,18 @@ public:
     /// Exit status of a process that has found something by itself.
     static constexpr int foundStatus = 3;
 
-    Player(quint64 seed, std::vector<int> steps);
+    /// `stage` outlives it.
+    Player(Stage& stage, Cast cast);
 
-    /// Returns when all steps have been played.
-    void run();
+    /// Plays these steps of the seed's round, and returns when all have been played.
+    void run(quint64 seed, std::vector<int> steps);
+    /// Before this step the program will write a field that nobody may write: a fault that has to
+    /// be found.
+    void plantFault(int step) { m_plantedStep = step; }
+    /// How often something could be said about what an editor shows.
+    int comparisons() const { return m_editorOracle.comparisons(); }
     /// Ends the process.
     [[noreturn]] static void fail(const QString& what);
-
-    static Cast castOf(quint64 seed) { return seed % 2 ? Cast::PersonAlone : Cast::PersonAndScene; }
 
 protected:
     bool event(QEvent* event) override;
@@ -46,9 +50,11 @@ private:
     void check();
     void end();
 
-    const quint64 m_seed;
-    const std::vector<int> m_steps;
-    Stage m_stage;
+    Stage& m_stage;
+    const Cast m_cast;
+    quint64 m_seed = 0;
+    std::vector<int> m_steps;
+    int m_plantedStep = -1; // none
     EditorOracle m_editorOracle;
     UndoOracle m_undoOracle;
     std::size_t m_next = 0;

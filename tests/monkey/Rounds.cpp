@@ -45,12 +45,13 @@ QString kindOf(const QString& fault)
 
 } // namespace
 
-Rounds::Outcome Rounds::play(quint64 seed, const std::vector<int>& steps)
+Rounds::Outcome Rounds::play(quint64 seed, const std::vector<int>& steps) const
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),
-        { u"--seed"_s, QString::number(seed), u"--play"_s, listOf(steps) });
+        { u"--seed"_s, QString::number(seed), u"--play"_s, listOf(steps), u"--plant"_s,
+            QString::number(m_plantedStep) });
     Outcome outcome;
     while (process.state() != QProcess::NotRunning) {
         if (!process.waitForReadyRead(longestSilence) && process.state() == QProcess::Running) {
@@ -103,7 +104,7 @@ bool Rounds::run(quint64 seed, int seconds) const
     return true;
 }
 
-void Rounds::shorten(quint64 seed, const Outcome& outcome, std::vector<int> steps)
+void Rounds::shorten(quint64 seed, const Outcome& outcome, std::vector<int> steps) const
 {
     std::fflush(stdout);
     // What was not begun has no part in it.

@@ -9,8 +9,10 @@
 /// list of steps, by processes again.
 class Rounds {
 public:
-    explicit Rounds(int stepsInRound)
+    /// For the fault, see Player::plantFault; -1 plants none.
+    Rounds(int stepsInRound, int plantedStep)
         : m_stepsInRound(stepsInRound)
+        , m_plantedStep(plantedStep)
     {
     }
 
@@ -26,8 +28,9 @@ private:
         int lastStep = -1; ///< that was begun
     };
 
-    static Outcome play(quint64 seed, const std::vector<int>& steps);
-    static void shorten(quint64 seed, const Outcome& outcome, std::vector<int> steps);
+    Outcome play(quint64 seed, const std::vector<int>& steps) const;
+    void shorten(quint64 seed, const Outcome& outcome, std::vector<int> steps) const;
 
-    int m_stepsInRound;
+    const int m_stepsInRound;
+    const int m_plantedStep;
 };

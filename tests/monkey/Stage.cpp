@@ -2,18 +2,23 @@
 #include "Stage.h"
 
 #include "CommandLine.h"
+#include "CrvInspector.h"
 #include "CrvPluginsManager.h"
 #include "CrvServices.h"
+#include "KnDatabase.h"
 #include "KnField.h"
 #include "KnGraphWalk.h"
 #include "KnGroup.h"
 #include "MainWindow.h"
+#include "SceneReader.h"
+#include "SceneRoots.h"
 #include "SceneText.h"
 #include "Startup.h"
 #include "StepRandom.h"
 
 #include <QDir>
 #include <QFile>
+#include <QUndoStack>
 
 #include <cstdio>
 
@@ -24,6 +29,14 @@ namespace {
 QStringList pluginFiles()
 {
     return { QStringLiteral(CORVANE_PLUGIN), QStringLiteral(CORVANE_EXAMPLE_PLUGIN) };
+}
+
+QString sceneFile() { return QStringLiteral(CORVANE_SCENES "/all_fields.json"); }
+
+KnNodePtr freshScene()
+{
+    KnDatabase::init();
+    return SceneReader().readFile(sceneFile());
 }
 
 /// In the order in which a person meets them, so that a choice doesn't hang on addresses.
@@ -46,16 +59,18 @@ QString nameOf(const KnFieldContainer* node)
 
 } // namespace
 
-Stage::Stage()
+Stage::Stage(Role role)
+    : m_role(role)
 {
-    QFile::copy(QStringLiteral(CORVANE_SCENES "/all_fields.json"), m_folder.filePath(u"0.json"_s));
     QDir::setCurrent(m_folder.path());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
     CrvPluginsManager::getInstance()->useBuiltInProfiles();
     start();
 }
 
 Stage::~Stage()
 {
+    m_inspector.reset();
     m_startup.reset();
     m_window.reset();
     QDir::setCurrent(QDir::rootPath());
@@ -63,34 +78,80 @@ Stage::~Stage()
 
 void Stage::start()
 {
+    if (m_role == Role::Program)
+        startProgram();
+    else
+        startGuest();
+    window().activateWindow();
+    ++m_beginnings;
+}
+
+void Stage::startProgram()
+{
+    // Something else may have been saved over it.
+    const QString scene = m_folder.filePath(u"0.json"_s);
+    QFile::remove(scene);
+    QFile::copy(sceneFile(), scene);
     m_settings
         = std::make_unique<QSettings>(m_folder.filePath(u"settings.ini"_s), QSettings::IniFormat);
     m_window = std::make_unique<MainWindow>(m_settings.get());
     m_startup = std::make_unique<Startup>(*m_window);
     CommandLine commandLine;
-    commandLine.scene = m_folder.filePath(u"0.json"_s);
+    commandLine.scene = scene;
     commandLine.plugins = pluginFiles();
     if (!m_startup->applyCommandLine(commandLine))
         qFatal("%s", qPrintable(m_startup->errorText()));
     m_window->restoreLayout();
     m_window->show();
-    m_window->activateWindow();
-    ++m_beginnings;
+}
+
+void Stage::startGuest()
+{
+    if (m_scene.empty())
+        m_scene.push_back(freshScene());
+    m_inspector = std::make_unique<CrvInspector>();
+    m_inspector->setRoots(plainRoots(m_scene));
+    std::string error;
+    if (!m_inspector->loadPlugin(CORVANE_EXAMPLE_PLUGIN, &error))
+        qFatal("%s", error.c_str());
+    m_inspector->show();
 }
 
 void Stage::restart()
 {
+    m_inspector.reset();
     m_startup.reset();
     m_window.reset();
-    // What was saved over it may have become empty.
-    const QString scene = m_folder.filePath(u"0.json"_s);
-    QFile::remove(scene);
-    QFile::copy(QStringLiteral(CORVANE_SCENES "/all_fields.json"), scene);
     start();
+}
+
+void Stage::addRoot(KnFieldContainer* root)
+{
+    m_scene.emplace_back(root);
+    m_inspector->addRoot(root);
+}
+
+void Stage::replaceScene()
+{
+    m_scene.front() = freshScene();
+    CrvServices::getInstance()->selectNode(nullptr);
+    CrvServices::getInstance()->getUndoStack()->clear();
+    m_inspector->setRoots(plainRoots(m_scene));
+    ++m_beginnings;
+}
+
+void Stage::reopen()
+{
+    if (m_inspector)
+        m_inspector->show();
+    else
+        restart();
 }
 
 void Stage::reloadPlugins()
 {
+    if (m_inspector)
+        return;
     CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
     manager->unloadAll();
     for (const QString& file : pluginFiles()) {
@@ -99,6 +160,11 @@ void Stage::reloadPlugins()
             qFatal("%s", qPrintable(error));
     }
     ++m_beginnings;
+}
+
+MainWindow& Stage::window()
+{
+    return m_inspector ? static_cast<MainWindow&>(*m_inspector->window()) : *m_window;
 }
 
 QString Stage::fileName(StepRandom& random) const

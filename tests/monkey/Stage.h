@@ -10,30 +10,45 @@
 #include <memory>
 #include <vector>
 
+class CrvInspector;
 class KnField;
 class KnGroup;
 class MainWindow;
 class StepRandom;
 class Startup;
 
-/// What the monkey plays in: the program's window with the plug-in files loaded, on a copy of a
-/// scene, in a folder of its own, which also holds the settings.
+/// What the monkey plays in: a window of the inspector with the plug-in files loaded, on a scene
+/// with all field types, in a folder of its own, which also holds the settings.
 class Stage {
 public:
-    Stage();
+    enum class Role {
+        Program, ///< the inspector as a program, on a copy of the scene's file
+        Guest, ///< in a program that has the scene, and this process is that program
+    };
+
+    explicit Stage(Role role);
     /// Unloads the plug-ins and takes the window away.
     ~Stage();
     Q_DISABLE_COPY_MOVE(Stage)
 
+    Role role() const { return m_role; }
+    /// Another root of the guest's scene, from now on and after each new start.
+    void addRoot(KnFieldContainer* root);
+    /// The scene as it was, in the same window, and an empty undo stack; for a guest.
+    void replaceScene();
     /// The next start of the program, with the settings of the last one.
     void restart();
-    /// Unloads all plug-ins and loads them anew, while the window stands.
+    /// Unloads all plug-ins and loads them anew, while the window stands; nothing for a guest,
+    /// which has them as long as it lives.
     void reloadPlugins();
+    /// After the person has closed the window: the next start of the program, or what the key of
+    /// the program would do that the guest is in.
+    void reopen();
 
-    /// Counts the times that the undo stack was emptied by one of these.
+    /// Counts the times that one of these has emptied the undo stack.
     int beginnings() const { return m_beginnings; }
 
-    MainWindow& window() { return *m_window; }
+    MainWindow& window();
     Hand& hand() { return m_hand; }
     /// In the folder: one of a few that a file may have, so that they meet again.
     QString fileName(StepRandom& random) const;
@@ -50,11 +65,16 @@ public:
 
 private:
     void start();
+    void startProgram();
+    void startGuest();
 
+    const Role m_role;
     int m_beginnings = 0;
     QTemporaryDir m_folder;
     Hand m_hand;
     std::unique_ptr<QSettings> m_settings;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<Startup> m_startup; // goes before the window
+    std::vector<KnNodePtr> m_scene; // the guest's
+    std::unique_ptr<CrvInspector> m_inspector; // the guest
 };

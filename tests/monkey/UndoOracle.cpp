@@ -7,6 +7,7 @@
 #include "MainWindow.h"
 #include "SceneReader.h"
 #include "SceneWriter.h"
+#include "Stage.h"
 
 #include <QUndoStack>
 
@@ -20,11 +21,13 @@ QByteArray UndoOracle::sceneText()
     return roots.empty() ? QByteArray() : SceneWriter().toJson(roots);
 }
 
-void UndoOracle::begin(MainWindow& window)
+void UndoOracle::begin(Stage& stage)
 {
-    disconnect();
-    connect(&window.document(), &SceneDocument::fileNameChanged, this, &UndoOracle::sceneReplaced,
-        Qt::UniqueConnection);
+    disconnect(m_replaced);
+    if (stage.role() == Stage::Role::Program) {
+        m_replaced = connect(&stage.window().document(), &SceneDocument::fileNameChanged, this,
+            &UndoOracle::sceneReplaced);
+    }
     m_first = sceneText();
 }
 
@@ -35,10 +38,10 @@ void UndoOracle::sceneReplaced()
         m_first = sceneText();
 }
 
-QString UndoOracle::check(MainWindow& window)
+QString UndoOracle::check(Stage& stage)
 {
     // What an editor writes because its field goes would be a step among those that are undone.
-    FileDialogs::commitTyping(&window);
+    FileDialogs::commitTyping(&stage.window());
     CrvServices::getInstance()->selectNode(nullptr);
     CrvServices::getInstance()->getUndoSteps()->endGesture();
     QUndoStack* const stack = CrvServices::getInstance()->getUndoStack();

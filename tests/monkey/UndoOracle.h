@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QObject>
 
-class MainWindow;
+class Stage;
 
 /// Says whether undoing everything brings back the scene as it was when the undo stack was empty,
 /// bit for bit, and redoing everything each state behind it; and whether what would be saved reads
@@ -14,10 +14,10 @@ class UndoOracle : public QObject {
 public:
     UndoOracle() = default;
 
-    /// A new window, or one whose undo stack was emptied.
-    void begin(MainWindow& window);
+    /// For a new window, or one whose undo stack was emptied.
+    void begin(Stage& stage);
     /// Undoes and redoes everything; the stack ends where it stood. Empty if all agrees.
-    QString check(MainWindow& window);
+    QString check(Stage& stage);
 
     static QByteArray sceneText();
 
@@ -27,4 +27,5 @@ private:
     static QString checkSaving();
 
     QByteArray m_first;
+    QMetaObject::Connection m_replaced; // to the document of a program
 };

@@ -3,6 +3,7 @@
 // program around it does what programs do. See docs/testing.md.
 #include "Player.h"
 #include "Rounds.h"
+#include "Soak.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -22,13 +23,26 @@ void judge(QtMsgType type, const QMessageLogContext&, const QString& message)
         Player::fail(u"warning: "_s + message);
 }
 
-int play(quint64 seed, const QString& list)
+std::vector<int> numbersIn(const QString& list)
 {
-    std::vector<int> steps;
-    for (const QString& step : list.split(u',', Qt::SkipEmptyParts))
-        steps.push_back(step.toInt());
+    std::vector<int> numbers;
+    for (const QString& number : list.split(u',', Qt::SkipEmptyParts))
+        numbers.push_back(number.toInt());
+    return numbers;
+}
+
+/// All that may differ between rounds follows from the seed.
+int play(quint64 seed, const QString& list, int plantedStep)
+{
     qInstallMessageHandler(judge);
-    Player(seed, std::move(steps)).run();
+    {
+        Stage stage(seed % 4 < 2 ? Stage::Role::Program : Stage::Role::Guest);
+        Player player(stage, seed % 2 ? Player::Cast::PersonAlone : Player::Cast::PersonAndScene);
+        player.plantFault(plantedStep);
+        const std::vector<int> steps = numbersIn(list);
+        player.run(seed, steps);
+        std::printf("played %zu steps, compared %d times\n", steps.size(), player.comparisons());
+    }
     if (!QApplication::topLevelWidgets().isEmpty())
         Player::fail(
             u"a window is left: "_s + Targets::path(QApplication::topLevelWidgets().constFirst()));
@@ -53,11 +67,22 @@ int main(int argc, char** argv)
     const QCommandLineOption steps(u"steps"_s, u"Steps of a round."_s, u"number"_s, u"200"_s);
     const QCommandLineOption list(
         u"play"_s, u"Plays these steps of the seed's round and nothing else."_s, u"numbers"_s);
-    parser.addOptions({ seed, seconds, steps, list });
+    const QCommandLineOption planted(u"plant"_s,
+        u"Writes behind the person's back before this step, which must be found."_s, u"number"_s,
+        u"-1"_s);
+    const QCommandLineOption soak(u"soak"_s,
+        u"Plays for so many minutes in one process beside a scene that moves, and fails if anything grows."_s,
+        u"minutes"_s);
+    parser.addOptions({ seed, seconds, steps, list, planted, soak });
     parser.process(application);
 
     const quint64 first = parser.value(seed).toULongLong();
     if (parser.isSet(list))
-        return play(first, parser.value(list));
-    return Rounds(parser.value(steps).toInt()).run(first, parser.value(seconds).toInt()) ? 0 : 1;
+        return play(first, parser.value(list), parser.value(planted).toInt());
+    if (parser.isSet(soak)) {
+        qInstallMessageHandler(judge);
+        return Soak(first).run(parser.value(soak).toDouble()) ? 0 : 1;
+    }
+    const Rounds rounds(parser.value(steps).toInt(), parser.value(planted).toInt());
+    return rounds.run(first, parser.value(seconds).toInt()) ? 0 : 1;
 }

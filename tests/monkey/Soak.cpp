@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "Soak.h"
+
+#include "CrvPluginsManager.h"
+#include "CrvServices.h"
+#include "MainWindow.h"
+#include "Orrery.h"
+#include "Player.h"
+#include "SceneRoots.h"
+#include "SceneSearch.h"
+#include "WatchPanel.h"
+
+#include <QDockWidget>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QTextEdit>
+#include <QTimer>
+
+#include <cstdio>
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int stepsInRound = 300;
+constexpr int frameTime = 16; // milliseconds
+constexpr double warmingUp = 0.25; // of the time, until all that is made once has been made
+
+/// A window as after its start, whatever a person has left it like. What is kept on purpose until
+/// somebody clears it would count as grown.
+void tidyUp(Stage& stage)
+{
+    stage.replaceScene();
+    CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
+    manager->setActiveProfile(manager->getProfilesList().front());
+    CrvServices::getInstance()->setPaused(false);
+    MainWindow& window = stage.window();
+    window.resize(1280, 800);
+    for (QLineEdit* filter : { window.findChild<QLineEdit*>(u"sceneFilter"_s),
+             window.findChild<QLineEdit*>(u"fieldFilter"_s) }) {
+        if (filter)
+            filter->clear();
+    }
+    if (auto* const console = window.findChild<QTextEdit*>(u"m_consoleOutput"_s))
+        console->clear();
+    WatchList& watched = window.findChild<WatchPanel*>()->list();
+    watched.removeRows(0, watched.rowCount());
+}
+
+void watchSome(Stage& stage)
+{
+    MainWindow& window = stage.window();
+    window.findChild<QDockWidget*>(u"watchDock"_s)->show();
+    for (const QString& place :
+        { u"Earth place.rotation"_s, u"Mars place.rotation"_s, u"Desk lamp.intensity"_s }) {
+        SceneSearch search(plainRoots(stage.roots()));
+        if (search.find(place) && search.field())
+            window.findChild<WatchPanel*>()->watch(search.field(), 0);
+    }
+}
+
+} // namespace
+
+bool Soak::run(double minutes)
+{
+    const qint64 duration = qint64(minutes * 60'000.0);
+    std::vector<int> steps(stepsInRound);
+    std::iota(steps.begin(), steps.end(), 0);
+
+    QElapsedTimer clock;
+    clock.start();
+    Orrery orrery;
+    Stage stage(Stage::Role::Guest);
+    stage.addRoot(orrery.root());
+    QTimer frames;
+    QObject::connect(&frames, &QTimer::timeout, &frames,
+        [&] { orrery.moveTo(double(clock.elapsed()) / 1000.0); });
+    frames.start(frameTime);
+
+    Player player(stage, Player::Cast::PersonAndScene);
+    std::printf("soaking for %g minutes from seed %llu on\n", minutes,
+        static_cast<unsigned long long>(m_seed));
+    int rounds = 0;
+    while (!clock.hasExpired(duration)) {
+        watchSome(stage);
+        player.run(m_seed + quint64(rounds), steps);
+        tidyUp(stage);
+        player.run(m_seed, {}); // handles what that has brought about
+        const ResourceUse use = ResourceUse::now();
+        std::fprintf(stderr, "%5.1f min, round %d: %s\n", double(clock.elapsed()) / 60'000.0,
+            ++rounds, qPrintable(use.text()));
+        if (double(clock.elapsed()) > warmingUp * double(duration))
+            m_samples.push_back(use);
+    }
+    return judge();
+}
+
+bool Soak::judge() const
+{
+    bool isFlat = true;
+    std::fprintf(stderr, "\ngrown over %zu rounds behind the warming up:\n", m_samples.size());
+    for (std::size_t i = 0; i < ResourceUse::count; ++i) {
+        const ResourceUse::Kind& kind = ResourceUse::kinds()[i];
+        const double growth = ResourceUse::growth(m_samples, i);
+        const bool isWithin = growth <= kind.bound;
+        isFlat = isFlat && isWithin;
+        std::fprintf(stderr, "  %-9s %9.1f %s (at most %g)%s\n", kind.name, growth, kind.unit,
+            kind.bound, isWithin ? "" : "  TOO MUCH");
+    }
+    return isFlat;
+}
