@@ -19,6 +19,7 @@ constexpr int tailLength = 90; // points
 
 Comet::Comet(KnGroup& parent)
     : m_parent(parent)
+    , m_holder(&parent)
 {
 }
 
@@ -50,6 +51,7 @@ void Comet::appear(int number)
     KnGroup& comet = addGroup(m_parent, name);
     m_comet = KnNodePtr(&comet);
     m_place = &addTransform(comet, name + " place");
+    m_placeHolder = KnNodePtr(m_place);
     addMaterial(comet, name + " ice", KbColor(0.6F, 0.75F, 0.8F), 0.0F, KbColor(0.3F, 0.4F, 0.45F));
     addBall(comet, name + " head", 0.16F, 6);
     KnGroup& tail = addGroup(comet, name + " tail");

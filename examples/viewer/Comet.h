@@ -10,7 +10,7 @@ class KnTransform;
 /// leave it again.
 class Comet {
 public:
-    /// The comets become children of `parent`, which has to outlive this object.
+    /// The comets become children of `parent`, which this object holds.
     explicit Comet(KnGroup& parent);
 
     /// Puts the comet where it is at a time in seconds, if there is one then.
@@ -19,8 +19,10 @@ public:
 private:
     void appear(int number);
 
-    KnGroup& m_parent;
+    KnGroup& m_parent; // held by m_holder
+    KnNodePtr m_holder;
     KnNodePtr m_comet; // null while there is none
-    KnTransform* m_place = nullptr; // below the comet
+    KnNodePtr m_placeHolder; // a person may take it out of the comet
+    KnTransform* m_place = nullptr; // held by m_placeHolder
     int m_number = 0; // of the comet; 0 for none
 };

@@ -177,6 +177,7 @@ void Orrery::addBelt()
     constexpr int count = 360;
     KnGroup& belt = addGroup(*m_root, "Asteroid belt");
     m_beltTurn = &addTransform(belt, "Belt turn");
+    m_held.emplace_back(m_beltTurn);
     addMaterial(belt, "Belt color", KbColor(0.6F, 0.55F, 0.48F));
     auto* const points = new KnCoordinates; // the belt's from the next line on
     belt.addChild(points);
@@ -195,6 +196,8 @@ void Orrery::addBelt()
 void Orrery::addMover(KnTransform* place, KnTransform* spin, const Body& body, float start)
 {
     m_movers.push_back({ place, spin, body.distance, body.year, body.day, start });
+    m_held.emplace_back(place);
+    m_held.emplace_back(spin);
 }
 
 void Orrery::moveTo(double time)

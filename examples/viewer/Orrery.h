@@ -28,7 +28,7 @@ private:
     struct Body;
     /// What goes around something else.
     struct Mover {
-        KnTransform* place; // lives below the root
+        KnTransform* place; // held by m_held
         KnTransform* spin; // null for a body that shows no turning
         float distance;
         float year; // seconds; negative for one that goes the other way round
@@ -45,7 +45,8 @@ private:
 
     KnNodePtr m_holder; // of the root
     KnGroup* m_root; // held by m_holder
-    KnTransform* m_beltTurn = nullptr; // below the root
+    std::vector<KnNodePtr> m_held; // what moves, since a person may take it out of the scene
+    KnTransform* m_beltTurn = nullptr; // held by m_held
     std::vector<Mover> m_movers;
     int m_planets = 0;
     std::unique_ptr<Comet> m_comet;
