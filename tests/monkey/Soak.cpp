@@ -73,6 +73,7 @@ bool Soak::run(double minutes)
     Orrery orrery;
     Stage stage(Stage::Role::Guest);
     stage.addRoot(orrery.root());
+    stage.keepWindow();
     QTimer frames;
     QObject::connect(&frames, &QTimer::timeout, &frames,
         [&] { orrery.moveTo(double(clock.elapsed()) / 1000.0); });

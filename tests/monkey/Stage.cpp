@@ -119,6 +119,8 @@ void Stage::startGuest()
 
 void Stage::restart()
 {
+    if (m_isKept)
+        return;
     m_inspector.reset();
     m_startup.reset();
     m_window.reset();

@@ -36,8 +36,10 @@ public:
     void addRoot(KnFieldContainer* root);
     /// The scene as it was, in the same window, and an empty undo stack; for a guest.
     void replaceScene();
-    /// The next start of the program, with the settings of the last one.
+    /// The next start of the program, with the settings of the last one; nothing once the window
+    /// is to be kept.
     void restart();
+    void keepWindow() { m_isKept = true; }
     /// Unloads all plug-ins and loads them anew, while the window stands; nothing for a guest,
     /// which has them as long as it lives.
     void reloadPlugins();
@@ -70,6 +72,7 @@ private:
 
     const Role m_role;
     int m_beginnings = 0;
+    bool m_isKept = false;
     QTemporaryDir m_folder;
     Hand m_hand;
     std::unique_ptr<QSettings> m_settings;
