@@ -9,9 +9,6 @@
 #include "SceneText.h"
 
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QStringList>
 
 #include <utility>
 
@@ -38,42 +35,43 @@ KnNodePtr SceneReader::takeRoot(bool accepted)
     return accepted ? root : KnNodePtr();
 }
 
-bool SceneReader::build(const QJsonValue& root)
+bool SceneReader::build(const CrvJsonValue& root)
 {
     using namespace SceneFormat;
+    const CrvJsonPlace whole;
     m_nodeCount = 0;
     if (!root.isObject())
-        return refuse(QString(), tr("not a scene: the outermost value must be an object"));
-    const QJsonObject scene = root.toObject();
-    if (scene.value(Key::format) != QJsonValue(SceneFormat::name))
-        return refuse(Key::format, tr("not a scene: \"%1\" expected").arg(SceneFormat::name));
-    if (scene.value(Key::version) != QJsonValue(SceneFormat::version))
-        return refuse(Key::version, tr("version %1 expected").arg(SceneFormat::version));
+        return refuse(whole, tr("not a scene: the outermost value must be an object"));
+    if (!root.member(Key::format).equals(SceneFormat::name))
+        return refuse(
+            whole.member(Key::format), tr("not a scene: \"%1\" expected").arg(SceneFormat::name));
+    if (!root.member(Key::version).isNumber(SceneFormat::version))
+        return refuse(
+            whole.member(Key::version), tr("version %1 expected").arg(SceneFormat::version));
     m_furtherRoots.clear();
-    const bool hasRoots = scene.contains(Key::roots);
-    if (!checkObject(
-            root, QString(), { Key::format, Key::version, hasRoots ? Key::roots : Key::root }))
+    const CrvJsonValue roots = root.member(Key::roots);
+    const bool hasRoots = !roots.isUndefined();
+    if (!checkObject(root, whole, { Key::format, Key::version, hasRoots ? Key::roots : Key::root }))
         return false;
     KnDatabase::init(); // a scene names the types of its nodes
     if (hasRoots)
-        return readRoots(scene.value(Key::roots));
-    m_root = readNode(scene.value(Key::root), Key::root, 0);
+        return readRoots(roots, whole.member(Key::roots));
+    m_root = readNode(root.member(Key::root), whole.member(Key::root), 0);
     return bool { m_root };
 }
 
-bool SceneReader::readRoots(const QJsonValue& value)
+bool SceneReader::readRoots(const CrvJsonValue& value, const CrvJsonPlace& place)
 {
-    const QString path = SceneFormat::Key::roots;
-    if (!checkArray(value, path))
+    if (!checkArray(value, place))
         return false;
-    const QJsonArray roots = value.toArray();
-    if (roots.isEmpty())
-        return refuse(path, tr("at least one root expected"));
-    for (qsizetype i = 0; i < roots.size(); ++i) {
-        KnNodePtr root = readNode(roots.at(i), elementPath(path, i), 0);
+    if (value.count() == 0)
+        return refuse(place, tr("at least one root expected"));
+    int index = 0;
+    for (const CrvJsonValue each : value) {
+        KnNodePtr root = readNode(each, place.element(index), 0);
         if (!root)
             return false;
-        if (i == 0)
+        if (index++ == 0)
             m_root = std::move(root);
         else
             m_furtherRoots.push_back(std::move(root));
@@ -81,106 +79,105 @@ bool SceneReader::readRoots(const QJsonValue& value)
     return true;
 }
 
-KnNodePtr SceneReader::readNode(const QJsonValue& value, const QString& path, int depth)
+KnNodePtr SceneReader::readNode(const CrvJsonValue& value, const CrvJsonPlace& place, int depth)
 {
     using namespace SceneFormat;
-    if (!checkObject(value, path, { Key::type, Key::name, Key::fields, Key::children }))
+    if (!checkObject(value, place, { Key::type, Key::name, Key::fields, Key::children }))
         return KnNodePtr();
-    const QJsonObject object = value.toObject();
 
-    const KnNodePtr node = createNode(object, path);
-    if (!node || !readFields(*node.get(), object.value(Key::fields), memberPath(path, Key::fields))
+    KnNodePtr node = createNode(value, place);
+    if (!node || !readFields(*node.get(), value.member(Key::fields), place.member(Key::fields))
         || !readChildren(
-            *node.get(), object.value(Key::children), memberPath(path, Key::children), depth))
+            *node.get(), value.member(Key::children), place.member(Key::children), depth))
         return KnNodePtr();
     ++m_nodeCount;
     return node;
 }
 
-KnNodePtr SceneReader::createNode(const QJsonObject& object, const QString& path)
+KnNodePtr SceneReader::createNode(const CrvJsonValue& object, const CrvJsonPlace& place)
 {
     using namespace SceneFormat;
-    const QString typePath = memberPath(path, Key::type);
-    const QJsonValue typeValue = object.value(Key::type);
-    if (!checkString(typeValue, typePath))
+    const CrvJsonPlace typePlace = place.member(Key::type);
+    const CrvJsonValue typeValue = object.member(Key::type);
+    if (!checkString(typeValue, typePlace))
         return KnNodePtr();
-    const KnType type = KnType::fromName(KbName(toKbString(typeValue.toString())));
+    const KnType type = KnType::fromName(KbName(typeValue.toKbString()));
     if (!type.isDerivedFrom(KnFieldContainer::getClassTypeId()) || !type.canCreateInstance()) {
-        refuse(typePath, tr("unknown node type \"%1\"").arg(typeValue.toString()));
+        refuse(typePlace, tr("unknown node type \"%1\"").arg(typeValue.toQString()));
         return KnNodePtr();
     }
-    const QJsonValue nodeName = object.value(Key::name);
-    if (!nodeName.isUndefined() && !checkString(nodeName, memberPath(path, Key::name)))
+    const CrvJsonValue nodeName = object.member(Key::name);
+    if (!nodeName.isUndefined() && !checkString(nodeName, place.member(Key::name)))
         return KnNodePtr();
 
     KnNodePtr node(static_cast<KnFieldContainer*>(type.createInstance()));
-    node->setName(KbName(toKbString(nodeName.toString())));
+    node->setName(KbName(nodeName.toKbString()));
     return node;
 }
 
-bool SceneReader::readFields(KnFieldContainer& node, const QJsonValue& value, const QString& path)
+bool SceneReader::readFields(
+    KnFieldContainer& node, const CrvJsonValue& value, const CrvJsonPlace& place)
 {
     if (value.isUndefined())
         return true;
-    if (!checkObject(value, path))
+    if (!checkObject(value, place))
         return false;
-    const QJsonObject fields = value.toObject();
-    for (auto it = fields.begin(); it != fields.end(); ++it) {
-        const QString fieldPath = memberPath(path, it.key());
-        KnField* const field = node.getField(KbName(toKbString(it.key())));
+    const auto end = value.end();
+    for (auto it = value.begin(); it != end; ++it) {
+        const CrvJsonPlace fieldPlace = place.member(it.name());
+        KnField* const field = node.getField(KbName(it.name().toKbString()));
         if (!field) {
-            return refuse(fieldPath,
+            return refuse(fieldPlace,
                 tr("a node of type \"%1\" has no such field").arg(typeName(node.getObjectType())));
         }
-        if (!readField(*field, it.value(), fieldPath))
+        if (!readField(*field, it.value(), fieldPlace))
             return false;
     }
     return true;
 }
 
-bool SceneReader::readField(KnField& field, const QJsonValue& value, const QString& path)
+bool SceneReader::readField(KnField& field, const CrvJsonValue& value, const CrvJsonPlace& place)
 {
     using namespace SceneFormat;
-    QJsonValue text = value;
+    CrvJsonValue text = value;
     if (value.isObject()) {
-        if (!checkObject(value, path, { Key::value, Key::ignored }))
+        if (!checkObject(value, place, { Key::value, Key::ignored }))
             return false;
-        const QJsonObject object = value.toObject();
-        const QJsonValue ignored = object.value(Key::ignored);
+        const CrvJsonValue ignored = value.member(Key::ignored);
         if (!ignored.isUndefined() && !ignored.isBool())
-            return refuse(memberPath(path, Key::ignored), tr("true or false expected"));
+            return refuse(place.member(Key::ignored), tr("true or false expected"));
         field.setIgnored(ignored.toBool() ? 1 : 0);
-        text = object.value(Key::value);
+        text = value.member(Key::value);
         if (text.isUndefined())
             return true;
     }
-    if (!checkString(text, path))
+    if (!checkString(text, place))
         return false;
 
     const KnReadErrorCapture capture;
-    if (!field.set(toKbString(text.toString())))
+    if (!field.set(text.toKbString()))
         return refuse(
-            path, capture.getText().isEmpty() ? tr("refused text") : toQString(capture.getText()));
+            place, capture.getText().isEmpty() ? tr("refused text") : toQString(capture.getText()));
     return true;
 }
 
 bool SceneReader::readChildren(
-    KnFieldContainer& node, const QJsonValue& value, const QString& path, int depth)
+    KnFieldContainer& node, const CrvJsonValue& value, const CrvJsonPlace& place, int depth)
 {
     if (value.isUndefined())
         return true;
-    if (!checkArray(value, path))
+    if (!checkArray(value, place))
         return false;
     auto* const group = dynamic_cast<KnGroup*>(&node);
     if (!group) {
         return refuse(
-            path, tr("a node of type \"%1\" has no children").arg(typeName(node.getObjectType())));
+            place, tr("a node of type \"%1\" has no children").arg(typeName(node.getObjectType())));
     }
     if (depth >= SceneFormat::maxDepth)
-        return refuse(path, tr("more than %1 levels of children").arg(SceneFormat::maxDepth));
-    const QJsonArray children = value.toArray();
-    for (qsizetype i = 0; i < children.size(); ++i) {
-        const KnNodePtr child = readNode(children.at(i), elementPath(path, i), depth + 1);
+        return refuse(place, tr("more than %1 levels of children").arg(SceneFormat::maxDepth));
+    int index = 0;
+    for (const CrvJsonValue each : value) {
+        const KnNodePtr child = readNode(each, place.element(index++), depth + 1);
         if (!child)
             return false;
         group->addChild(child.get());

@@ -8,7 +8,6 @@
 #include <vector>
 
 class KnField;
-class QJsonObject;
 
 /// Reads a scene file: JSON with one node at the root, each node with its type, name, fields in the
 /// kernel's text form, and children. A bad file is refused as a whole.
@@ -29,16 +28,15 @@ public:
     int nodeCount() const { return m_nodeCount; }
 
 private:
-    bool build(const QJsonValue& root) override;
+    bool build(const CrvJsonValue& root) override;
     KnNodePtr takeRoot(bool accepted);
-    KnNodePtr readNode(const QJsonValue& value, const QString& path, int depth);
-    bool readFields(KnFieldContainer& node, const QJsonValue& value, const QString& path);
-    bool readField(KnField& field, const QJsonValue& value, const QString& path);
+    bool readRoots(const CrvJsonValue& value, const CrvJsonPlace& place);
+    KnNodePtr readNode(const CrvJsonValue& value, const CrvJsonPlace& place, int depth);
+    bool readFields(KnFieldContainer& node, const CrvJsonValue& value, const CrvJsonPlace& place);
+    bool readField(KnField& field, const CrvJsonValue& value, const CrvJsonPlace& place);
     bool readChildren(
-        KnFieldContainer& node, const QJsonValue& value, const QString& path, int depth);
-    KnNodePtr createNode(const QJsonObject& object, const QString& path);
-
-    bool readRoots(const QJsonValue& value);
+        KnFieldContainer& node, const CrvJsonValue& value, const CrvJsonPlace& place, int depth);
+    KnNodePtr createNode(const CrvJsonValue& object, const CrvJsonPlace& place);
 
     KnNodePtr m_root;
     std::vector<KnNodePtr> m_furtherRoots;

@@ -3,9 +3,7 @@
 
 #include "CrvInputFile.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
 #include <new>
@@ -58,7 +56,7 @@ bool CrvJsonReader::read(const QString& fileName)
     return guarded(fileName, [&] {
         QString reason;
         std::optional<QByteArray> json = readInputFile(fileName, maxFileSize, &reason);
-        return json ? parse(*std::exchange(json, std::nullopt)) : refuse(QString(), reason);
+        return json ? parse(*std::exchange(json, std::nullopt)) : refuse({}, reason);
     });
 }
 
@@ -76,72 +74,66 @@ bool CrvJsonReader::guarded(const QString& fileName, const Step& step)
         return step();
     } catch (const std::bad_alloc&) {
         // What was built so far is gone by now, so that there is memory for this.
-        return refuse(QString(), tr("there is not enough memory to read the file"));
+        return refuse({}, tr("there is not enough memory to read the file"));
     }
 }
 
 bool CrvJsonReader::parse(QByteArray json)
 {
     if (QByteArrayView(json).trimmed().isEmpty())
-        return refuse(QString(), tr("the file is empty"));
+        return refuse({}, tr("the file is empty"));
+    CrvJsonTree tree;
+    if (tree.parse(std::move(json)))
+        return build(tree.root());
+    // Qt's own parser has words for what is wrong.
+    json = tree.takeText();
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
-    if (error.error != QJsonParseError::NoError) {
-        // File, line and column, as a compiler says it.
-        m_fileName += QLatin1Char(':') + faultPlace(std::move(json));
-        return refuse(QString(), error.errorString());
-    }
-    json.clear(); // it may be large, and the document has values of its own
-    return build(document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object()));
+    QJsonDocument::fromJson(json, &error);
+    // File, line and column, as a compiler says it.
+    m_fileName += QLatin1Char(':') + faultPlace(std::move(json));
+    return refuse({}, error.errorString());
 }
 
-QString CrvJsonReader::memberPath(const QString& path, const QString& member)
+bool CrvJsonReader::checkObject(const CrvJsonValue& value, const CrvJsonPlace& place)
 {
-    return path.isEmpty() ? member : path + QLatin1Char('.') + member;
+    return value.isObject() || refuseKind(value, place, tr("an object expected"));
 }
 
-QString CrvJsonReader::elementPath(const QString& path, qsizetype index)
+bool CrvJsonReader::checkObject(const CrvJsonValue& value, const CrvJsonPlace& place,
+    std::initializer_list<QLatin1String> knownMembers)
 {
-    return QStringLiteral("%1[%2]").arg(path).arg(index);
-}
-
-bool CrvJsonReader::checkObject(const QJsonValue& value, const QString& path)
-{
-    return value.isObject() || refuseKind(value, path, tr("an object expected"));
-}
-
-bool CrvJsonReader::checkObject(
-    const QJsonValue& value, const QString& path, const QStringList& knownMembers)
-{
-    if (!checkObject(value, path))
+    if (!checkObject(value, place))
         return false;
-    const QJsonObject object = value.toObject();
-    for (auto it = object.begin(); it != object.end(); ++it) {
-        if (!knownMembers.contains(it.key()))
-            return refuse(memberPath(path, it.key()), tr("unknown member"));
+    const auto end = value.end();
+    for (auto it = value.begin(); it != end; ++it) {
+        const bool isKnown = std::any_of(knownMembers.begin(), knownMembers.end(),
+            [&it](QLatin1String member) { return it.name().equals(member); });
+        if (!isKnown)
+            return refuse(place.member(it.name()), tr("unknown member"));
     }
     return true;
 }
 
-bool CrvJsonReader::checkArray(const QJsonValue& value, const QString& path)
+bool CrvJsonReader::checkArray(const CrvJsonValue& value, const CrvJsonPlace& place)
 {
-    return value.isArray() || refuseKind(value, path, tr("an array expected"));
+    return value.isArray() || refuseKind(value, place, tr("an array expected"));
 }
 
-bool CrvJsonReader::checkString(const QJsonValue& value, const QString& path)
+bool CrvJsonReader::checkString(const CrvJsonValue& value, const CrvJsonPlace& place)
 {
-    return value.isString() || refuseKind(value, path, tr("a text in quotes expected"));
+    return value.isString() || refuseKind(value, place, tr("a text in quotes expected"));
 }
 
 bool CrvJsonReader::refuseKind(
-    const QJsonValue& value, const QString& path, const QString& expected)
+    const CrvJsonValue& value, const CrvJsonPlace& place, const QString& expected)
 {
-    return refuse(path, value.isUndefined() ? tr("missing") : expected);
+    return refuse(place, value.isUndefined() ? tr("missing") : expected);
 }
 
-bool CrvJsonReader::refuse(const QString& path, const QString& reason)
+bool CrvJsonReader::refuse(const CrvJsonPlace& place, const QString& reason)
 {
     if (m_error.isEmpty()) {
+        const QString path = place.text();
         m_error = path.isEmpty() ? QStringLiteral("%1: %2").arg(m_fileName, reason)
                                  : QStringLiteral("%1: %2: %3").arg(m_fileName, path, reason);
     }

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QCoreApplication>
-#include <QStringList>
+#include "CrvJsonPlace.h"
+#include "CrvJsonTree.h"
 
-class QJsonValue;
+#include <QCoreApplication>
+
+#include <initializer_list>
 
 /// Base of what reads a JSON file of ours: it opens and parses the file, and words what is wrong
 /// with it in one way. The first refusal is kept, whatever is refused after it.
 class CrvJsonReader {
     Q_DECLARE_TR_FUNCTIONS(CrvJsonReader)
 public:
-    /// In bytes; a larger file is refused unread. Qt's parser counts the bytes of a text in an int.
+    /// In bytes; a larger file is refused unread.
     static constexpr qint64 maxFileSize = qint64 { 1 } << 30;
 
     CrvJsonReader(const CrvJsonReader&) = delete;
@@ -35,27 +37,25 @@ protected:
 
     /// Called with the outermost value, an object or an array. May throw std::bad_alloc, for which
     /// the file is refused.
-    virtual bool build(const QJsonValue& root) = 0;
-
-    static QString memberPath(const QString& path, const QString& member);
-    static QString elementPath(const QString& path, qsizetype index);
+    virtual bool build(const CrvJsonValue& root) = 0;
 
     /// Each of these refuses a value that isn't of the kind that it is named after, with false.
-    bool checkObject(const QJsonValue& value, const QString& path);
+    bool checkObject(const CrvJsonValue& value, const CrvJsonPlace& place);
     /// Refuses unknown members too: most often they are misspelled.
-    bool checkObject(const QJsonValue& value, const QString& path, const QStringList& knownMembers);
-    bool checkArray(const QJsonValue& value, const QString& path);
-    bool checkString(const QJsonValue& value, const QString& path);
+    bool checkObject(const CrvJsonValue& value, const CrvJsonPlace& place,
+        std::initializer_list<QLatin1String> knownMembers);
+    bool checkArray(const CrvJsonValue& value, const CrvJsonPlace& place);
+    bool checkString(const CrvJsonValue& value, const CrvJsonPlace& place);
 
-    /// `path` may be empty, for the file as a whole. Always false.
-    bool refuse(const QString& path, const QString& reason);
+    /// The outermost place stands for the file as a whole. Always false.
+    bool refuse(const CrvJsonPlace& place, const QString& reason);
     bool isRefused() const { return !m_error.isEmpty(); }
 
 private:
     template <class Step>
     bool guarded(const QString& fileName, const Step& step);
     bool parse(QByteArray json);
-    bool refuseKind(const QJsonValue& value, const QString& path, const QString& expected);
+    bool refuseKind(const CrvJsonValue& value, const CrvJsonPlace& place, const QString& expected);
 
     QString m_fileName; // with line and column, once they are known
     QString m_error;

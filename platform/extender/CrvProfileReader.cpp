@@ -3,10 +3,6 @@
 
 #include "CrvStrings.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QStringList>
-
 #include <utility>
 
 namespace {
@@ -31,69 +27,73 @@ CrvProfileReader::Profiles CrvProfileReader::readFile(const QString& fileName)
 }
 
 // A part that was refused is left out here: the whole file is, in the end.
-bool CrvProfileReader::build(const QJsonValue& root)
+bool CrvProfileReader::build(const CrvJsonValue& root)
 {
-    if (!checkObject(root, QString(), { Key::profiles }))
+    const CrvJsonPlace whole;
+    if (!checkObject(root, whole, { Key::profiles }))
         return false;
-    const QJsonValue value = root.toObject().value(Key::profiles);
-    if (!checkArray(value, Key::profiles))
+    const CrvJsonValue list = root.member(Key::profiles);
+    const CrvJsonPlace place = whole.member(Key::profiles);
+    if (!checkArray(list, place))
         return false;
-    const QJsonArray list = value.toArray();
-    if (list.isEmpty())
-        return refuse(Key::profiles, tr("at least one profile is needed"));
-    for (qsizetype i = 0; i < list.size() && !isRefused(); ++i)
-        m_profiles.push_back(readProfile(list.at(i), elementPath(Key::profiles, i)));
+    if (list.count() == 0)
+        return refuse(place, tr("at least one profile is needed"));
+    int index = 0;
+    for (const CrvJsonValue profile : list) {
+        if (!isRefused())
+            m_profiles.push_back(readProfile(profile, place.element(index++)));
+    }
     return !isRefused();
 }
 
 std::unique_ptr<CrvProfile> CrvProfileReader::readProfile(
-    const QJsonValue& value, const QString& path)
+    const CrvJsonValue& value, const CrvJsonPlace& place)
 {
-    if (!checkObject(value, path, { Key::name, Key::extensions }))
+    if (!checkObject(value, place, { Key::name, Key::extensions }))
         return nullptr;
-    const QJsonObject object = value.toObject();
-    const QString namePath = memberPath(path, Key::name);
-    const QString name = readName(object.value(Key::name), namePath);
+    const CrvJsonPlace namePlace = place.member(Key::name);
+    const QString name = readName(value.member(Key::name), namePlace);
     if (m_names.contains(name))
-        refuse(namePath, tr("there are two profiles of the name \"%1\"").arg(name));
+        refuse(namePlace, tr("there are two profiles of the name \"%1\"").arg(name));
     m_names.insert(name);
-    const QJsonValue extensions = object.value(Key::extensions);
-    const QString listPath = memberPath(path, Key::extensions);
-    if (!checkArray(extensions, listPath))
+    const CrvJsonValue extensions = value.member(Key::extensions);
+    const CrvJsonPlace listPlace = place.member(Key::extensions);
+    if (!checkArray(extensions, listPlace))
         return nullptr;
-    return std::make_unique<CrvProfile>(
-        toKbString(name), readEntries(extensions.toArray(), listPath));
+    return std::make_unique<CrvProfile>(toKbString(name), readEntries(extensions, listPlace));
 }
 
 std::vector<CrvProfileEntry> CrvProfileReader::readEntries(
-    const QJsonArray& list, const QString& path)
+    const CrvJsonValue& list, const CrvJsonPlace& place)
 {
     std::vector<CrvProfileEntry> entries;
-    for (qsizetype i = 0; i < list.size() && !isRefused(); ++i)
-        entries.push_back(readEntry(list.at(i), elementPath(path, i)));
+    int index = 0;
+    for (const CrvJsonValue entry : list) {
+        if (!isRefused())
+            entries.push_back(readEntry(entry, place.element(index++)));
+    }
     return entries;
 }
 
-CrvProfileEntry CrvProfileReader::readEntry(const QJsonValue& value, const QString& path)
+CrvProfileEntry CrvProfileReader::readEntry(const CrvJsonValue& value, const CrvJsonPlace& place)
 {
     if (!value.isObject())
-        return { toKbString(readName(value, path)), {} };
+        return { toKbString(readName(value, place)), {} };
     CrvProfileEntry entry;
-    if (!checkObject(value, path, { Key::name, Key::controls }))
+    if (!checkObject(value, place, { Key::name, Key::controls }))
         return entry;
-    const QJsonObject object = value.toObject();
-    entry.extension = toKbString(readName(object.value(Key::name), memberPath(path, Key::name)));
-    const QJsonValue controls = object.value(Key::controls);
-    const QString listPath = memberPath(path, Key::controls);
-    if (!controls.isUndefined() && checkArray(controls, listPath))
-        entry.children = readEntries(controls.toArray(), listPath);
+    entry.extension = toKbString(readName(value.member(Key::name), place.member(Key::name)));
+    const CrvJsonValue controls = value.member(Key::controls);
+    const CrvJsonPlace listPlace = place.member(Key::controls);
+    if (!controls.isUndefined() && checkArray(controls, listPlace))
+        entry.children = readEntries(controls, listPlace);
     return entry;
 }
 
-QString CrvProfileReader::readName(const QJsonValue& value, const QString& path)
+QString CrvProfileReader::readName(const CrvJsonValue& value, const CrvJsonPlace& place)
 {
-    const QString name = value.toString();
+    const QString name = value.toQString();
     if (name.isEmpty())
-        refuse(path, tr("a name is expected"));
+        refuse(place, tr("a name is expected"));
     return name;
 }

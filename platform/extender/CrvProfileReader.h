@@ -9,8 +9,6 @@
 #include <memory>
 #include <vector>
 
-class QJsonArray;
-
 /// Reads profiles from JSON:
 ///
 ///     {"profiles": [{"name": "Fields", "extensions": [
@@ -26,11 +24,11 @@ public:
     Profiles readFile(const QString& fileName);
 
 private:
-    bool build(const QJsonValue& root) override;
-    std::unique_ptr<CrvProfile> readProfile(const QJsonValue& value, const QString& path);
-    std::vector<CrvProfileEntry> readEntries(const QJsonArray& list, const QString& path);
-    CrvProfileEntry readEntry(const QJsonValue& value, const QString& path);
-    QString readName(const QJsonValue& value, const QString& path);
+    bool build(const CrvJsonValue& root) override;
+    std::unique_ptr<CrvProfile> readProfile(const CrvJsonValue& value, const CrvJsonPlace& place);
+    std::vector<CrvProfileEntry> readEntries(const CrvJsonValue& list, const CrvJsonPlace& place);
+    CrvProfileEntry readEntry(const CrvJsonValue& value, const CrvJsonPlace& place);
+    QString readName(const CrvJsonValue& value, const CrvJsonPlace& place);
 
     Profiles m_profiles;
     QSet<QString> m_names;

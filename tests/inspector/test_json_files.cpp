@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "CrvJsonTree.h"
 #include "CrvProfileReader.h"
+#include "CrvStrings.h"
 #include "SceneDocument.h"
 #include "SceneReader.h"
 #include "TextRows.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -30,6 +35,55 @@ void writeFile(const QString& fileName, const QByteArray& content)
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("%s can't be written", qPrintable(fileName));
+}
+
+/// As Qt sees it; a number is only compared, since nobody needs it as such.
+bool isSame(const CrvJsonValue& value, const QJsonValue& expected)
+{
+    if (expected.isDouble())
+        return value.isNumber(expected.toDouble());
+    if (expected.isString())
+        return value.isString() && value.toQString() == expected.toString()
+            && toQString(value.toKbString()) == expected.toString();
+    if (expected.isArray()) {
+        const QJsonArray array = expected.toArray();
+        qsizetype index = 0;
+        for (const CrvJsonValue element : value) {
+            if (index >= array.size() || !isSame(element, array.at(index++)))
+                return false;
+        }
+        return value.isArray() && index == array.size() && index == value.count();
+    }
+    if (expected.isObject()) {
+        const QJsonObject object = expected.toObject();
+        QSet<QString> names;
+        const auto end = value.end();
+        for (auto it = value.begin(); it != end; ++it)
+            names.insert(it.name().toQString());
+        for (const QString& name : names) {
+            const QByteArray latin1 = name.toLatin1();
+            if (!object.contains(name)
+                || (QString::fromLatin1(latin1) == name
+                    && !isSame(value.member(QLatin1String(latin1)), object.value(name))))
+                return false;
+        }
+        return value.isObject() && names.size() == object.size();
+    }
+    return value.isBool() == expected.isBool() && value.toBool() == expected.toBool()
+        && !value.isString() && value.count() == 0;
+}
+
+void compareWithQt(const QByteArray& text)
+{
+    QJsonParseError error;
+    const QJsonDocument expected = QJsonDocument::fromJson(text, &error);
+    const bool isJson = error.error == QJsonParseError::NoError;
+    CrvJsonTree tree;
+    const bool parsed = tree.parse(text);
+    const QJsonValue root
+        = expected.isArray() ? QJsonValue(expected.array()) : QJsonValue(expected.object());
+    if (parsed != isJson || (parsed && !isSame(tree.root(), root)))
+        QFAIL("differs from Qt: " + text);
 }
 
 /// Lets the process have no more than so many bytes on top of what it has; gives the former limit.
@@ -83,6 +137,36 @@ private Q_SLOTS:
         writeFile(file, json);
         const QString start = file + u':' + place + u": "_s;
         QCOMPARE(errorOf(file).left(start.size()), start);
+    }
+
+    // Whoever reads what Qt's parser takes must neither take more nor find other values in it.
+    void agreesWithQt_data()
+    {
+        addTextRows({
+            { "structure", " {'a':[1,{},[],{'b':null}] , '':[true,false],'a':2}\n" },
+            { "escapes",
+                "['\\'\\\\\\/\\b\\f\\n\\r\\t\\q','\\u00e9\\ud83d\\ude00\\uD800x','\\u12G4']" },
+            { "utf-8", "['\u00fc\u20ac\U0001F600\u0800\uFFFF\U0010FFFF']" },
+        });
+    }
+    void agreesWithQt()
+    {
+        const QByteArray text = textRow<2>()[1].toUtf8().replace('\'', '"');
+        for (const QByteArray& prefix : { QByteArray(), QByteArray("\xEF\xBB\xBF") })
+            compareWithQt(prefix + text);
+        // And after any small mistake.
+        const QByteArray put("\"\\{}[]:,0-. e\x01n\x80\xC0\xE0\xED\xA0\xF0\xF4\xFF", 22);
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            compareWithQt(QByteArray(text).remove(i, 1));
+            compareWithQt(text.left(i));
+            for (const char c : put) {
+                compareWithQt(QByteArray(text).insert(i, c));
+                compareWithQt(QByteArray(text).replace(i, 1, QByteArray(1, c)));
+            }
+        }
+        for (const char* const number : { "0", "-0", "01", "1.5e+3", "1E-5", "1.", ".5", "-", "+1",
+                 "1e", "1e999", "-.5", "1.e1", "00", "0x1", "inf" })
+            compareWithQt('[' + QByteArray(number) + ']');
     }
 
     void notReadable_data()
