@@ -85,9 +85,8 @@ void ObjectWatch::keepComparing()
 void ObjectWatch::addFollower(QObject* object, ObjectFollower* follower)
 {
     m_followers.insert(object, follower);
-    connect(object, &QObject::destroyed, this, &ObjectWatch::objectDestroyed, Qt::UniqueConnection);
-    connect(object, &QObject::objectNameChanged, this, &ObjectWatch::objectRenamed,
-        Qt::UniqueConnection);
+    connect(object, &QObject::destroyed, this, &ObjectWatch::objectDestroyed);
+    connect(object, &QObject::objectNameChanged, this, &ObjectWatch::objectRenamed);
 }
 
 void ObjectWatch::watchEvents(QObject* object)

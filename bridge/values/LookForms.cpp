@@ -10,6 +10,7 @@
 #include <QSizePolicy>
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -163,7 +164,16 @@ template <>
 struct Text<QPalette> {
     static constexpr std::array groups { QPalette::Active, QPalette::Inactive, QPalette::Disabled };
 
+    /// Most widgets of a program share one palette.
     static QString write(const QPalette& palette)
+    {
+        static qint64 lastKey = 0; // Qt's count from 1
+        static auto& lastText = *new QString; // outlives all static objects
+        if (std::exchange(lastKey, palette.cacheKey()) != palette.cacheKey())
+            lastText = rolesText(palette);
+        return lastText;
+    }
+    static QString rolesText(const QPalette& palette)
     {
         QStringList roles;
         for (int i = 0; i < QPalette::NColorRoles; ++i) {

@@ -42,7 +42,6 @@ ListedField::ListedField(Listener& listener, FieldDefaults& defaults, int number
     , m_other(other)
     , m_sensor(sensorRan, this)
 {
-    m_sensor.attach(m_fields.front());
 }
 
 void ListedField::sensorRan(void* data, KnSensor*)
@@ -68,16 +67,17 @@ bool ListedField::hasDefault() const
 const ListedField::Shown& ListedField::shown()
 {
     if (!m_shown) {
-        watchOthers();
+        watch();
         m_shown = read();
     }
     return *m_shown;
 }
 
-void ListedField::watchOthers()
+void ListedField::watch()
 {
-    if (!m_otherSensors.empty())
+    if (m_sensor.getAttachedField())
         return;
+    m_sensor.attach(m_fields.front());
     for (std::size_t i = 1; i < m_fields.size(); ++i)
         m_otherSensors.emplace_back(sensorRan, this).attach(m_fields[i]);
     if (m_other)

@@ -77,7 +77,7 @@ public:
 private:
     static void sensorRan(void* data, KnSensor* sensor);
     Shown read() const;
-    void watchOthers();
+    void watch();
 
     Listener& m_listener;
     FieldDefaults& m_defaults;
@@ -86,7 +86,8 @@ private:
     std::vector<KnField*> m_fields; // never empty
     KnField* m_other;
     std::optional<Shown> m_shown;
-    KnFieldSensor m_sensor; // of the selected node's field
-    // Of all others; they are watched when what they hold is shown.
+    // Of the selected node's field, and of all others. They are watched when what they hold is
+    // shown for the first time.
+    KnFieldSensor m_sensor;
     std::deque<KnFieldSensor> m_otherSensors;
 };

@@ -5,6 +5,7 @@
 #include "KnFieldSensor.h"
 #include "KnGroup.h"
 #include "KnMField.h"
+#include "KnNameSensor.h"
 #include "KnReadErrorCapture.h"
 #include "KnSensorQueue.h"
 #include "Machine.h"
@@ -415,6 +416,47 @@ private Q_SLOTS:
         QVERIFY(!polled->set("3"));
         QCOMPARE(m_machine->m_polledReads, 0);
         delete far;
+    }
+
+    void oneThatGoesToAnotherThreadIsLeftAloneUntilItIsBack()
+    {
+        QThread thread;
+        thread.start();
+        auto* const child = new QObject(m_machine.get());
+        child->setObjectName(u"child"_s);
+        KnField* const speed = m_node->getField("speed");
+        QCOMPARE(treeText(m_node.get()), u"mill(child)"_s);
+        m_machine->moveToThread(&thread);
+        runSensors();
+        QCOMPARE(treeText(m_node.get()), u"mill"_s);
+        // There, no filter of ours is in the way of its events.
+        const auto inThere = [this](const auto& function) {
+            QMetaObject::invokeMethod(m_machine.get(), function, Qt::BlockingQueuedConnection);
+        };
+        inThere([this] { m_machine->setProperty("weight", 1); });
+        const KnReadErrorCapture capture;
+        QVERIFY(!speed->set("50"));
+        QVERIFY(capture.getText().toUtf8().ends_with("lives in another thread"));
+        QThread* const here = QThread::currentThread();
+        inThere([this, here] { m_machine->moveToThread(here); });
+        QTRY_COMPARE(treeText(m_node.get()), u"mill(child)"_s);
+        QVERIFY(m_node->getField("weight"));
+        QVERIFY(speed->set("50"));
+        m_machine->setProperty("height", 1);
+        runSensors();
+        QVERIFY(m_node->getField("height"));
+        thread.quit();
+        thread.wait();
+    }
+
+    void aNewNameIsFollowed()
+    {
+        KnNameSensor sensor([](void*, KnSensor*) {}, nullptr);
+        sensor.setAttached(true);
+        m_machine->setObjectName(u"windmill"_s);
+        QCoreApplication::processEvents();
+        QCOMPARE(toQString(m_node->getName()), u"windmill"_s);
+        QVERIFY(sensor.takeNodes().contains(m_node.get()));
     }
 
     void afterTheNodesNothingIsLeftInTheObject()
