@@ -68,6 +68,9 @@ void FieldLine::resizeEvent(QResizeEvent* event)
 
 void FieldLine::hideEvent(QHideEvent* event)
 {
-    dropReason();
+    // Not at once: Qt may be walking over the children of the parent.
+    if (m_reason)
+        m_reason->deleteLater();
+    m_reason.clear();
     QLineEdit::hideEvent(event);
 }

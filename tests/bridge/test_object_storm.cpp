@@ -207,7 +207,7 @@ public:
 
     void act()
     {
-        switch (m_random.bounded(12)) {
+        switch (m_random.bounded(16)) {
         case 0:
         case 1:
         case 2:
@@ -386,6 +386,12 @@ private Q_SLOTS:
                 else
                     person.act();
                 QTest::qWait(1);
+                // Whatever is open or being typed then.
+                if (random.bounded(50) == 0) {
+                    inspector.close();
+                    inspector.show();
+                    QVERIFY(QTest::qWaitForWindowActive(inspector.window()));
+                }
             }
             storm.setBlowing(false);
             storm.bringHome();
