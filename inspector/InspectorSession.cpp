@@ -125,7 +125,7 @@ void InspectorSession::open(const std::vector<KnNodePtr>& roots)
         services->setRefreshInterval(refreshInterval);
         services->setRoots(roots);
         CrvPluginsManager::getInstance()->setActiveProfile(m_profile);
-        if (!m_window.returnPlaces())
+        if (!m_window.returnPlaces() && m_settings)
             m_window.restoreLayout();
         NodeChoice::chooseFirst();
     }

@@ -63,7 +63,7 @@ protected:
         m_shownKey = picture.cacheKey();
         m_wasShown = true;
         writePicture(*this, PictureValue<Qt>::fromQt(picture));
-        m_edited = false; // this was no edit
+        m_edited = false; // what was just written is what the property holds
     }
     QVariant valueFor(const QVariant& before) override
     {

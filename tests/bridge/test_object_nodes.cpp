@@ -183,6 +183,23 @@ private Q_SLOTS:
         QCOMPARE(m_machine->m_polledReads, 0);
     }
 
+    void aPictureThatStaysIsNoChange()
+    {
+        QWidget window;
+        QPixmap picture(2, 2);
+        picture.fill(Qt::red);
+        window.setWindowIcon(picture);
+        const KnNodePtr node(crvObjectNode(&window));
+        Watch icon(node->getField("windowIcon"));
+        Watch other(node->getField("statusTip"));
+        runSensors();
+        window.setStatusTip(u"one"_s);
+        QTRY_VERIFY((runSensors(), other.runs == 1)); // both were compared by now
+        window.setStatusTip(u"two"_s);
+        QTRY_VERIFY((runSensors(), other.runs == 2));
+        QCOMPARE(icon.runs, 0);
+    }
+
     void aTypedWriteOfAReadOnlyPropertyIsTakenBack()
     {
         auto& heat = dynamic_cast<KnSFDouble&>(*m_node->getField("heat"));
