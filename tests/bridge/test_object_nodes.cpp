@@ -11,6 +11,7 @@
 #include "Machine.h"
 
 #include <QPointer>
+#include <QPushButton>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QThread>
@@ -185,17 +186,16 @@ private Q_SLOTS:
 
     void aPictureThatStaysIsNoChange()
     {
-        QWidget window;
         QPixmap picture(2, 2);
         picture.fill(Qt::red);
-        window.setWindowIcon(picture);
-        const KnNodePtr node(crvObjectNode(&window));
-        Watch icon(node->getField("windowIcon"));
+        QPushButton button(picture, QString());
+        const KnNodePtr node(crvObjectNode(&button));
+        Watch icon(node->getField("icon"));
         Watch other(node->getField("statusTip"));
         runSensors();
-        window.setStatusTip(u"one"_s);
+        button.setStatusTip(u"one"_s);
         QTRY_VERIFY((runSensors(), other.runs == 1)); // both were compared by now
-        window.setStatusTip(u"two"_s);
+        button.setStatusTip(u"two"_s);
         QTRY_VERIFY((runSensors(), other.runs == 2));
         QCOMPARE(icon.runs, 0);
     }
