@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "CrvServices.h"
 #include "CrvShell.h"
+#include "DefaultPlugin.h"
 #include "InspectorSession.h"
 #include "Messages.h"
 #include "Picture.h"
@@ -13,6 +14,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLibrary>
 
 #include <cerrno>
 #include <cstdio>
@@ -72,6 +74,8 @@ void ProgramSession::applicationMade() const { m_request->remove(); }
 std::optional<double> ProgramSession::after() const { return m_commandLine->after; }
 bool ProgramSession::endsProgram() const { return m_commandLine->endsProgram(); }
 bool ProgramSession::needsWindow() const { return m_commandLine->script.steps.isEmpty(); }
+
+void ProgramSession::loadFiles() { QLibrary(defaultPluginFile()).load(); }
 
 void ProgramSession::prepareWindow() const
 {

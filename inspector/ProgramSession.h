@@ -38,6 +38,8 @@ public:
     /// Whether the answer takes a window, and so a QApplication.
     bool needsWindow() const;
 
+    /// Has the files in memory that the inspector's window is made of; what they do comes later.
+    static void loadFiles();
     /// To be called before the inspector is shown for the first time: it opens without taking the
     /// focus, and for an answer as it would for somebody new.
     void prepareWindow() const;

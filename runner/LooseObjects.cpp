@@ -2,6 +2,7 @@
 #include "LooseObjects.h"
 
 #include "CrvObjects.h"
+#include "OwnFiles.h"
 
 #include <QHash>
 #include <QSet>
@@ -21,10 +22,10 @@ namespace {
 bool isInnerFile(const char* file)
 {
     constexpr std::array parts { "/plugins/", "/libQt6XcbQpa", "/libQt6WaylandClient",
-        "/libQt6EglFS", "/libQt6DBus", "/corvane_run.so", "/libcorvane_", "/libubn_corvane",
-        "/ubn_corvane" };
-    return std::any_of(parts.begin(), parts.end(),
-        [file](const char* part) { return std::strstr(file, part) != nullptr; });
+        "/libQt6EglFS", "/libQt6DBus" };
+    return isOwnFile(file) || std::any_of(parts.begin(), parts.end(), [file](const char* part) {
+        return std::strstr(file, part) != nullptr;
+    });
 }
 
 /// Of Qt's exported classes, those that only Qt makes objects of.

@@ -6,6 +6,7 @@
 #include "CrvServices.h"
 #include "KnGroup.h"
 #include "LooseObjects.h"
+#include "OwnTexts.h"
 #include "ProgramRoots.h"
 #include "ProgramSession.h"
 
@@ -35,6 +36,8 @@ ProgramInspector::ProgramInspector(const ProgramSession& session)
     QObject* const application = QCoreApplication::instance();
     const QWidgetList before = QApplication::topLevelWidgets();
     const QObjectList children = application->children();
+    ProgramSession::loadFiles();
+    OwnTexts::findFiles();
     session.prepareWindow();
     m_inspector.show();
     for (QObject* const child : application->children()) {

@@ -2,13 +2,16 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QDockWidget>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTest>
 #include <QTimer>
+#include <QTranslator>
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -180,6 +183,33 @@ int runFiltered(int argc, char** argv)
     return 0;
 }
 
+class Translator : public QTranslator {
+public:
+    QString translate(const char*, const char*, const char*, int) const override { return "XX"; }
+    bool isEmpty() const override { return false; }
+};
+
+int runTranslated(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    Translator translator;
+    QCoreApplication::installTranslator(&translator);
+    Window window("window");
+    window.show();
+    if (!comes("window"))
+        return 99;
+    QStringList texts;
+    QWidget* const inspector = tree("sceneTree")->window();
+    for (const QMenu* const menu : inspector->findChildren<QMenu*>())
+        texts += menu->title();
+    for (const QDockWidget* const dock : inspector->findChildren<QDockWidget*>())
+        texts += dock->windowTitle();
+    print(QString("file %1").arg(texts.contains("&File")));
+    print(QString("mixed %1").arg(texts.contains("XX")));
+    print("own " + QObject::tr("Go"));
+    return 0;
+}
+
 /// Where the line around the selected widget is, seen from the window; null while it isn't seen.
 QRect outline(const QWidget& window)
 {
@@ -287,6 +317,8 @@ int main(int argc, char** argv)
         return runModal(argc, argv);
     if (what == "filtered")
         return runFiltered(argc, argv);
+    if (what == "translated")
+        return runTranslated(argc, argv);
     if (what == "outline")
         return runOutline(argc, argv);
     if (what == "quiet")

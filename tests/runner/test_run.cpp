@@ -68,6 +68,8 @@ private Q_SLOTS:
             << QStringList { u"closing"_s, u"inspector"_s } << u"1 windows"_s << 5;
         QTest::addRow("filters of the application stay with the program")
             << QStringList { u"filtered"_s } << u"row 1, 0 clicks|typed x|1 clicks"_s << 0;
+        QTest::addRow("translators stay with the program")
+            << QStringList { u"translated"_s } << u"file 1|mixed 0|own XX"_s << 0;
         QTest::addRow("the selected widget is outlined")
             << QStringList { u"outline"_s }
             << u"around 1, 1 panes|scrolled 1|out 1|moved 1|listed 0|pressed 1|gone 1"_s << 0;
