@@ -3,11 +3,11 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QSet>
 #include <QThread>
 
 #include <atomic>
 #include <mutex>
-#include <unordered_set>
 #include <utility>
 
 #include <dlfcn.h>
@@ -22,9 +22,9 @@ constexpr quintptr knownVersion = 3;
 
 struct Register {
     std::mutex mutex; // guards the sets
-    std::unordered_set<QObject*> all;
-    std::unordered_set<QObject*> fresh; // since the last look
-    std::unordered_set<QObject*> loose; // without a parent at the last look
+    QSet<QObject*> fresh; // since the last look
+    QSet<QObject*> seen; // at the last look or before
+    QSet<QObject*> loose; // of these, without a parent then
 };
 
 Register& objects()
@@ -56,7 +56,6 @@ void added(QObject* object)
     if (running.load(std::memory_order_relaxed) && pauses == 0) {
         Register& known = objects();
         const std::lock_guard lock(known.mutex);
-        known.all.insert(object);
         known.fresh.insert(object);
         announce();
     }
@@ -69,9 +68,8 @@ void removed(QObject* object)
     if (running.load(std::memory_order_relaxed)) {
         Register& known = objects();
         const std::lock_guard lock(known.mutex);
-        known.all.erase(object);
-        known.fresh.erase(object);
-        if (known.loose.erase(object) > 0)
+        if (!known.fresh.remove(object) && known.seen.remove(object)
+            && known.loose.remove(object))
             announce();
     }
     if (formerRemove)
@@ -112,8 +110,8 @@ void ObjectRegister::stop()
     Register& known = objects();
     const std::lock_guard lock(known.mutex);
     listener = nullptr;
-    known.all.clear();
     known.fresh.clear();
+    known.seen.clear();
     known.loose.clear();
 }
 
@@ -129,12 +127,13 @@ QObjectList ObjectRegister::parentless(Look look)
     Register& known = objects();
     const std::lock_guard lock(known.mutex);
     news = false;
-    known.loose.merge(known.fresh);
+    known.loose += known.fresh;
+    known.seen += known.fresh;
     known.fresh.clear();
     if (look == Look::All)
-        known.loose = known.all;
-    std::erase_if(known.loose, [](const QObject* object) { return !isLoose(object); });
-    return QObjectList(known.loose.begin(), known.loose.end());
+        known.loose = known.seen;
+    known.loose.removeIf([](const QObject* object) { return !isLoose(object); });
+    return known.loose.values();
 }
 
 ObjectRegister::Pause::Pause() { ++pauses; }
