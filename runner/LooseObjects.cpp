@@ -31,8 +31,10 @@ bool isInnerFile(const char* file)
 /// Of Qt's exported classes, those that only Qt makes objects of.
 bool isInnerName(QByteArrayView name)
 {
-    constexpr std::array<QByteArrayView, 6> names { "QAccessibleCache", "QEventLoop",
-        "QFactoryLoader", "QPlatformNativeInterface", "QSGContextPlugin", "QUnifiedTimer" };
+    constexpr std::array<QByteArrayView, 11> names { "QAccessibleCache", "QEventLoop",
+        "QFactoryLoader", "QKeyMapper", "QOpenGLContextGroup", "QPlatformGraphicsBuffer",
+        "QPlatformNativeInterface", "QSGContext", "QSGContextPlugin", "QSpiAccessibleBridge",
+        "QUnifiedTimer" };
     return name.endsWith("Private") || name.startsWith("QtPrivate::")
         || std::find(names.begin(), names.end(), name) != names.end();
 }

@@ -54,7 +54,8 @@ protected:
         const QPalette& colours = palette();
         QRect frame = m_frame;
         for (int i = 0; i <= lineWidth; ++i) {
-            painter.setPen(colours.color(i < lineWidth ? QPalette::Highlight : QPalette::Base));
+            // Unlike what styles mark the focus and a selection with.
+            painter.setPen(colours.color(i < lineWidth ? QPalette::LinkVisited : QPalette::Base));
             painter.drawRect(frame.adjusted(0, 0, -1, -1));
             frame.adjust(1, 1, -1, -1);
         }
