@@ -96,14 +96,17 @@ void SignalWatch::setWatched(QObject* object, const QMetaMethod& signal, bool wa
 void SignalWatch::clear()
 {
     const QHash<int, Watched> watched = std::exchange(m_watched, {});
-    for (const Watched& each : watched)
-        each.object->disconnect(this);
+    for (const Watched& each : watched) {
+        if (each.object)
+            each.object->disconnect(this);
+    }
 }
 
 // A queued signal of a dead object finds nothing any more.
-void SignalWatch::forget(QObject* object)
+void SignalWatch::forget(const QObject* object)
 {
-    m_watched.removeIf([object](const auto& each) { return each->object == object; });
+    m_watched.removeIf(
+        [object](const auto& each) { return !each->object || each->object == object; });
 }
 
 QString SignalWatch::label(const QObject* object)
@@ -111,9 +114,9 @@ QString SignalWatch::label(const QObject* object)
     if (!object)
         return tr("a dead object");
     const QString type = QString::fromLatin1(object->metaObject()->className());
-    return object->objectName().isEmpty()
-        ? type
-        : QStringLiteral("%1 \"%2\"").arg(type, object->objectName());
+    if (object->thread() != QThread::currentThread() || object->objectName().isEmpty())
+        return type;
+    return QStringLiteral("%1 \"%2\"").arg(type, object->objectName());
 }
 
 int SignalWatch::qt_metacall(QMetaObject::Call call, int id, void** arguments)

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QMetaMethod>
 #include <QObject>
+#include <QPointer>
 
 /// Prints a line on the standard output stream for each signal of a watched object: time, object,
 /// signal and arguments. A watch ends with its object. Of a flood only the beginning is printed,
@@ -21,7 +22,8 @@ public:
     bool isWatched(const QObject* object, const QMetaMethod& signal) const;
     void clear();
 
-    /// Such as `QLabel "title"`; null for a dead object.
+    /// Such as `QLabel "title"`; without the name for an object of another thread. Null stands for
+    /// a dead object.
     static QString label(const QObject* object);
 
     int qt_metacall(QMetaObject::Call call, int id, void** arguments) override;
@@ -31,7 +33,7 @@ protected:
 
 private:
     struct Watched {
-        QObject* object; // alive
+        QPointer<QObject> object; // may die in another thread, of which we hear later
         QMetaMethod signal;
     };
 
@@ -39,7 +41,7 @@ private:
     ~SignalWatch() override = default;
 
     int find(const QObject* object, const QMetaMethod& signal) const;
-    void forget(QObject* object);
+    void forget(const QObject* object);
     void print(const Watched& watched, void** arguments);
 
     QHash<int, Watched> m_watched; // by the number that the signal is connected to

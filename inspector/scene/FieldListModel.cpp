@@ -246,6 +246,14 @@ bool FieldListModel::setData(const QModelIndex& index, const QVariant& value, in
             m_refusal = step.refusal();
     }
     const bool isRefused = step.count() == 0 && !step.refusal().isEmpty();
+    const std::vector<KnField*>& fields = row(index).fields();
+    const auto locked = std::count_if(
+        fields.begin(), fields.end(), [](const KnField* field) { return field->isReadOnly(); });
+    if (locked > 0 && !isRefused)
+        Q_EMIT leftOut(tr("%1 is read-only in %2 of %3 nodes")
+                           .arg(row(index).name())
+                           .arg(locked)
+                           .arg(fields.size()));
     step.finish(tr("Edit %1 of %2").arg(row(index).name(), nodesLabel(editedNodes())));
     // At once, since the next key may come before the sensors run.
     if (edited.isValid())

@@ -70,6 +70,10 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     const QString& refusal() const { return m_refusal; }
 
+Q_SIGNALS:
+    /// A person's edit left out some of the nodes; the text says so.
+    void leftOut(const QString& message);
+
 protected:
     void timerEvent(QTimerEvent* event) override;
 

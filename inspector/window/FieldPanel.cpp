@@ -76,6 +76,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_actions = new FieldListActions(m_list, &m_model);
     connect(m_actions, &FieldListActions::told, this, &FieldPanel::tell);
+    connect(&m_model, &FieldListModel::leftOut, this, &FieldPanel::tell);
     connect(m_list, &FieldListView::refused, this, &FieldPanel::tell);
     connect(m_list, &FieldListView::linkFollowed, m_actions, &FieldListActions::follow);
     connect(m_list, &QWidget::customContextMenuRequested, this, &FieldPanel::showMenu);

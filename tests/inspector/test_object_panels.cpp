@@ -230,6 +230,26 @@ private Q_SLOTS:
         QCOMPARE(stack().count(), told.startsWith(u"1"_s) ? 1 : 0);
     }
 
+    void anEditOfSeveralLeavesOutTheLocked()
+    {
+        QObject* const shelf = m_drill->parent();
+        shelf->setProperty("heat", 5.0);
+        clickRow(tree(), u"shelf"_s);
+        const QModelIndex saw = tree()->currentIndex().siblingAtRow(1);
+        QCOMPARE(saw.data().toString(), u"saw"_s);
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::ControlModifier,
+            tree()->visualRect(saw).center());
+        QTRY_VERIFY(cell(u"heat"_s).isValid() && list()->model()->rowCount() == 2);
+        doubleClickCell(u"heat"_s);
+        auto* const line = list()->viewport()->findChild<QLineEdit*>();
+        QVERIFY(line);
+        QTest::keyClicks(line, u"7"_s);
+        QTest::keyClick(line, Qt::Key_Return);
+        QTRY_COMPARE(shelf->property("heat"), QVariant(7.0));
+        QCOMPARE(message(), u"heat is read-only in 1 of 2 nodes"_s);
+        QCOMPARE(m_saw->heat(), 2.0 * m_saw->m_speed);
+    }
+
     void resetCallsTheProperty_data()
     {
         QTest::addColumn<bool>("inEditor");
