@@ -4,7 +4,7 @@
 #include "ApplicationFilters.h"
 #include "CrvObjects.h"
 #include "CrvServices.h"
-#include "KnGroup.h"
+#include "KnNodePtr.h"
 #include "LooseObjects.h"
 #include "OwnTexts.h"
 #include "ProgramRoots.h"
@@ -166,18 +166,9 @@ void ProgramInspector::updateRoots()
     m_inspector.setRoots(nodes);
 }
 
-/// Looks at all that stands above the object first, so that the tree has its node.
 void ProgramInspector::select(QObject* object)
 {
     m_inspector.show();
     updateRoots();
-    QObjectList path;
-    for (QObject* above = object; above; above = above->parent())
-        path.prepend(above);
-    std::vector<KnNodePtr> nodes;
-    for (QObject* const above : std::as_const(path)) {
-        nodes.emplace_back(crvObjectNode(above));
-        static_cast<KnGroup*>(nodes.back().get())->getNumChildren();
-    }
-    CrvServices::getInstance()->selectNode(nodes.back().get());
+    CrvServices::getInstance()->selectNode(crvPlacedNode(object).get());
 }
