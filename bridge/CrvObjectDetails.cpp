@@ -36,8 +36,10 @@ const QMetaObject* declaringClass(const QMetaProperty& property)
     return declaring;
 }
 
-QString writingNote(const QMetaProperty& property)
+QString writingNote(const QMetaProperty& property, const KnField& field)
 {
+    if (property.isWritable() && field.isReadOnly())
+        return tr("can be written, but is only shown here");
     if (property.isConstant())
         return tr("constant");
     if (!property.isWritable())
@@ -59,7 +61,7 @@ QString crvPropertyNote(const KnField* field)
                             .arg(QLatin1String(property.typeName()),
                                 QLatin1String(declaringClass(property)->className()),
                                 QLatin1String(property.name())) };
-    lines += writingNote(property);
+    lines += writingNote(property, *field);
     if (property.hasNotifySignal())
         lines += tr("changes are announced by %1")
                      .arg(QLatin1String(property.notifySignal().methodSignature()));

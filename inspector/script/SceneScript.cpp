@@ -68,7 +68,7 @@ void SceneScript::list(bool describe)
                 + typeName(field->getObjectType()).toUtf8() + '\t';
             appendText(m_output, *field);
             if (describe)
-                m_output += '\t' + fieldMeaning(data->getInfo(i)).toUtf8();
+                m_output += '\t' + fieldNote(*field).replace(u'\n', QStringLiteral(", ")).toUtf8();
             m_output += '\n';
         }
     }

@@ -10,6 +10,9 @@
 
 namespace {
 
+// More than a status bar shows, in characters.
+constexpr qsizetype toldLength = 300;
+
 /// As the text of a menu's entry, in which an ampersand would name a key.
 QString entryText(QString text) { return text.replace(u'&', QStringLiteral("&&")); }
 
@@ -77,7 +80,7 @@ void NodeMembers::call(const KnNodePtr& node, const QString& signature)
         return;
     const QString text = details->call(*node.get(), signature);
     say(text);
-    Q_EMIT told(text);
+    Q_EMIT told(text.simplified().left(toldLength));
 }
 
 void NodeMembers::fillWatchMenu(QMenu* menu, const KnNodePtr& node)

@@ -20,7 +20,7 @@ public:
     void addTo(QMenu* menu);
 
 Q_SIGNALS:
-    /// What a call gave, as a sentence; it is printed as well.
+    /// What a call gave, as a sentence; cut short; the whole is printed.
     void told(const QString& text);
 
 private:

@@ -367,6 +367,10 @@ private Q_SLOTS:
         QTest::addRow("read-only") << QByteArray("heat")
                                    << u"double Machine::heat\nread-only\n"
                                       "changes are announced by speedChanged()"_s;
+        QTest::addRow("only shown") << QByteArray("next")
+                                    << u"QObject* Machine::next\n"
+                                       "can be written, but is only shown here\n"
+                                       "nothing announces changes"_s;
         QTest::addRow("silent") << QByteArray("polled")
                                 << u"int Machine::polled\ncan be written\n"
                                    "nothing announces changes"_s;

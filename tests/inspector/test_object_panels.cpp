@@ -281,6 +281,7 @@ private Q_SLOTS:
         for (const auto* button :
             m_inspector->window()->findChildren<QPushButton*>(u"m_defaultButton"_s))
             QVERIFY(!button->isVisible() || !button->isEnabled());
+        QVERIFY(!find<QPushButton>(u"m_ignoreButton"_s)->isEnabled());
         press(Qt::Key_Delete);
         QCOMPARE(message(), u"Nothing is known of the default of polled"_s);
         QCOMPARE(stack().count(), 0);

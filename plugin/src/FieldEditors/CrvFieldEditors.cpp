@@ -2,6 +2,7 @@
 #include "CrvFieldEditors.h"
 
 #include "AccessibleNames.h"
+#include "CrvNodeDetails.h"
 #include "FieldActions.h"
 #include "KnField.h"
 #include "KnFieldSensor.h"
@@ -49,10 +50,15 @@ void CrvFieldEditors::limitInputs()
     const KnField& field = *m_fieldSensor->getAttachedField();
     m_offInputs.turnOn();
     m_isReadOnly = field.isReadOnly();
-    if (m_isReadOnly)
+    if (m_isReadOnly) {
         m_offInputs.turnOffAll(m_frame);
-    else if (!hasDefault(field))
+        return;
+    }
+    if (!hasDefault(field))
         m_offInputs.turnOff(m_frame->findChild<QWidget*>(QStringLiteral("m_defaultButton")));
+    // What stands behind the node of a library knows nothing of ignored fields.
+    if (CrvNodeDetails::of(field))
+        m_offInputs.turnOff(m_frame->findChild<QWidget*>(QStringLiteral("m_ignoreButton")));
 }
 
 void CrvFieldEditors::deactivate()
