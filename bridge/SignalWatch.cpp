@@ -83,6 +83,9 @@ void SignalWatch::setWatched(QObject* object, const QMetaMethod& signal, bool wa
     if (!watched) {
         m_watched.remove(known);
         QMetaObject::disconnect(object, signal.methodIndex(), this, slots + known);
+        if (std::none_of(m_watched.begin(), m_watched.end(),
+                [object](const Watched& each) { return each.object == object; }))
+            disconnect(object, &QObject::destroyed, this, &SignalWatch::forget);
         return;
     }
     const int number = ++m_lastNumber;

@@ -29,7 +29,11 @@ public:
     }
     bool set(const KbString& text) override { return takesText() && Field::set(text); }
     bool hasOwnDefault() const override { return place().isResettable(); }
-    bool resetToDefault() override { return resetProperty(); }
+    bool resetToDefault() override
+    {
+        this->aboutToWrite();
+        return resetProperty();
+    }
 
 protected:
     void written() override { fieldWritten(); }

@@ -24,7 +24,11 @@ public:
     void get(KbString& text) const override;
     bool set(const KbString& text) override;
     bool hasOwnDefault() const override { return place().isResettable(); }
-    bool resetToDefault() override { return resetProperty(); }
+    bool resetToDefault() override
+    {
+        aboutToWrite();
+        return resetProperty();
+    }
     /// The object that the property points to; null if it doesn't point to any.
     QObject* linkedObject() const;
 

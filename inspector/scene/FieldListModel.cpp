@@ -190,6 +190,8 @@ QString FieldListModel::toolTip(ListedField& row, int column) const
                                 typeName(row.field().getObjectType()).toHtmlEscaped()),
         fieldNote(row.field()).toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")),
         value.toHtmlEscaped() };
+    if (column == ValueColumn && row.shown().isLink)
+        lines += tr("A double click, Ctrl and a click, or Return goes there");
     lines.removeAll(QString());
     return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>")
         .arg(lines.join(QStringLiteral("<br>")));
