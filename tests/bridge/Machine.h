@@ -30,7 +30,7 @@ class Machine : public QObject {
 public:
     enum Mode { Idle, Running, Broken = 7 };
     Q_ENUM(Mode)
-    enum Part { Wheel = 1, Belt = 2, Motor = 4 };
+    enum Part { Wheel = 1, Belt = 2, Motor = 4, Engine = Motor, All = 7 }; // bits named twice
     Q_DECLARE_FLAGS(Parts, Part)
     Q_FLAG(Parts)
 

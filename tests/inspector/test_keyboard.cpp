@@ -2,6 +2,8 @@
 #include "CrvServices.h"
 #include "FieldListModel.h"
 #include "InspectorFixture.h"
+#include "KnGroup.h"
+#include "SceneDocument.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -26,6 +28,28 @@ private Q_SLOTS:
         for (int i = 0; i < 20 && QApplication::focusWidget() != filter(); ++i)
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
         QCOMPARE(QApplication::focusWidget(), filter());
+    }
+
+    void downGetsToTheDeepestNode()
+    {
+        auto* const scene = static_cast<KnGroup*>(m_inspector->window.document().root().get());
+        auto* group = new KnGroup;
+        scene->addChild(group);
+        for (int depth = 0; depth < 30; ++depth) {
+            auto* const child = new KnGroup;
+            group->addChild(child);
+            group = child;
+        }
+        group->setName("Deepest");
+        QTreeView* const tree = m_inspector->view(u"sceneTree"_s);
+        QTRY_COMPARE(tree->model()->rowCount(tree->model()->index(0, 0)), scene->getNumChildren());
+        tree->expandAll();
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_End);
+        QTest::keyClick(tree, Qt::Key_Up);
+        QTest::keyClick(tree, Qt::Key_Down);
+        QCOMPARE(CrvServices::getInstance()->getSelectedNode(), group);
+        QVERIFY(tree->visualRect(tree->currentIndex()).width() > 0);
     }
 
     void returnEntersAndEscLeaves_data()
