@@ -76,6 +76,8 @@ QObject* InspectorInput::object() const
     return crvNodeObject(CrvServices::getInstance()->getSelectedNode());
 }
 
+bool InspectorInput::hasNode() const { return CrvServices::getInstance()->getSelectedNode(); }
+
 KnField* InspectorInput::field() const { return CrvServices::getInstance()->getSelectedField(); }
 
 void InspectorInput::activate()

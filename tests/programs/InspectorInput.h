@@ -28,6 +28,8 @@ public:
     /// What the field editor's dock shows; null if there is no editor for the field.
     QWidget* editor() const;
 
+    /// Whether a node is selected, of an object or not.
+    bool hasNode() const;
     /// The object whose node is selected; null if there is none.
     QObject* object() const;
     KnField* field() const;

@@ -74,9 +74,15 @@ WalkResult walkThroughObjects(InspectorInput& input)
         if (tree->model()->hasChildren(current) && !tree->isExpanded(current))
             press(tree, Qt::Key_Right);
         const QObject* const object = input.object();
-        if (!object) {
+        if (!input.hasNode()) {
+            // From here on the keys would begin anew at the top.
             result.faults
-                += QStringLiteral("no object is selected at \"%1\"").arg(current.data().toString());
+                += QStringLiteral("no node is selected at \"%1\"").arg(current.data().toString());
+            break;
+        }
+        if (!object) {
+            // A node of the inspector's own, which holds others together.
+            pageThroughFields(input);
         } else if (object == input.tree() || object == input.list()) {
             result.faults += QStringLiteral("the inspector shows itself");
         } else {

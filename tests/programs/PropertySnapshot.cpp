@@ -18,11 +18,13 @@ bool hasSameBits(const QVariant& a, const QVariant& b)
     return std::memcmp(a.constData(), b.constData(), sizeof(Number)) == 0;
 }
 
-/// Those that follow the focus, the mouse and the time, and what Qt reads from elsewhere.
+/// Those that follow the focus, the mouse and the time, what Qt reads from elsewhere, and what is
+/// known of each child anyway.
 bool changesByItself(const QMetaProperty& property)
 {
     static const QSet<QByteArray> names { "focus", "isActiveWindow", "active", "underMouse",
-        "cursorFlashTime", "remainingTime", "contentOrientation", "windowState" };
+        "cursorFlashTime", "remainingTime", "contentOrientation", "windowState", "childrenRect",
+        "childrenRegion" };
     return names.contains(property.name());
 }
 
