@@ -46,12 +46,16 @@ QString stateOf(const QWidget* widget)
     return state + (widget->isEnabled() ? u""_s : u" (disabled)"_s);
 }
 
+/// The boxes of a bit mask show it as it was when the field was selected, by design.
+bool isFrozen(const QWidget* widget) { return widget->objectName() == "m_checkBoxes"_L1; }
+
 /// By name and number, in the order in which they were made.
 std::map<QString, QString> statesIn(const QWidget* frame)
 {
     std::map<QString, QString> states;
     for (const QWidget* widget : frame->findChildren<QWidget*>()) {
-        if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"_L1))
+        if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"_L1)
+            || isFrozen(widget))
             continue;
         const QString state = stateOf(widget);
         if (state.isEmpty())

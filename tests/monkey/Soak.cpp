@@ -3,6 +3,8 @@
 
 #include "CrvPluginsManager.h"
 #include "CrvServices.h"
+#include "KnFieldContainer.h"
+#include "KnGraphWalk.h"
 #include "MainWindow.h"
 #include "Orrery.h"
 #include "Player.h"
@@ -60,6 +62,21 @@ void watchSome(Stage& stage)
     }
 }
 
+/// Has each field shown once: editors make their widgets when they are first seen.
+void visitAll(const Stage& stage, Player& player)
+{
+    KnGraphWalk walk;
+    for (const KnNodePtr& root : stage.roots())
+        walk.add(root.get());
+    while (KnFieldContainer* const node = walk.next()) {
+        const KnFieldData* const data = node->getContainerFieldData();
+        for (int i = 0; i < data->getNum(); ++i) {
+            CrvServices::getInstance()->selectField(data->getField(node, i));
+            player.run(0, {});
+        }
+    }
+}
+
 } // namespace
 
 bool Soak::run(double minutes)
@@ -82,6 +99,7 @@ bool Soak::run(double minutes)
     Player player(stage, Player::Cast::PersonAndScene);
     std::printf("soaking for %g minutes from seed %llu on\n", minutes,
         static_cast<unsigned long long>(m_seed));
+    visitAll(stage, player);
     int rounds = 0;
     while (!clock.hasExpired(duration)) {
         watchSome(stage);

@@ -4,8 +4,11 @@
 #include "CrvServices.h"
 #include "CrvUndoSteps.h"
 #include "FileDialogs.h"
+#include "KnGroup.h"
+#include "KnSFBitMask.h"
 #include "MainWindow.h"
 #include "SceneReader.h"
+#include "SceneText.h"
 #include "SceneWriter.h"
 #include "Stage.h"
 
@@ -15,10 +18,55 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A click on a box of a bit mask is no undo step, by design, so these fields are left out.
+bool isUndoable(const KnField* field) { return !dynamic_cast<const KnSFBitMask*>(field); }
+
+void append(QByteArray& text, KnFieldContainer* node, int level)
+{
+    const QByteArray indent(2 * level, ' ');
+    const QString title
+        = typeName(node->getObjectType()) + u' ' + toQString(node->getName().getString());
+    text += indent + title.toUtf8() + '\n';
+    const KnFieldData* const data = node->getContainerFieldData();
+    for (int i = 0; i < data->getNum(); ++i) {
+        const KnField* const field = data->getField(node, i);
+        if (!isUndoable(field))
+            continue;
+        KbString value;
+        field->get(value);
+        text += indent + " ." + fieldName(*field).toUtf8() + ' ' + toQString(value).toUtf8()
+            + (field->isIgnored() ? " ignored\n" : "\n");
+    }
+    if (auto* const group = dynamic_cast<KnGroup*>(node)) {
+        for (int i = 0; i < group->getNumChildren(); ++i)
+            append(text, group->getChild(i), level + 1);
+    }
+}
+
+QString compare(const QString& when, const QByteArray& wanted, const QByteArray& found)
+{
+    if (wanted == found)
+        return {};
+    const QByteArrayList before = wanted.split('\n');
+    const QByteArrayList after = found.split('\n');
+    qsizetype line = 0;
+    while (before.value(line) == after.value(line))
+        ++line;
+    return u"after %1 the scene has %2 in line %3 where it had %4"_s.arg(when,
+        QString::fromUtf8(after.value(line).trimmed().left(200)), QString::number(line + 1),
+        QString::fromUtf8(before.value(line).trimmed().left(200)));
+}
+
+} // namespace
+
 QByteArray UndoOracle::sceneText()
 {
-    const std::vector<KnNodePtr>& roots = CrvServices::getInstance()->getRoots();
-    return roots.empty() ? QByteArray() : SceneWriter().toJson(roots);
+    QByteArray text;
+    for (const KnNodePtr& root : CrvServices::getInstance()->getRoots())
+        append(text, root.get(), 0);
+    return text;
 }
 
 void UndoOracle::begin(Stage& stage)
@@ -72,9 +120,10 @@ QString UndoOracle::check(Stage& stage)
 
 QString UndoOracle::checkSaving()
 {
-    const QByteArray text = sceneText();
-    if (text.isEmpty())
+    const std::vector<KnNodePtr>& scene = CrvServices::getInstance()->getRoots();
+    if (scene.empty())
         return {};
+    const QByteArray text = SceneWriter().toJson(scene);
     SceneReader reader;
     std::vector<KnNodePtr> roots { reader.readText(text, u"the saved scene"_s) };
     if (!roots.front())
@@ -82,18 +131,4 @@ QString UndoOracle::checkSaving()
     for (KnNodePtr& root : reader.takeFurtherRoots())
         roots.push_back(std::move(root));
     return compare(u"saving and reading"_s, text, SceneWriter().toJson(roots));
-}
-
-QString UndoOracle::compare(const QString& when, const QByteArray& wanted, const QByteArray& found)
-{
-    if (wanted == found)
-        return {};
-    const QByteArrayList before = wanted.split('\n');
-    const QByteArrayList after = found.split('\n');
-    qsizetype line = 0;
-    while (before.value(line) == after.value(line))
-        ++line;
-    return u"after %1 the scene has %2 in line %3 where it had %4"_s.arg(when,
-        QString::fromUtf8(after.value(line).trimmed().left(200)), QString::number(line + 1),
-        QString::fromUtf8(before.value(line).trimmed().left(200)));
 }

@@ -19,11 +19,9 @@ public:
     /// Undoes and redoes everything; the stack ends where it stood. Empty if all agrees.
     QString check(Stage& stage);
 
-    static QByteArray sceneText();
-
 private:
+    static QByteArray sceneText();
     void sceneReplaced();
-    static QString compare(const QString& when, const QByteArray& wanted, const QByteArray& found);
     static QString checkSaving();
 
     QByteArray m_first;
