@@ -16,7 +16,7 @@ FieldLine::FieldLine(QWidget* parent)
     connect(this, &QLineEdit::textEdited, this, &FieldLine::dropReason);
 }
 
-FieldLine::~FieldLine() { dropReason(); }
+FieldLine::~FieldLine() { delete m_reason; }
 
 void FieldLine::refuse(const QString& reason)
 {
@@ -37,7 +37,16 @@ void FieldLine::refuse(const QString& reason)
 
 QString FieldLine::reason() const { return m_reason ? m_reason->text() : QString(); }
 
-void FieldLine::dropReason() { delete m_reason; }
+// Deleted later: while a window hides, the toolkit goes through the children that stand beside each
+// other, and this may be one of the next.
+void FieldLine::dropReason()
+{
+    if (!m_reason)
+        return;
+    m_reason->hide();
+    m_reason->deleteLater();
+    m_reason.clear();
+}
 
 // Below the line, or above it where there is no room.
 void FieldLine::placeReason()

@@ -104,6 +104,19 @@ private Q_SLOTS:
         QCOMPARE(stack().count(), 1);
     }
 
+    /// The reason stands beside its line, and must outlive the round that hides them both.
+    void theWindowIsClosedOnARefusedText()
+    {
+        choose(u"Oak.transparency"_s);
+        QTest::keyClick(list(), Qt::Key_F2);
+        QTest::keyClicks(open<FieldLine>(), u"0,5\r"_s);
+        const QPointer<QLabel> reason = open<QLabel>();
+        QVERIFY(reason);
+        m_inspector->window.close();
+        QVERIFY(reason && reason->isHidden());
+        QTRY_VERIFY(!reason);
+    }
+
     void aTruthValueToggles()
     {
         choose(u"Desk lamp.on"_s);
