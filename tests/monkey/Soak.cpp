@@ -19,6 +19,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <memory>
 #include <numeric>
 
 using namespace Qt::StringLiterals;
@@ -33,7 +34,6 @@ constexpr double warmingUp = 0.25; // of the time, until all that is made once h
 /// somebody clears it would count as grown.
 void tidyUp(Stage& stage)
 {
-    stage.replaceScene();
     CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
     manager->setActiveProfile(manager->getProfilesList().front());
     CrvServices::getInstance()->setPaused(false);
@@ -87,13 +87,13 @@ bool Soak::run(double minutes)
 
     QElapsedTimer clock;
     clock.start();
-    Orrery orrery;
+    auto orrery = std::make_unique<Orrery>();
     Stage stage(Stage::Role::Guest);
-    stage.addRoot(orrery.root());
+    stage.replaceScene(orrery->root());
     stage.keepWindow();
     QTimer frames;
     QObject::connect(&frames, &QTimer::timeout, &frames,
-        [&] { orrery.moveTo(double(clock.elapsed()) / 1000.0); });
+        [&] { orrery->moveTo(double(clock.elapsed()) / 1000.0); });
     frames.start(frameTime);
 
     Player player(stage, Player::Cast::PersonAndScene);
@@ -104,6 +104,9 @@ bool Soak::run(double minutes)
     while (!clock.hasExpired(duration)) {
         watchSome(stage);
         player.run(m_seed + quint64(rounds), steps);
+        // The steps have added to this one, too.
+        orrery = std::make_unique<Orrery>();
+        stage.replaceScene(orrery->root());
         tidyUp(stage);
         player.run(m_seed, {}); // handles what that has brought about
         const ResourceUse use = ResourceUse::now();

@@ -18,6 +18,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QUndoStack>
 
 #include <cstdio>
@@ -127,15 +128,11 @@ void Stage::restart()
     start();
 }
 
-void Stage::addRoot(KnFieldContainer* root)
+void Stage::replaceScene(KnFieldContainer* furtherRoot)
 {
-    m_scene.emplace_back(root);
-    m_inspector->addRoot(root);
-}
-
-void Stage::replaceScene()
-{
-    m_scene.front() = freshScene();
+    m_scene = { freshScene() };
+    if (furtherRoot)
+        m_scene.emplace_back(furtherRoot);
     CrvServices::getInstance()->selectNode(nullptr);
     CrvServices::getInstance()->getUndoStack()->clear();
     m_inspector->setRoots(plainRoots(m_scene));
@@ -144,6 +141,8 @@ void Stage::replaceScene()
 
 void Stage::reopen()
 {
+    // An X server may not have taken the window away yet.
+    QGuiApplication::sync();
     if (m_inspector)
         m_inspector->show();
     else

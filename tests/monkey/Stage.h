@@ -32,10 +32,9 @@ public:
     Q_DISABLE_COPY_MOVE(Stage)
 
     Role role() const { return m_role; }
-    /// Another root of the guest's scene, from now on and after each new start.
-    void addRoot(KnFieldContainer* root);
-    /// The scene as it was, in the same window, and an empty undo stack; for a guest.
-    void replaceScene();
+    /// A fresh scene in the same window, and beside it another root, which may be null; the undo
+    /// stack is empty then. For a guest.
+    void replaceScene(KnFieldContainer* furtherRoot);
     /// The next start of the program, with the settings of the last one; nothing once the window
     /// is to be kept.
     void restart();
