@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QPixmapCache>
 #include <QSet>
 #include <QWidget>
 
@@ -58,7 +59,7 @@ QSet<QObject*> objects()
 const std::array<ResourceUse::Kind, ResourceUse::count>& ResourceUse::kinds()
 {
     static const std::array<Kind, count> kinds {
-        Kind { "heap", "kB", 512.0 },
+        Kind { "heap", "kB", 1024.0 },
         Kind { "resident", "kB", 8192.0 },
         Kind { "files", "", 1.0 },
         Kind { "timers", "", 1.0 },
@@ -70,6 +71,7 @@ const std::array<ResourceUse::Kind, ResourceUse::count>& ResourceUse::kinds()
 
 ResourceUse ResourceUse::now()
 {
+    QPixmapCache::clear(); // has a limit of its own
     malloc_trim(0);
     const QSet<QObject*> found = objects();
     qsizetype timers = 0;

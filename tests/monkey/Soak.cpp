@@ -12,6 +12,8 @@
 #include "SceneSearch.h"
 #include "WatchPanel.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -34,6 +36,10 @@ constexpr double warmingUp = 0.25; // of the time, until all that is made once h
 /// somebody clears it would count as grown.
 void tidyUp(Stage& stage)
 {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* const dialog = qobject_cast<QDialog*>(window); dialog && dialog->isVisible())
+            dialog->reject();
+    }
     CrvPluginsManager* const manager = CrvPluginsManager::getInstance();
     manager->setActiveProfile(manager->getProfilesList().front());
     CrvServices::getInstance()->setPaused(false);

@@ -18,7 +18,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QUndoStack>
 
 #include <cstdio>
@@ -141,8 +140,6 @@ void Stage::replaceScene(KnFieldContainer* furtherRoot)
 
 void Stage::reopen()
 {
-    // An X server may not have taken the window away yet.
-    QGuiApplication::sync();
     if (m_inspector)
         m_inspector->show();
     else

@@ -18,7 +18,9 @@ namespace {
 void judge(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
     const bool isHarmless = type == QtDebugMsg || type == QtInfoMsg
-        || message.startsWith("This plugin does not support"_L1); // the offscreen platform's
+        || message.startsWith("This plugin does not support"_L1) // the offscreen platform's
+        // The X11 platform's, when a window comes back before the server has taken it away.
+        || message.contains("QXcbWindow::setNetWmStateOnUnmappedWindow"_L1);
     if (!isHarmless)
         Player::fail(u"warning: "_s + message);
 }
