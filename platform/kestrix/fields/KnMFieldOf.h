@@ -53,7 +53,10 @@ public:
 private:
     class Rows;
 
-    /// False, after a KnMemoryError, if there is no memory for so many values.
+    /// Changes the array to so many values. False, after a KnMemoryError, if there is no memory for
+    /// them.
+    template <class Change>
+    bool changeLength(std::int64_t num, const Change& change);
     bool resize(std::int64_t num);
     static bool readArray(KnTextReader& reader, std::vector<Value>& values);
 

@@ -42,13 +42,12 @@ public:
 };
 
 template <class FieldValue>
-bool KnMFieldOf<FieldValue>::resize(std::int64_t num)
+template <class Change>
+bool KnMFieldOf<FieldValue>::changeLength(std::int64_t num, const Change& change)
 {
-    if (num == static_cast<std::int64_t>(m_values.size()))
-        return true;
     if (num <= std::numeric_limits<int>::max()) {
         try {
-            m_values.resize(static_cast<std::size_t>(num));
+            change();
             return true;
         } catch (const std::bad_alloc&) {
         } catch (const std::length_error&) {
@@ -57,6 +56,12 @@ bool KnMFieldOf<FieldValue>::resize(std::int64_t num)
     KnMemoryError::post(KbString(getObjectType().getName().getString().toUtf8() + ": no memory for "
         + std::to_string(num) + " values"));
     return false;
+}
+
+template <class FieldValue>
+bool KnMFieldOf<FieldValue>::resize(std::int64_t num)
+{
+    return changeLength(num, [&] { m_values.resize(static_cast<std::size_t>(num)); });
 }
 
 template <class FieldValue>
@@ -119,12 +124,12 @@ void KnMFieldOf<FieldValue>::insertValues(int start, int num)
 {
     if (num <= 0)
         return;
-    const int old = getNum();
+    start = std::clamp(start, 0, getNum());
     aboutToWrite();
-    if (!resize(std::int64_t { old } + num))
+    if (!changeLength(std::int64_t { getNum() } + num, [&] {
+            m_values.insert(m_values.begin() + start, static_cast<std::size_t>(num), Value());
+        }))
         return;
-    start = std::clamp(start, 0, old);
-    std::rotate(m_values.begin() + start, m_values.begin() + old, m_values.end());
     reportRows(start, 0, num);
     recordRows(start, 0, num, nullptr);
     touch();

@@ -20,6 +20,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -43,6 +44,7 @@ WfMFieldTable::WfMFieldTable(WfMFieldWidget* widget, QWidget* parent, const char
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setCurrentCell(0, 0);
+    connect(model(), &QAbstractItemModel::dataChanged, this, &WfMFieldTable::noteItem);
     new ColumnFit(this); // child
 }
 
@@ -133,13 +135,30 @@ void WfMFieldTable::swapRows(int row1, int row2)
         execute(std::make_unique<CrvMFSwapRowsCommand>(shown, row1, row2));
 }
 
+/// Leaves what clearContents leaves: no item, and neither a selection nor a current cell. That one
+/// looks at each row and has the view lay itself out anew, which people wait for in long arrays.
+void WfMFieldTable::dropItems()
+{
+    selectionModel()->reset();
+    for (const QPersistentModelIndex& cell : std::exchange(m_items, {})) {
+        if (cell.isValid())
+            delete takeItem(cell.row(), cell.column()); // ours, once it is out
+    }
+}
+
+void WfMFieldTable::noteItem(const QModelIndex& cell)
+{
+    if (item(cell.row(), cell.column()) && !m_items.contains(cell))
+        m_items.append(cell);
+}
+
 void WfMFieldTable::addRow()
 {
     if (!prepareRowOperation())
         return;
     const int current = currentRow();
     const int newRow = current + 1;
-    clearContents();
+    dropItems();
     insertRow(newRow);
     for (int column = 0; column < columnCount(); ++column)
         setItem(newRow, column, new QTableWidgetItem);

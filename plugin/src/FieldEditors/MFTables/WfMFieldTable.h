@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QList>
+#include <QPersistentModelIndex>
 #include <QTableWidget>
 
 class CellEditing;
@@ -72,6 +74,10 @@ private:
     void moveRow(int row, int target);
     void setAccessLimits(int minimum, int maximum);
     void deleteRows(int firstRow, int count);
+    void dropItems();
+    /// A cell may have got an item.
+    void noteItem(const QModelIndex& cell);
 
     CellEditing* m_cellEditing; // child
+    QList<QPersistentModelIndex> m_items; // the cells that have one: new rows, and what was edited
 };
