@@ -11,7 +11,9 @@
 
 #include <QApplication>
 #include <QFrame>
+#include <QItemDelegate>
 #include <QMainWindow>
+#include <QPainter>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QUndoStack>
@@ -120,6 +122,31 @@ public:
 protected:
     mutable QTableWidget m_table;
     int m_rows = 0;
+};
+
+/// The same table with a text in each visible cell, which is the least that shows the values.
+class PaintedContender : public BareContender {
+public:
+    explicit PaintedContender(int columns = 1)
+        : BareContender(columns)
+    {
+        m_table.setItemDelegate(&m_delegate);
+    }
+
+    const char* name() const override { return "painted table"; }
+
+private:
+    class Delegate : public QItemDelegate {
+    public:
+        void paint(QPainter* painter, const QStyleOptionViewItem& option,
+            const QModelIndex& index) const override
+        {
+            const QString text = QString::number(index.row() % 2 == 0 ? 0.5 : 0.25);
+            painter->drawText(option.rect, Qt::AlignCenter, text);
+        }
+    };
+
+    Delegate m_delegate;
 };
 
 /// The same table with an item for each value.
@@ -244,6 +271,7 @@ std::vector<std::unique_ptr<ArrayContender>> makeContenders()
     all.push_back(std::make_unique<EditorContender<WfMFFloatWidget, KnMFFloat>>("MFFloat"));
     all.push_back(std::make_unique<ModelContender>());
     all.push_back(std::make_unique<FilledContender>());
+    all.push_back(std::make_unique<PaintedContender>());
     return all;
 }
 
@@ -254,5 +282,6 @@ std::vector<std::unique_ptr<ArrayContender>> makeEditors()
     all.push_back(std::make_unique<EditorContender<WfMFVec3fWidget, KnMFVec3f>>("MFVec3f"));
     all.push_back(std::make_unique<EditorContender<WfMFColorWidget, KnMFColor>>("MFColor"));
     all.push_back(std::make_unique<EditorContender<WfMFMatrixWidget, KnMFMatrix>>("MFMatrix"));
+    all.push_back(std::make_unique<PaintedContender>(4));
     return all;
 }

@@ -34,9 +34,10 @@ public:
     void show() const;
 };
 
-/// The bare table, the editor of KnMFFloat, the hand-made model and the filled table.
+/// The bare table, the editor of KnMFFloat, the hand-made model, the filled table, and the bare
+/// table with texts in its visible cells.
 std::vector<std::unique_ptr<ArrayContender>> makeContenders();
 
 /// The bare table with four columns, and the editors of values of several numbers: three columns,
-/// four with the swatch, and the overview of matrices.
+/// four with the swatch, and the overview of matrices; the bare table again, with texts.
 std::vector<std::unique_ptr<ArrayContender>> makeEditors();
