@@ -45,11 +45,21 @@ private:
 };
 
 /// What `main` does: runs the benchmarks that the command line names, or all, and prints the ratios
-/// of those that ran. Gives the exit status.
+/// of those that ran. Each runs five times, in turns with the others, so that what disturbs the
+/// machine meets all. Gives the exit status.
 inline int runBenchmarks(int argc, char** argv, std::initializer_list<Ratio> ratios)
 {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    // What the command line says comes later, and wins.
+    std::vector<std::string> defaults { "--benchmark_repetitions=5",
+        "--benchmark_enable_random_interleaving=true", "--benchmark_report_aggregates_only=true" };
+    std::vector<char*> arguments { argv[0] };
+    for (std::string& each : defaults)
+        arguments.push_back(each.data());
+    arguments.insert(arguments.end(), argv + 1, argv + argc);
+    int count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 2;
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -231,15 +231,15 @@ void sendToOther(benchmark::State& state)
         QCoreApplication::sendEvent(&object, &event);
 }
 
-BENCHMARK(openObject)->Unit(benchmark::kMicrosecond)->Repetitions(5);
-BENCHMARK(readObject)->Unit(benchmark::kMicrosecond)->Repetitions(5);
-BENCHMARK(openTree)->Unit(benchmark::kMicrosecond)->Repetitions(5);
-BENCHMARK(copyTree)->Unit(benchmark::kMicrosecond)->Repetitions(5);
-BENCHMARK(openProgram)->Unit(benchmark::kMillisecond)->Repetitions(5);
-BENCHMARK(readProgram)->Unit(benchmark::kMillisecond)->Repetitions(5);
-BENCHMARK(openInWindow)->Unit(benchmark::kMillisecond)->Iterations(20)->Repetitions(5);
-BENCHMARK(sendToSeen)->Repetitions(5);
-BENCHMARK(sendToOther)->Repetitions(5);
+BENCHMARK(openObject)->Unit(benchmark::kMicrosecond);
+BENCHMARK(readObject)->Unit(benchmark::kMicrosecond);
+BENCHMARK(openTree)->Unit(benchmark::kMicrosecond);
+BENCHMARK(copyTree)->Unit(benchmark::kMicrosecond);
+BENCHMARK(openProgram)->Unit(benchmark::kMillisecond);
+BENCHMARK(readProgram)->Unit(benchmark::kMillisecond);
+BENCHMARK(openInWindow)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(sendToSeen);
+BENCHMARK(sendToOther);
 
 } // namespace
 

@@ -58,7 +58,7 @@ count() {
     local name start counted
     counted() {
         valgrind --tool=callgrind --callgrind-out-file=/dev/null "$bin/$1" \
-            --benchmark_filter="$2" --benchmark_min_time=1e-9 2>&1 |
+            --benchmark_filter="$2" --benchmark_min_time=1e-9 --benchmark_repetitions=1 2>&1 |
             sed -nE 's/.*Collected : ([0-9]+).*/\1/p'
     }
     start=$(counted "$1" '^none$')
@@ -89,9 +89,9 @@ growth() {
             unit = $2
             next
         }
-        /^[A-Za-z]+\/[0-9]+ +[0-9.]+ [num]s/ {
+        /^[A-Za-z]+\/[0-9]+_median +[0-9.]+ [num]s/ {
             split($1, side, "/")
-            note(side[1], side[2], $2)
+            note(side[1], side[2] + 0, $2)
             next
         }
         / x [0-9]+ .*: +[0-9.]+ ms/ {
