@@ -68,8 +68,7 @@ void removed(QObject* object)
     if (running.load(std::memory_order_relaxed)) {
         Register& known = objects();
         const std::lock_guard lock(known.mutex);
-        if (!known.fresh.remove(object) && known.seen.remove(object)
-            && known.loose.remove(object))
+        if (!known.fresh.remove(object) && known.seen.remove(object) && known.loose.remove(object))
             announce();
     }
     if (formerRemove)
