@@ -82,6 +82,7 @@ void NodeQuery::addTerm(const QString& word, qsizetype plainLength)
         static const std::pair<QLatin1String, Subject> subjects[] = {
             { QLatin1String("name"), Subject::Name },
             { QLatin1String("type"), Subject::Type },
+            { QLatin1String("class"), Subject::Class },
             { QLatin1String("field"), Subject::Field },
         };
         for (const auto& [name, subject] : subjects) {
@@ -138,8 +139,9 @@ const NodeQuery::TypeVerdict& NodeQuery::verdictOn(const KnFieldContainer& node)
 {
     const KnType type = node.getObjectType();
     const KnFieldData* const fields = node.getContainerFieldData();
+    const int fieldCount = fields ? fields->getNum() : 0;
     for (const TypeVerdict& verdict : m_verdicts) {
-        if (verdict.type == type && verdict.fields == fields)
+        if (verdict.type == type && verdict.fields == fields && verdict.fieldCount == fieldCount)
             return verdict;
     }
     m_verdicts.push_back(judge(node));
@@ -148,8 +150,9 @@ const NodeQuery::TypeVerdict& NodeQuery::verdictOn(const KnFieldContainer& node)
 
 NodeQuery::TypeVerdict NodeQuery::judge(const KnFieldContainer& node) const
 {
-    TypeVerdict verdict { node.getObjectType(), node.getContainerFieldData(), true, {}, {} };
-    const int fieldCount = verdict.fields ? verdict.fields->getNum() : 0;
+    const KnFieldData* const fields = node.getContainerFieldData();
+    const int fieldCount = fields ? fields->getNum() : 0;
+    TypeVerdict verdict { node.getObjectType(), fields, fieldCount, true, {}, {} };
     const auto findField = [&](const auto& fits) {
         for (int i = 0; i < fieldCount; ++i) {
             if (fits(verdict.fields->getName(i).getString().toUtf8()))
@@ -169,6 +172,11 @@ NodeQuery::TypeVerdict NodeQuery::judge(const KnFieldContainer& node) const
             break;
         case Subject::Type:
             met = typeFits;
+            verdict.possible = verdict.possible && met;
+            break;
+        case Subject::Class:
+            for (KnType type = verdict.type; !type.isBad() && !met; type = type.getParent())
+                met = term.text.isIn(type.getName().getString().toUtf8());
             verdict.possible = verdict.possible && met;
             break;
         case Subject::Field:

@@ -18,6 +18,7 @@ class KnFieldData;
 ///     "desk lamp"       the same with a blank, or with signs that would mean something
 ///     name:lamp         its name contains this
 ///     type:Light        its type contains this
+///     class:Light       its type, or one that it derives from, contains this
 ///     field:color       it has a field whose name contains this
 ///     transparency>0    it has such a field with a number, a component or a text that fits;
 ///                       also <, <=, >=, = and !=
@@ -36,7 +37,7 @@ public:
     bool matches(KnFieldContainer& node) const;
 
 private:
-    enum class Subject { NameOrType, Name, Type, Field, Value };
+    enum class Subject { NameOrType, Name, Type, Class, Field, Value };
     struct Term {
         Subject subject;
         TextPattern text; // of a value the name of its field
@@ -46,6 +47,7 @@ private:
     struct TypeVerdict {
         KnType type;
         const KnFieldData* fields;
+        int fieldCount; // a node's own table may grow, or another one take its place
         bool possible = true; // all terms that ask for type or fields can be met
         std::vector<bool> met; // by term: whatever the node is like
         std::vector<int> fieldIndices; // by term; -1 without a value

@@ -36,14 +36,16 @@ ScenePanel::ScenePanel(SceneEdits::Roots roots, QWidget* parent)
     m_filterEdit->setObjectName(QStringLiteral("sceneFilter"));
     m_filterEdit->setPlaceholderText(tr("Filter by name or type"));
     m_filterEdit->setClearButtonEnabled(true);
-    m_filterEdit->setToolTip(tr("<p>Several words must all fit:</p>"
-                                "<table><tr><td>lamp</td><td>name or type</td></tr>"
-                                "<tr><td>\"desk lamp\"</td><td>with a blank</td></tr>"
-                                "<tr><td>name:lamp</td><td>name alone</td></tr>"
-                                "<tr><td>type:Light</td><td>type alone</td></tr>"
-                                "<tr><td>field:color</td><td>has such a field</td></tr>"
-                                "<tr><td>transparency&gt;0</td><td>has such a value; also "
-                                "&lt;, &lt;=, &gt;=, =, !=</td></tr></table>"));
+    m_filterEdit->setToolTip(
+        tr("<p>Several words must all fit:</p>"
+           "<table><tr><td>lamp</td><td>name or type</td></tr>"
+           "<tr><td>\"desk lamp\"</td><td>with a blank</td></tr>"
+           "<tr><td>name:lamp</td><td>name alone</td></tr>"
+           "<tr><td>type:Light</td><td>type alone</td></tr>"
+           "<tr><td>class:Light</td><td>type, or what it derives from</td></tr>"
+           "<tr><td>field:color</td><td>has such a field</td></tr>"
+           "<tr><td>transparency&gt;0</td><td>has such a value; also "
+           "&lt;, &lt;=, &gt;=, =, !=</td></tr></table>"));
     m_filterNote->setObjectName(QStringLiteral("sceneFilterNote"));
     m_filterNote->hide();
 

@@ -88,6 +88,8 @@ private Q_SLOTS:
         row("name:light", QString());
         row("type:POINTlight", u"Desk lamp"_s);
         row("type:\"a\" name:oak", u"Oak"_s);
+        row("class:NODE oak", u"Oak"_s); // by what its type derives from
+        row("type:node oak", QString());
         row("transform", u"Transform"_s); // without a name
         row("field:diffuse", u"Oak, Été wall"_s);
         row("field:color wall", u"Été wall"_s);
