@@ -77,9 +77,9 @@ private:
     /// Turns off what the attached field doesn't allow, and the rest on again.
     void limitInputs();
 
-    OffInputs m_offInputs;
-    bool m_isReadOnly = false; // as the inputs were last limited
     KnFieldSensor* m_fieldSensor = nullptr; // owned, from load to unload
     const KnField* m_leftField = nullptr; // not owned; set only while deactivate() hides the frame
     QFrame* m_frame; // owned; has no parent but the dock that shows it
+    OffInputs m_offInputs; // those in the frame
+    bool m_isReadOnly = false; // as the inputs were last limited
 };
