@@ -68,6 +68,14 @@ QString otherText(const QVariant& value, const QString& shown)
         font.setPointSize(font.pointSize() + 1);
         return font.toString();
     }
+    case QMetaType::QPalette:
+        return QStringLiteral("Window #123456");
+    case QMetaType::QCursor:
+        return shown == u"CrossCursor" ? QStringLiteral("WaitCursor")
+                                       : QStringLiteral("CrossCursor");
+    case QMetaType::QSizePolicy:
+        return shown.startsWith(u"Fixed Expanding") ? QStringLiteral("Expanding Fixed")
+                                                    : QStringLiteral("Fixed Expanding");
     case QMetaType::QDate:
         return value.toDate().addDays(-1).toString(Qt::ISODate);
     case QMetaType::QTime:

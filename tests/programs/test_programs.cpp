@@ -99,7 +99,7 @@ private Q_SLOTS:
     void everySafePropertyIsEditedAndBack_data()
     {
         addPrograms();
-        addRow("designer", designer, 800);
+        addRow("designer", designer, 850);
         addRow("linguist", linguist, 400);
     }
     void everySafePropertyIsEditedAndBack()
