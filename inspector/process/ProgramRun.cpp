@@ -81,12 +81,11 @@ int ProgramRun::start(char** command, const QStringList& options, Output output)
     if (!objection.isEmpty())
         return fail(CannotRun, QStringLiteral("%1: %2").arg(name, objection));
     handOver(options, output);
-    // What the caller preloads stays, behind ours.
-    QByteArray preload = QFile::encodeName(library);
+    // What the caller preloads stays, and in front: a sanitizer, say, wants to be the first.
     const QByteArray callers = qgetenv("LD_PRELOAD");
-    if (!callers.isEmpty())
-        preload += ':' + callers;
-    qputenv("LD_PRELOAD", preload);
+    qputenv("LD_PRELOAD",
+        callers.isEmpty() ? QFile::encodeName(library)
+                          : callers + ':' + QFile::encodeName(library));
     execvp(*command, command);
     const int error = errno;
     return fail(
