@@ -3,24 +3,17 @@
 
 #include "KnFieldContainer.h"
 
-/// Keeps a node alive while code runs that may do anything: the setters and getters of programs.
-/// One that nobody holds yet stays as it is, since giving a reference back would destroy it.
+/// Keeps a node alive while code runs that may do anything: the setters and getters of programs. If
+/// everybody else has let go of it meanwhile, it goes when the event loop is back, since the
+/// callers aren't done with the field. One that nobody holds yet stays as it is, since giving a
+/// reference back would destroy it.
 class NodeHold {
 public:
-    explicit NodeHold(KnFieldContainer* node)
-        : m_node(node && node->getReferenceCount() > 0 ? node : nullptr)
-    {
-        if (m_node)
-            m_node->ref();
-    }
+    explicit NodeHold(KnFieldContainer* node);
     NodeHold(const NodeHold&) = delete;
     NodeHold& operator=(const NodeHold&) = delete;
-    ~NodeHold()
-    {
-        if (m_node)
-            m_node->unref();
-    }
+    ~NodeHold();
 
 private:
-    KnFieldContainer* const m_node;
+    KnFieldContainer* const m_node; // null for one that nobody holds
 };

@@ -307,6 +307,19 @@ private Q_SLOTS:
         QVERIFY(!crvNodeObject(m_node.get()));
     }
 
+    void aNodeOutlivesTheEditInWhichItIsLetGo()
+    {
+        KnField* const fuse = m_node->getField("fuse");
+        m_machine->m_blow = [this] {
+            m_machine.release()->deleteLater();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            m_node = KnNodePtr();
+        };
+        const KnReadErrorCapture capture;
+        fuse->set("TRUE");
+        QCOMPARE(fuse->getContainer()->getReferenceCount(), 1);
+    }
+
     void childrenComeGoAndDie()
     {
         const quint32 seed = QRandomGenerator::global()->generate();
