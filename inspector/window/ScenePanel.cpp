@@ -197,6 +197,13 @@ void ScenePanel::setTreeModel(SceneModel* model)
 {
     const std::unique_ptr<QItemSelectionModel> former(m_tree->selectionModel());
     m_tree->setModel(model);
+    // The header makes one of its own each time, before it gets the tree's.
+    const QHeaderView& header = *m_tree->header();
+    for (auto* selection :
+        header.findChildren<QItemSelectionModel*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (selection != header.selectionModel())
+            delete selection;
+    }
     m_expansion->follow();
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &ScenePanel::currentChanged);

@@ -70,6 +70,22 @@ private Q_SLOTS:
         InspectorTest::cleanup();
     }
 
+    /// Filter and scene take turns as the tree's model, for as long as the window lives.
+    void nothingIsLeftOfAFilter()
+    {
+        qsizetype objects = 0;
+        for (int i = 0; i < 3; ++i) {
+            QTest::keyClicks(m_line, u"Oak"_s);
+            QTRY_COMPARE(shownRows(*m_tree).size(), 2);
+            m_line->selectAll();
+            QTest::keyClick(m_line, Qt::Key_Delete);
+            QTRY_VERIFY(shownRows(*m_tree).size() > 2);
+            const qsizetype count = m_tree->findChildren<QObject*>().size();
+            QVERIFY(objects == 0 || count == objects);
+            objects = count;
+        }
+    }
+
     void words_data()
     {
         QTest::addColumn<QString>("text");

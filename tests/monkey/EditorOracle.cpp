@@ -79,11 +79,6 @@ bool isInUse(const QWidget* frame)
         if (slider->isSliderDown())
             return true;
     }
-    // A slider that doesn't write at each move may stand anywhere.
-    for (const QCheckBox* box : frame->findChildren<QCheckBox*>(u"m_notifyCheckBox"_s)) {
-        if (!box->isChecked())
-            return true;
-    }
     for (const QTableView* table : frame->findChildren<QTableView*>()) {
         if (!table->viewport()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).isEmpty())
             return true;
@@ -137,12 +132,26 @@ CrvFieldEditors* EditorOracle::referenceFor(const QString& name)
     return nullptr;
 }
 
+/// A slider that doesn't write at each move may stand anywhere, also once it writes again.
+bool EditorOracle::mayStandAnywhere(const KnField* field, const QWidget* frame)
+{
+    if (m_loose != field)
+        m_loose = nullptr;
+    for (const QCheckBox* box : frame->findChildren<QCheckBox*>(u"m_notifyCheckBox"_s)) {
+        if (!box->isChecked())
+            m_loose = field;
+    }
+    return m_loose;
+}
+
 QString EditorOracle::check(QWidget* window)
 {
     KnField* const field = CrvServices::getInstance()->getSelectedField();
     const auto* const dock = window->findChild<QDockWidget*>(u"Field Editor"_s);
     const QWidget* const shown = dock ? dock->widget() : nullptr;
-    if (!field || !shown || isInUse(shown))
+    if (!shown)
+        m_loose = nullptr;
+    if (!field || !shown || mayStandAnywhere(field, shown) || isInUse(shown))
         return {};
     const QString editor = editorWith(shown);
     CrvFieldEditors* const reference = referenceFor(editor);

@@ -33,8 +33,11 @@ private:
 
     CrvFieldEditors* referenceFor(const QString& name);
 
+    bool mayStandAnywhere(const KnField* field, const QWidget* frame);
+
     std::unique_ptr<QWidget> m_hidden; // holds the frames while they are compared
     std::unique_ptr<CrvDefaults> m_plugin;
     std::vector<Reference> m_references;
+    const KnField* m_loose = nullptr; // shown by such a slider; only compared
     int m_comparisons = 0;
 };

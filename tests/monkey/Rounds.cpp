@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "Rounds.h"
 
+#include "PlatformFault.h"
 #include "Shortening.h"
 
 #include <QCoreApplication>
@@ -64,7 +65,11 @@ Rounds::Outcome Rounds::play(quint64 seed, const std::vector<int>& steps) const
         process.waitForFinished(0);
     }
     outcome.output += QString::fromUtf8(process.readAll());
-    if (outcome.fault.isEmpty()
+    const bool isPlatforms = process.exitStatus() == QProcess::NormalExit
+        && process.exitCode() == PlatformFault::status;
+    if (isPlatforms)
+        outcome.output += u"\nbroken off, since the offscreen platform has crashed"_s;
+    else if (outcome.fault.isEmpty()
         && (process.exitStatus() == QProcess::CrashExit || process.exitCode() != 0)) {
         outcome.fault = reportIn(outcome.output);
         if (outcome.fault.isEmpty())

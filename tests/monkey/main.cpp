@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 // Uses the inspector as somebody who knows nothing of it: at random, with mouse and keys, while the
 // program around it does what programs do. See docs/testing.md.
+#include "PlatformFault.h"
 #include "Player.h"
 #include "Rounds.h"
 #include "Soak.h"
@@ -37,6 +38,7 @@ std::vector<int> numbersIn(const QString& list)
 int play(quint64 seed, const QString& list, int plantedStep)
 {
     qInstallMessageHandler(judge);
+    PlatformFault::ignore();
     {
         Stage stage(seed % 4 < 2 ? Stage::Role::Program : Stage::Role::Guest);
         Player player(stage, seed % 2 ? Player::Cast::PersonAlone : Player::Cast::PersonAndScene);
