@@ -25,13 +25,15 @@ double median(std::vector<double> times)
     return *middle;
 }
 
-TimePair compareInTurns(int turns, const Work& ours, const Work& rival)
+TimePair compareInTurns(int turns, const Work& ours, const Work& rival, const Work& cleanUp)
 {
     std::vector<double> ourTimes;
     std::vector<double> rivalTimes;
     for (int turn = 0; turn < turns; ++turn) {
         ourTimes.push_back(milliseconds(ours));
+        cleanUp();
         rivalTimes.push_back(milliseconds(rival));
+        cleanUp();
     }
     return { median(std::move(ourTimes)), median(std::move(rivalTimes)) };
 }

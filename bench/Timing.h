@@ -19,8 +19,10 @@ struct TimePair {
     double rival = 0;
 };
 
-/// Medians of runs of both in turns, so that what disturbs the machine meets both.
-TimePair compareInTurns(int turns, const Work& ours, const Work& rival);
+/// Medians of runs of both in turns, so that what disturbs the machine meets both. What `cleanUp`
+/// does after each run isn't timed.
+TimePair compareInTurns(
+    int turns, const Work& ours, const Work& rival, const Work& cleanUp = [] {});
 /// One line, from which scripts/benchmarks.sh reads how the time grows with the size that the last
 /// heading names.
 void printTimes(const char* name, const TimePair& times);

@@ -15,6 +15,7 @@
 #include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPixmapCache>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSet>
@@ -146,9 +147,11 @@ public:
         // An event loop that runs would do this by itself.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    /// Lets Qt drop the pixmaps of icons that are gone, which it does by a timer of 30 s, then 10.
+    /// Drops the pixmaps of icons that are gone, as Qt does by itself in the course of time, and
+    /// lets it forget their keys, which it does by a timer of 30 s, then 10.
     static void rest()
     {
+        QPixmapCache::clear();
         QEventLoop loop;
         QTimer::singleShot(std::chrono::seconds(41), &loop, &QEventLoop::quit);
         loop.exec();

@@ -116,6 +116,9 @@ void KnGroup::report(const KnGroupSensor::Change& change) const
 /// Whether this group is `root` or one of its descendants.
 bool KnGroup::isBelow(KnFieldContainer* root) const
 {
+    // Most nodes have nothing below them, and a walk takes memory.
+    if (!dynamic_cast<const KnGroup*>(root))
+        return false;
     KnGraphWalk walk;
     walk.add(root);
     while (const KnFieldContainer* const node = walk.next()) {
