@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <initializer_list>
 #include <map>
 #include <string>
@@ -17,7 +18,7 @@ struct Ratio {
 };
 
 /// Prints as usual and keeps the medians, or the only run, for the ratios; of a benchmark that runs
-/// at several sizes, those of the last.
+/// at several sizes, those of the largest.
 class RatioReporter : public benchmark::ConsoleReporter {
 public:
     RatioReporter()
@@ -30,18 +31,33 @@ public:
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs) {
             if (run.run_type == Run::RT_Iteration || run.aggregate_name == "median")
-                m_times[run.run_name.function_name] = run.GetAdjustedCPUTime();
+                keep(run);
         }
     }
 
     void printRatio(const Ratio& ratio)
     {
         if (m_times.contains(ratio.ours) && m_times.contains(ratio.rival))
-            std::printf("%s: %.2f\n", ratio.what, m_times[ratio.ours] / m_times[ratio.rival]);
+            std::printf(
+                "%s: %.2f\n", ratio.what, m_times[ratio.ours].time / m_times[ratio.rival].time);
     }
 
 private:
-    std::map<std::string, double> m_times;
+    struct Time {
+        long size = 0; // 0 for a benchmark without sizes
+        double time = 0;
+    };
+
+    /// Sizes come in any order, since benchmarks run in turns.
+    void keep(const Run& run)
+    {
+        const long size = std::atol(run.run_name.args.c_str());
+        Time& kept = m_times[run.run_name.function_name];
+        if (size >= kept.size)
+            kept = { size, run.GetAdjustedCPUTime() };
+    }
+
+    std::map<std::string, Time> m_times;
 };
 
 /// What `main` does: runs the benchmarks that the command line names, or all, and prints the ratios

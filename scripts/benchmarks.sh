@@ -89,9 +89,9 @@ growth() {
             unit = $2
             next
         }
-        /^[A-Za-z]+\/[0-9]+_median +[0-9.]+ [num]s/ {
+        /^[A-Za-z]+\/[0-9]+_median +[0-9.]+ [num]s +[0-9.]+ [num]s/ {
             split($1, side, "/")
-            note(side[1], side[2] + 0, $2)
+            note(side[1], side[2] + 0, $4) # processor time
             next
         }
         / x [0-9]+ .*: +[0-9.]+ ms/ {

@@ -36,6 +36,19 @@ private Q_SLOTS:
         QVERIFY(KbString::fromUtf16(any.data(), std::ssize(any)).toUtf16() == any);
     }
 
+    // Long runs of ASCII are taken in blocks; anything else may stand at any place in one.
+    void utf16SurvivesInLongTexts()
+    {
+        for (const std::u16string& odd : { std::u16string(u"\u00fc"), std::u16string(u"\u20ac"),
+                 std::u16string(u"\U0001F600"), std::u16string(1, char16_t(0xD800)) }) {
+            for (std::size_t before = 0; before < 70; ++before) {
+                const std::u16string text
+                    = std::u16string(before, u'a') + odd + std::u16string(40, u'z');
+                const KbString string = KbString::fromUtf16(text.data(), std::ssize(text));
+                QVERIFY2(string.toUtf16() == text, qPrintable(QString::number(before)));
+            }
+        }
+    }
     void brokenUtf8BecomesReplacements()
     {
         // A tail without a head, heads without their tails, longer than needed (two for one, three
