@@ -30,7 +30,7 @@ install(DIRECTORY platform/kestrix_base platform/kestrix platform/kestrix_gl pla
         FILES_MATCHING PATTERN "*.h"
         PATTERN CrvBuiltInProfiles.h EXCLUDE
         PATTERN CrvInputFile.h EXCLUDE
-        PATTERN CrvJsonReader.h EXCLUDE
+        PATTERN "CrvJson*.h" EXCLUDE
         PATTERN CrvPluginLibrary.h EXCLUDE
         PATTERN CrvProfileActivation.h EXCLUDE
         PATTERN CrvProfileReader.h EXCLUDE

@@ -5,7 +5,8 @@
 source_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=${CORVANE_JOBS:-$(nproc)}
 
-build_packages=(g++ cmake ninja-build ccache qt6-base-dev libbenchmark-dev)
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev rapidjson-dev
+    libbenchmark-dev)
 test_packages=(xvfb xauth openbox locales clang-format binutils
     designer-qt6 linguist-qt6 qt6-3d-dev libqt6opengl6-dev libgl1-mesa-dri)
 lint_packages=(clang-tidy)

@@ -83,15 +83,14 @@ bool CrvJsonReader::parse(QByteArray json)
     if (QByteArrayView(json).trimmed().isEmpty())
         return refuse({}, tr("the file is empty"));
     CrvJsonTree tree;
-    if (tree.parse(std::move(json)))
-        return build(tree.root());
-    // Qt's own parser has words for what is wrong.
-    json = tree.takeText();
     QJsonParseError error;
-    QJsonDocument::fromJson(json, &error);
-    // File, line and column, as a compiler says it.
-    m_fileName += QLatin1Char(':') + faultPlace(std::move(json));
-    return refuse({}, error.errorString());
+    if (!tree.parse(json, &error)) {
+        // File, line and column, as a compiler says it.
+        m_fileName += QLatin1Char(':') + faultPlace(std::move(json));
+        return refuse({}, error.errorString());
+    }
+    json.clear(); // it may be large, and the tree has values of its own
+    return build(tree.root());
 }
 
 bool CrvJsonReader::checkObject(const CrvJsonValue& value, const CrvJsonPlace& place)

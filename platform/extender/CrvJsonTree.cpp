@@ -1,55 +1,210 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CrvJsonTree.h"
 
-#include "CrvJsonParser.h"
+#include "CrvStrings.h"
 
 #include <QByteArrayView>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
-#include <algorithm>
-#include <utility>
+#include <rapidjson/allocators.h>
+#include <rapidjson/reader.h>
 
-bool CrvJsonTree::parse(QByteArray json)
+#include <array>
+#include <cstddef>
+
+namespace {
+
+/// Of objects and arrays in each other, as QJsonDocument takes them.
+constexpr std::size_t maxDepth = 1024;
+
+/// Gives RapidJSON a text, of which it decodes the strings as if it did so in place. They go behind
+/// each other elsewhere, so that the text stays what it is.
+class DecodingStream {
+public:
+    using Ch = char; // as RapidJSON calls it
+
+    /// There is room for as many bytes as the text has.
+    DecodingStream(QByteArrayView text, char* strings)
+        : m_first(text.begin())
+        , m_next(text.begin())
+        , m_end(text.end())
+        , m_put(strings)
+    {
+    }
+
+    char Peek() const { return m_next == m_end ? '\0' : *m_next; }
+    char Take() { return m_next == m_end ? '\0' : *m_next++; }
+    std::size_t Tell() const { return static_cast<std::size_t>(m_next - m_first); }
+    char* PutBegin() { return m_put; }
+    void Put(char c) { *m_put++ = c; }
+    std::size_t PutEnd(const char* begin) { return static_cast<std::size_t>(m_put - begin); }
+
+private:
+    const char* m_first;
+    const char* m_next;
+    const char* m_end;
+    char* m_put;
+};
+
+} // namespace
+
+template <>
+struct rapidjson::StreamTraits<DecodingStream> {
+    enum { copyOptimization = 1 };
+};
+
+/// Takes down in a tree what a parser comes across, and is called as RapidJSON calls its handlers.
+class CrvJsonTree::Builder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Builder> {
+public:
+    explicit Builder(CrvJsonTree& tree)
+        : m_tree(tree)
+    {
+        m_tree.m_marks.clear();
+        m_tree.m_numbers.clear();
+    }
+
+    bool Null() { return add(Kind::Null); }
+    bool Bool(bool value) { return add(value ? Kind::True : Kind::False); }
+    bool Int(int number) { return Double(number); }
+    bool Uint(unsigned number) { return Double(number); }
+    bool Int64(std::int64_t number) { return Double(static_cast<double>(number)); }
+    bool Uint64(std::uint64_t number) { return Double(static_cast<double>(number)); }
+    bool Double(double number)
+    {
+        m_tree.m_numbers.push_back(number);
+        return add(Kind::Number, m_tree.m_numbers.size() - 1);
+    }
+    /// One that is among the tree's strings.
+    bool String(const char* string, std::size_t size, bool)
+    {
+        return add(
+            Kind::String, static_cast<std::size_t>(string - m_tree.m_strings.constData()), size);
+    }
+    bool StartObject() { return open(Kind::Object); }
+    bool EndObject(std::size_t members) { return close(members); }
+    bool StartArray() { return open(Kind::Array); }
+    bool EndArray(std::size_t elements) { return close(elements); }
+
+    /// Takes down a value that Qt has parsed.
+    void copy(const QJsonValue& value)
+    {
+        switch (value.type()) {
+        case QJsonValue::Object: {
+            const QJsonObject object = value.toObject();
+            StartObject();
+            for (auto it = object.begin(); it != object.end(); ++it) {
+                copy(it.key());
+                copy(it.value());
+            }
+            EndObject(static_cast<std::size_t>(object.size()));
+            break;
+        }
+        case QJsonValue::Array: {
+            const QJsonArray array = value.toArray();
+            StartArray();
+            for (const QJsonValue element : array)
+                copy(element);
+            EndArray(static_cast<std::size_t>(array.size()));
+            break;
+        }
+        case QJsonValue::String: {
+            const std::string utf8 = toKbString(value.toString()).toUtf8();
+            const auto start = static_cast<std::size_t>(m_tree.m_strings.size());
+            m_tree.m_strings.append(utf8.data(), static_cast<qsizetype>(utf8.size()));
+            add(Kind::String, start, utf8.size());
+            break;
+        }
+        case QJsonValue::Double:
+            Double(value.toDouble());
+            break;
+        case QJsonValue::Bool:
+            Bool(value.toBool());
+            break;
+        default:
+            Null();
+        }
+    }
+
+private:
+    bool add(Kind kind, std::size_t start = 0, std::size_t size = 0)
+    {
+        const auto next = static_cast<std::uint32_t>(m_tree.m_marks.size() + 1);
+        m_tree.m_marks.push_back(
+            { static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(size), next, kind });
+        return true;
+    }
+    bool open(Kind kind)
+    {
+        m_open.push_back(m_tree.m_marks.size());
+        return add(kind) && m_open.size() <= maxDepth;
+    }
+    bool close(std::size_t count)
+    {
+        Mark& mark = m_tree.m_marks[m_open.back()];
+        mark.size = static_cast<std::uint32_t>(count);
+        mark.next = static_cast<std::uint32_t>(m_tree.m_marks.size());
+        m_open.pop_back();
+        return true;
+    }
+
+    CrvJsonTree& m_tree;
+    std::vector<std::size_t> m_open; // marks of objects and arrays, the innermost one at the end
+};
+
+// RapidJSON is stricter than Qt's parser, which takes any character behind a backslash, and half of
+// a surrogate pair, as a text in a saved scene may have it. Nobody has to wait for such a file.
+bool CrvJsonTree::parse(const QByteArray& json, QJsonParseError* error)
 {
-    m_json = std::move(json);
-    m_marks.clear();
-    return CrvJsonParser(*this).run();
+    return parseFast(json) || parseWithQt(json, error);
+}
+
+bool CrvJsonTree::parseFast(const QByteArray& json)
+{
+    QByteArrayView text(json);
+    constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
+    if (text.startsWith(byteOrderMark))
+        text = text.sliced(byteOrderMark.size());
+    if (!text.isValidUtf8())
+        return false;
+    m_strings = QByteArray(text.size(), Qt::Uninitialized);
+    DecodingStream stream(text, m_strings.data());
+    Builder builder(*this);
+
+    // RapidJSON doesn't notice that there is no memory, so it has all that it needs from here: two
+    // numbers for each level.
+    constexpr std::size_t stackSize = 2 * sizeof(rapidjson::SizeType) * (maxDepth + 1);
+    alignas(std::max_align_t) std::array<char, stackSize + 64> room;
+    rapidjson::MemoryPoolAllocator<> allocator(room.data(), room.size());
+    rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<>>
+        reader(&allocator, stackSize);
+    constexpr unsigned flags = rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag;
+    const bool isParsed = !reader.Parse<flags>(stream, builder).IsError();
+    // To RapidJSON a zero is the end of the text.
+    return isParsed && stream.Tell() == static_cast<std::size_t>(text.size())
+        && (root().isObject() || root().isArray());
+}
+
+bool CrvJsonTree::parseWithQt(const QByteArray& json, QJsonParseError* error)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(json, error);
+    if (document.isNull())
+        return false;
+    m_strings.clear();
+    Builder(*this).copy(
+        document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array()));
+    return true;
 }
 
 CrvJsonValue CrvJsonTree::root() const { return { this, 0 }; }
 
-bool CrvJsonValue::isNumber(double number) const
-{
-    if (!is(Kind::Other))
-        return false;
-    bool isNumber = false;
-    const std::string_view text = bytes();
-    return QByteArrayView(text.data(), static_cast<qsizetype>(text.size())).toDouble(&isNumber)
-        == number
-        && isNumber;
-}
-
-KbString CrvJsonValue::toKbString() const
-{
-    if (is(Kind::String))
-        return KbString(bytes());
-    const std::u16string text = unescaped();
-    return KbString::fromUtf16(text.data(), static_cast<std::ptrdiff_t>(text.size()));
-}
-
-QString CrvJsonValue::toQString() const
-{
-    if (!is(Kind::String))
-        return QString::fromStdU16String(unescaped());
-    const std::string_view text = bytes();
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+QString CrvJsonValue::toQString() const { return ::toQString(toKbString()); }
 
 bool CrvJsonValue::equals(QLatin1String text) const
 {
-    const std::string_view ascii(text.data(), static_cast<std::size_t>(text.size()));
-    if (is(Kind::EscapedString))
-        return toKbString().toUtf8() == ascii;
-    return is(Kind::String) && bytes() == ascii;
+    return isString()
+        && string() == std::string_view(text.data(), static_cast<std::size_t>(text.size()));
 }
 
 CrvJsonValue CrvJsonValue::member(QLatin1String name) const
@@ -88,48 +243,4 @@ CrvJsonValue::Iterator& CrvJsonValue::Iterator::operator++()
 {
     m_index = m_tree->m_marks[m_index + (m_named ? 1 : 0)].next;
     return *this;
-}
-
-/// A half of a surrogate pair stays what it is.
-std::u16string CrvJsonValue::unescaped() const
-{
-    if (!is(Kind::EscapedString))
-        return {};
-    const std::string_view text = bytes();
-    std::u16string units;
-    units.reserve(text.size());
-    for (std::size_t i = 0; i < text.size();) {
-        const std::size_t backslash = std::min(text.find('\\', i), text.size());
-        if (backslash > i)
-            units += KbString(text.substr(i, backslash - i)).toUtf16();
-        if (backslash == text.size())
-            break;
-        const char escaped = text[backslash + 1];
-        i = backslash + 2;
-        switch (escaped) {
-        case 'b':
-            units += u'\b';
-            break;
-        case 'f':
-            units += u'\f';
-            break;
-        case 'n':
-            units += u'\n';
-            break;
-        case 'r':
-            units += u'\r';
-            break;
-        case 't':
-            units += u'\t';
-            break;
-        case 'u':
-            units
-                += static_cast<char16_t>(QByteArrayView(text.data() + i, 4).toUShort(nullptr, 16));
-            i += 4;
-            break;
-        default:
-            units += static_cast<unsigned char>(escaped); // as in Latin-1
-        }
-    }
-    return units;
 }

@@ -79,7 +79,7 @@ void compareWithQt(const QByteArray& text)
     const QJsonDocument expected = QJsonDocument::fromJson(text, &error);
     const bool isJson = error.error == QJsonParseError::NoError;
     CrvJsonTree tree;
-    const bool parsed = tree.parse(text);
+    const bool parsed = tree.parse(text, &error);
     const QJsonValue root
         = expected.isArray() ? QJsonValue(expected.array()) : QJsonValue(expected.object());
     if (parsed != isJson || (parsed && !isSame(tree.root(), root)))
@@ -155,7 +155,7 @@ private Q_SLOTS:
         for (const QByteArray& prefix : { QByteArray(), QByteArray("\xEF\xBB\xBF") })
             compareWithQt(prefix + text);
         // And after any small mistake.
-        const QByteArray put("\"\\{}[]:,0-. e\x01n\x80\xC0\xE0\xED\xA0\xF0\xF4\xFF", 22);
+        const QByteArray put("\"\\{}[]:,0-. e\x01n\x80\xC0\xE0\xED\xA0\xF0\xF4\xFF\0", 24);
         for (qsizetype i = 0; i < text.size(); ++i) {
             compareWithQt(QByteArray(text).remove(i, 1));
             compareWithQt(text.left(i));
@@ -167,6 +167,8 @@ private Q_SLOTS:
         for (const char* const number : { "0", "-0", "01", "1.5e+3", "1E-5", "1.", ".5", "-", "+1",
                  "1e", "1e999", "-.5", "1.e1", "00", "0x1", "inf" })
             compareWithQt('[' + QByteArray(number) + ']');
+        for (const int depth : { 1024, 1025 })
+            compareWithQt(QByteArray(depth, '[') + QByteArray(depth, ']'));
     }
 
     void notReadable_data()
