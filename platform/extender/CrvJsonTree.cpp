@@ -13,6 +13,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 
 namespace {
 
@@ -35,7 +36,7 @@ public:
     }
 
     char Peek() const { return m_next == m_end ? '\0' : *m_next; }
-    char Take() { return m_next == m_end ? '\0' : *m_next++; }
+    char Take() { return *m_next++; } // RapidJSON peeks first, so never past the end
     std::size_t Tell() const { return static_cast<std::size_t>(m_next - m_first); }
     char* PutBegin() { return m_put; }
     void Put(char c) { *m_put++ = c; }
@@ -55,7 +56,7 @@ struct rapidjson::StreamTraits<DecodingStream> {
     enum { copyOptimization = 1 };
 };
 
-/// Takes down in a tree what a parser comes across, and is called as RapidJSON calls its handlers.
+/// Notes in a tree what a parser comes across. RapidJSON calls it as its handler.
 class CrvJsonTree::Builder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Builder> {
 public:
     explicit Builder(CrvJsonTree& tree)
@@ -87,7 +88,7 @@ public:
     bool StartArray() { return open(Kind::Array); }
     bool EndArray(std::size_t elements) { return close(elements); }
 
-    /// Takes down a value that Qt has parsed.
+    /// Notes a value that Qt has parsed, with all that is in it.
     void copy(const QJsonValue& value)
     {
         switch (value.type()) {
@@ -153,8 +154,8 @@ private:
     std::vector<std::size_t> m_open; // marks of objects and arrays, the innermost one at the end
 };
 
-// RapidJSON is stricter than Qt's parser, which takes any character behind a backslash, and half of
-// a surrogate pair, as a text in a saved scene may have it. Nobody has to wait for such a file.
+// RapidJSON is the stricter one: it refuses half of a surrogate pair, which a saved scene may have
+// in a text, and control characters in strings. Such a file is rare enough to be parsed twice.
 bool CrvJsonTree::parse(const QByteArray& json, QJsonParseError* error)
 {
     return parseFast(json) || parseWithQt(json, error);
@@ -168,14 +169,16 @@ bool CrvJsonTree::parseFast(const QByteArray& json)
         text = text.sliced(byteOrderMark.size());
     if (!text.isValidUtf8())
         return false;
+    // Enough marks for most scenes; what isn't used takes no memory.
+    m_marks.reserve(static_cast<std::size_t>(text.size()) / sizeof(Mark));
     m_strings = QByteArray(text.size(), Qt::Uninitialized);
     DecodingStream stream(text, m_strings.data());
     Builder builder(*this);
 
-    // RapidJSON doesn't notice that there is no memory, so it has all that it needs from here: two
-    // numbers for each level.
+    // RapidJSON doesn't check whether it gets memory, so it has all that it needs from here: two
+    // numbers for each level, and what the allocator keeps for itself.
     constexpr std::size_t stackSize = 2 * sizeof(rapidjson::SizeType) * (maxDepth + 1);
-    alignas(std::max_align_t) std::array<char, stackSize + 64> room;
+    alignas(std::max_align_t) std::array<char, stackSize + 256> room;
     rapidjson::MemoryPoolAllocator<> allocator(room.data(), room.size());
     rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<>>
         reader(&allocator, stackSize);

@@ -61,10 +61,10 @@ bool isSame(const CrvJsonValue& value, const QJsonValue& expected)
         for (auto it = value.begin(); it != end; ++it)
             names.insert(it.name().toQString());
         for (const QString& name : names) {
-            const QByteArray latin1 = name.toLatin1();
+            const QByteArray utf8 = name.toUtf8();
+            const bool isAscii = utf8.size() == name.size();
             if (!object.contains(name)
-                || (QString::fromLatin1(latin1) == name
-                    && !isSame(value.member(QLatin1String(latin1)), object.value(name))))
+                || (isAscii && !isSame(value.member(QLatin1String(utf8)), object.value(name))))
                 return false;
         }
         return value.isObject() && names.size() == object.size();
@@ -144,8 +144,8 @@ private Q_SLOTS:
     {
         addTextRows({
             { "structure", " {'a':[1,{},[],{'b':null}] , '':[true,false],'a':2}\n" },
-            { "escapes",
-                "['\\'\\\\\\/\\b\\f\\n\\r\\t\\q','\\u00e9\\ud83d\\ude00\\uD800x','\\u12G4']" },
+            { "escapes", "['\\'\\\\\\/\\b\\f\\n\\r\\t','\\u00e9\\ud83d\\ude00\\uDC00x']" },
+            { "not quite JSON", "{'\\q':['\\uD800x',-1.5,{}],'a\n':[true,false,null],'':{'b':1}}" },
             { "utf-8", "['\u00fc\u20ac\U0001F600\u0800\uFFFF\U0010FFFF']" },
         });
     }
