@@ -8,10 +8,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <rapidjson/allocators.h>
 #include <rapidjson/reader.h>
 
-#include <array>
 #include <cstddef>
 #include <string>
 
@@ -175,15 +173,10 @@ bool CrvJsonTree::parseFast(const QByteArray& json)
     DecodingStream stream(text, m_strings.data());
     Builder builder(*this);
 
-    // RapidJSON doesn't check whether it gets memory, so it has all that it needs from here: two
-    // numbers for each level, and what the allocator keeps for itself.
-    constexpr std::size_t stackSize = 2 * sizeof(rapidjson::SizeType) * (maxDepth + 1);
-    alignas(std::max_align_t) std::array<char, stackSize + 256> room;
-    rapidjson::MemoryPoolAllocator<> allocator(room.data(), room.size());
-    rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<>>
-        reader(&allocator, stackSize);
-    constexpr unsigned flags = rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag;
-    const bool isParsed = !reader.Parse<flags>(stream, builder).IsError();
+    // RapidJSON doesn't check whether it gets memory, but in place it needs none. It recurses, no
+    // deeper than the builder lets it.
+    rapidjson::Reader reader;
+    const bool isParsed = !reader.Parse<rapidjson::kParseInsituFlag>(stream, builder).IsError();
     // To RapidJSON a zero is the end of the text.
     return isParsed && stream.Tell() == static_cast<std::size_t>(text.size())
         && (root().isObject() || root().isArray());
