@@ -79,7 +79,13 @@ const TextForm& textFormOf(QMetaType type)
     return type.flags().testFlag(QMetaType::PointerToQObject) ? objectForm() : descriptionForm();
 }
 
-QString valueText(const QVariant& value) { return textFormOf(value.metaType()).write(value); }
+QString valueText(const QVariant& value)
+{
+    // In quotes, and on one line.
+    if (value.metaType() == QMetaType::fromType<QString>())
+        return describe(value);
+    return textFormOf(value.metaType()).write(value);
+}
 
 const TextForm& objectForm()
 {

@@ -26,7 +26,7 @@ struct TextForm {
 /// The form for values of a type: its own, that of enumerations, that of pointers to objects, or
 /// else a description, which can't be read back.
 const TextForm& textFormOf(QMetaType type);
-/// A value of any type as text, by the form that its type has.
+/// A value of any type as text for people: a text in quotes, others by the form of their type.
 QString valueText(const QVariant& value);
 /// For a pointer to an object: its class and name. It can't be read back.
 const TextForm& objectForm();

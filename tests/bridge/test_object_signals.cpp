@@ -99,7 +99,7 @@ private Q_SLOTS:
             u"pointed(Speaker \"radio\")"_s);
         row(
             "painted(QColor,QVariant)", [](Speaker* s) { Q_EMIT s->painted(Qt::red, 5); },
-            u"painted(QColor(ARGB 1, 1, 0, 0), 5)"_s);
+            u"painted(#ff0000, 5)"_s);
         row(
             "odd(Unknown*)", [](Speaker* s) { Q_EMIT s->odd(nullptr); }, u"odd(Unknown*)"_s);
     }

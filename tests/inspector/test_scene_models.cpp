@@ -296,6 +296,7 @@ private Q_SLOTS:
         model.setNode(material);
         const QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
         const int row = model.rowOf(&material->transparency);
+        model.index(row, FieldListModel::ValueColumn).data(); // rows are watched once they are seen
         material->transparency.setValue(0.25F);
         material->transparency.setIgnored(1);
         KnSensorQueue::getInstance().process();
