@@ -1,13 +1,14 @@
 #!/bin/bash
 # SPDX-License-Identifier: BSD-3-Clause
 # Installs what is missing, builds everything and runs all checks: the format, lint of what changed,
-# the tests of the release build, the same under the address, leak and undefined-behaviour
-# sanitizers, and those of several threads under the thread sanitizer. Goes on behind a failure; ends
-# with a summary.
+# the tests of the release build, its binary interface against the last release, the same tests under
+# the address, leak and undefined-behaviour sanitizers, and those of several threads under the thread
+# sanitizer. Goes on behind a failure; ends with a summary.
 set -u
 . "$(dirname "${BASH_SOURCE[0]}")/scripts/common.sh"
 
-install_packages "${build_packages[@]}" "${test_packages[@]}" "${lint_packages[@]}"
+install_packages "${build_packages[@]}" "${test_packages[@]}" "${lint_packages[@]}" \
+    "${abi_packages[@]}"
 leave_root "${BASH_SOURCE[0]}" "$@"
 choose_build_root
 logs=$build_root/test_logs
@@ -49,7 +50,7 @@ suite() {
 
 step format "$source_dir/scripts/check_format.sh"
 step lint "$source_dir/scripts/lint.sh" --minutes 6
-suite release
+suite release && step abi "$source_dir/scripts/check_abi.sh"
 suite asan
 suite tsan --target corvane_tsan_tests -L tsan
 

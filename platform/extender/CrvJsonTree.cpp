@@ -33,12 +33,14 @@ public:
     {
     }
 
+    // NOLINTBEGIN(readability-identifier-naming): RapidJSON calls them by these names
     char Peek() const { return m_next == m_end ? '\0' : *m_next; }
     char Take() { return *m_next++; } // RapidJSON peeks first, so never past the end
     std::size_t Tell() const { return static_cast<std::size_t>(m_next - m_first); }
     char* PutBegin() { return m_put; }
     void Put(char c) { *m_put++ = c; }
     std::size_t PutEnd(const char* begin) { return static_cast<std::size_t>(m_put - begin); }
+    // NOLINTEND(readability-identifier-naming)
 
 private:
     const char* m_first;
@@ -51,6 +53,7 @@ private:
 
 template <>
 struct rapidjson::StreamTraits<DecodingStream> {
+    // NOLINTNEXTLINE(readability-identifier-naming): as above
     enum { copyOptimization = 1 };
 };
 
@@ -219,9 +222,9 @@ CrvJsonValue CrvJsonValue::member(QLatin1String name) const
 CrvJsonValue::Iterator CrvJsonValue::begin() const
 {
     Iterator it;
+    it.m_tree = m_tree;
     if (!isObject() && !isArray())
         return it;
-    it.m_tree = m_tree;
     it.m_index = m_index + 1;
     it.m_named = isObject();
     return it;
