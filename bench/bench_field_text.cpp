@@ -22,6 +22,7 @@ public:
         std::mt19937 random(1); // NOLINT: the same points each time
         std::uniform_real_distribution<float> coordinate(-500.0F, 500.0F);
         std::vector<KbVec3f> values;
+        values.reserve(static_cast<std::size_t>(state.range()));
         for (int i = 0; i < state.range(); ++i)
             values.emplace_back(coordinate(random), coordinate(random), coordinate(random));
         m_field.setValues(0, int(values.size()), values.data());
