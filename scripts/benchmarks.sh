@@ -15,7 +15,8 @@ set -uo pipefail
 
 arguments=("$@")
 declare -A quick=([bench_arrays]="1" [bench_console]="2000 20000" [bench_image]="1"
-    [bench_live]="30 1" [bench_load]="5" [bench_scene_files]="1" [bench_scene_filter]="1"
+    [bench_live]="30 1" [bench_load]="5" [bench_program]="1"
+    [bench_scene_files]="1" [bench_scene_filter]="1"
     [bench_scene_tree]="1" [bench_selection]="1" [bench_start]="1" [bench_view]="3"
     [bench_field_text]="--benchmark_min_time=0.01" [bench_objects]="--benchmark_min_time=0.01"
     [bench_undo]="--benchmark_min_time=0.01" [bench_watch]="--benchmark_min_time=0.01")
