@@ -12,9 +12,11 @@
 #include <QLibraryInfo>
 #include <QStandardPaths>
 
-#include <array>
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <thread>
@@ -26,6 +28,7 @@ namespace {
 constexpr const char* defaultProgram = "designer";
 constexpr const char* objectOfDefault = "MDIWindow"; // its main window
 constexpr const char* asEmptyProgram = "--as-empty-program";
+constexpr int longestIdle = 20; // seconds, one for each turn
 constexpr double frame = 1000.0 / 60; // milliseconds
 
 Command inspected(std::vector<std::string> words, const std::string& preload = {},
@@ -56,12 +59,12 @@ struct Contender {
 class Start {
 public:
     Start(const std::string& program, const std::string& self)
-        : m_bare { { { program }, CORVANE_FIRST_FRAME_PROBE } }
-        , m_loaded { { { program }, CORVANE_FIRST_FRAME_PROBE ":" CORVANE_RUN_LIBRARY } }
-        , m_inspected { inspected({ program }, CORVANE_FIRST_FRAME_PROBE) }
-        , m_empty { { { self, asEmptyProgram }, {} } }
-        , m_emptyLoaded { { { self, asEmptyProgram }, CORVANE_RUN_LIBRARY } }
-        , m_emptyInspected { inspected({ self, asEmptyProgram }) }
+        : m_bare { { { program }, firstFrame } }
+        , m_loaded { { { program }, firstFrameAndLibrary } }
+        , m_inspected { inspected({ program }, firstFrame) }
+        , m_empty { { { self, asEmptyProgram }, firstFrame } }
+        , m_emptyLoaded { { { self, asEmptyProgram }, firstFrameAndLibrary } }
+        , m_emptyInspected { inspected({ self, asEmptyProgram }, firstFrame) }
     {
     }
 
@@ -93,6 +96,11 @@ public:
     }
 
 private:
+    // Preloaded in the empty program, too, for the cost of preloading it.
+    static constexpr const char* firstFrame = CORVANE_FIRST_FRAME_PROBE;
+    static constexpr const char* firstFrameAndLibrary
+        = CORVANE_FIRST_FRAME_PROBE ":" CORVANE_RUN_LIBRARY;
+
     /// What a start takes longer than in the program that does nothing but load Qt's libraries;
     /// turn by turn, since the machine may be busier in one than in another.
     void printBeyond(const char* of, const Contender& ours, const Contender& loading,
@@ -118,7 +126,7 @@ private:
 void rest(std::chrono::milliseconds time) { std::this_thread::sleep_for(time); }
 
 /// Programs that do nothing, side by side, so that what disturbs the machine meets all of them.
-void measureIdle(const std::string& program, bool isDefault)
+void measureIdle(const std::string& program, bool isDefault, int seconds)
 {
     using namespace std::chrono_literals;
     struct Idler {
@@ -134,6 +142,9 @@ void measureIdle(const std::string& program, bool isDefault)
     };
     add("plain", false, { { program }, {} });
     add("inspected", true, inspected({ program }));
+    // A node that has none of the program's properties.
+    add("nothing of it on the screen", true,
+        inspected({ program }, {}, { "--select", "Objects without a parent" }));
     if (isDefault)
         add("its main window selected", true,
             inspected({ program }, {}, { "--select", objectOfDefault }));
@@ -154,24 +165,24 @@ void measureIdle(const std::string& program, bool isDefault)
         idler.time = idler.run->processorTime();
         idler.wakeUps = idler.run->wakeUps();
     }
-    constexpr int seconds = 20;
     rest(std::chrono::seconds(seconds));
     std::printf("idle, for %d seconds\n", seconds);
     for (const Idler& idler : idlers) {
-        std::printf("  %-34s %10.3f ms a second, wakes up %.2f times a second\n", idler.title,
-            (idler.run->processorTime() - idler.time) / seconds,
-            static_cast<double>(idler.run->wakeUps() - idler.wakeUps) / seconds);
+        std::printf("  %-34s %10.3f ms a second, wakes up %.2f times a second, %.0f ms until "
+                    "then\n",
+            idler.title, (idler.run->processorTime() - idler.time) / seconds,
+            static_cast<double>(idler.run->wakeUps() - idler.wakeUps) / seconds, idler.time);
     }
 }
 
-void printObject(const char* what, const std::vector<OpenedObject>& runs)
+/// The run in the middle.
+void printObject(const char* what, std::vector<OpenedObject> runs)
 {
-    std::vector<double> times;
-    for (const OpenedObject& object : runs)
-        times.push_back(object.time);
-    const double time = median(times);
+    const auto middle = runs.begin() + static_cast<std::ptrdiff_t>(runs.size() / 2);
+    std::nth_element(runs.begin(), middle, runs.end(),
+        [](const auto& left, const auto& right) { return left.time < right.time; });
     std::printf("  %s, %s with %d fields: %.3f ms, %.1f %% of a frame\n", what,
-        runs.back().className.c_str(), runs.back().fields, time, 100 * time / frame);
+        middle->className.c_str(), middle->fields, middle->time, 100 * middle->time / frame);
 }
 
 void measureObjects(const std::string& program, int turns)
@@ -223,14 +234,14 @@ int main(int argc, char** argv)
     const std::string program = QFileInfo(file).canonicalFilePath().toStdString();
     const int turns = numberArgument(argc, argv, 1, 15);
 
-    Start start(program, argv[0]);
+    Start start(program, std::filesystem::canonical("/proc/self/exe"));
     start.run();
     start.forget();
     for (int turn = 0; turn < turns; ++turn)
         start.run();
     start.print("by the clock", &RunCost::clock);
     start.print("processor time", &RunCost::processor);
-    measureIdle(program, argc <= 2);
+    measureIdle(program, name == QLatin1String(defaultProgram), std::min(turns, longestIdle));
     measureObjects(program, turns);
     return 0;
 }
