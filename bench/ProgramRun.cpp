@@ -78,9 +78,10 @@ void ProgramRun::become(const Command& command) const
     // Both hold for whatever the process becomes.
     alarm(patience);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
+    std::vector<std::string> texts = command.words;
     std::vector<char*> words;
-    for (const std::string& word : command.words)
-        words.push_back(const_cast<char*>(word.c_str()));
+    for (std::string& text : texts)
+        words.push_back(text.data());
     words.push_back(nullptr);
     execv(words.front(), words.data());
     _exit(127);
@@ -98,12 +99,22 @@ RunCost ProgramRun::finish()
     return { clock, inMilliseconds(usage.ru_utime) + inMilliseconds(usage.ru_stime) };
 }
 
+/// Whoever looks at a process that has ended would take it for one at rest.
+void ProgramRun::expectLife() const
+{
+    siginfo_t info {};
+    const int options = WEXITED | WNOHANG | WNOWAIT;
+    if (waitid(P_PID, static_cast<id_t>(m_process), &info, options) != 0 || info.si_pid != 0)
+        fail(m_name, "has ended too early");
+}
+
 double ProgramRun::processorTime() const
 {
+    expectLife();
     clockid_t clock {};
     timespec time {};
     if (clock_getcpuclockid(m_process, &clock) != 0 || clock_gettime(clock, &time) != 0)
-        fail(m_name, "has ended too early");
+        fail(m_name, "has no clock");
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
@@ -123,6 +134,7 @@ long ProgramRun::wakeUps() const
 
 bool ProgramRun::hasLoaded(const std::string& name) const
 {
+    expectLife();
     std::ifstream maps(folderOf(m_process) + "/maps");
     for (std::string line; std::getline(maps, line);) {
         if (line.find(name) != std::string::npos)

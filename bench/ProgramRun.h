@@ -31,6 +31,8 @@ public:
     /// Waits for the end; what it took from the start on. Ends this process if the other one fails.
     RunCost finish();
 
+    // What can be asked while it runs; if it has ended, so does this process.
+
     /// Of all its threads until now, in milliseconds.
     double processorTime() const;
     /// How often its threads have gone to sleep and so were woken up.
@@ -43,6 +45,7 @@ public:
 
 private:
     [[noreturn]] void become(const Command& command) const;
+    void expectLife() const;
 
     const QTemporaryDir m_home;
     const std::string m_name;
