@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "WatchList.h"
 
+#include "ColorSwatch.h"
 #include "CrvServices.h"
 #include "FieldNumbers.h"
 #include "KnField.h"
@@ -175,7 +176,7 @@ QVariant WatchList::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return toolTipText(text(row, index.column()));
     case Qt::DecorationRole:
-        return isName ? watchColor(row.value->color(), m_palette) : QVariant();
+        return isName ? colorSwatch(watchColor(row.value->color(), m_palette)) : QVariant();
     case Qt::TextAlignmentRole:
         return isName ? QVariant() : QVariant(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::FontRole:

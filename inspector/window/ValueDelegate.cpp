@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ValueDelegate.h"
 
+#include "ColorSwatch.h"
 #include "FieldListModel.h"
 
-#include <QIcon>
 #include <QPainter>
 
 namespace {
@@ -24,23 +24,12 @@ QColor litSelection(const QPalette& palette, double light)
     return darker ? plain.darker(percent) : plain.lighter(percent);
 }
 
-// A pixmap of its own frames the color, which might otherwise be that of the row.
-QIcon swatch(const QColor& color, const QStyleOptionViewItem& option)
+// The frame sets off a color that is the row's own.
+QIcon framedSwatch(const QColor& color, const QPalette& palette)
 {
-    const double ratio = option.widget ? option.widget->devicePixelRatioF() : 1.0;
-    const QSize size(option.fontMetrics.height() * 3 / 2, option.fontMetrics.ascent());
-    QPixmap pixmap(size * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.fillRect(QRect(QPoint(), size), color);
-    QColor frame = option.palette.color(QPalette::Text);
+    QColor frame = palette.color(QPalette::Text);
     frame.setAlphaF(0.5F);
-    painter.setPen(frame);
-    painter.drawRect(0, 0, size.width() - 1, size.height() - 1);
-    QIcon icon(pixmap);
-    icon.addPixmap(pixmap, QIcon::Selected); // which would be tinted otherwise
-    return icon;
+    return colorSwatch(color, frame);
 }
 
 /// A closed lock in the middle of `place`, drawn in the colour of the text.
@@ -101,8 +90,9 @@ void ValueDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIn
     QStyledItemDelegate::initStyleOption(option, index);
     const auto own = index.data(Qt::DecorationRole).value<QColor>();
     if (own.isValid()) {
-        option->icon = swatch(own, *option);
-        option->decorationSize = option->icon.availableSizes().constFirst();
+        option->icon = framedSwatch(own, option->palette);
+        option->decorationSize
+            = { option->fontMetrics.height() * 3 / 2, option->fontMetrics.ascent() };
     }
     if (index.data(FieldListModel::LinkRole).toBool())
         option->palette.setBrush(QPalette::Text, option->palette.link());

@@ -15,6 +15,8 @@
 #include <QDrag>
 #include <QDragEnterEvent>
 #include <QLineEdit>
+#include <QPixmapCache>
+#include <QScopeGuard>
 #include <QWheelEvent>
 
 /// Numbers of fields over time.
@@ -278,6 +280,31 @@ private Q_SLOTS:
         QTRY_COMPARE(row(0), u"Spark.intensity (gone) 0.5 0.5 1"_s);
         QCOMPARE(kinds(0), u"WWG"_s);
         QCOMPARE(row(1).section(u' ', 0, 1), u"Desk lamp.intensity"_s);
+    }
+
+    void paintingKeepsTheProcessPixmaps_data()
+    {
+        QTest::addColumn<QString>("view");
+        QTest::newRow("fields") << u"fieldList"_s;
+        QTest::newRow("watched") << u"watchTable"_s;
+    }
+    // The cache is the process's, and what it put there must not make room for swatches.
+    void paintingKeepsTheProcessPixmaps()
+    {
+        QFETCH(QString, view);
+        watch(u"intensity"_s);
+        m_inspector->clickField(u"Desk lamp"_s, u"color"_s);
+        QWidget* const painted = m_inspector->view(view)->viewport();
+        painted->grab();
+        const auto restore = qScopeGuard(
+            [limit = QPixmapCache::cacheLimit()] { QPixmapCache::setCacheLimit(limit); });
+        QPixmapCache::setCacheLimit(128); // kB
+        QPixmap own(16, 16);
+        own.fill(Qt::black);
+        QVERIFY(QPixmapCache::insert(u"the process's own"_s, own));
+        for (int i = 0; i < 200; ++i)
+            painted->grab();
+        QVERIFY(QPixmapCache::find(u"the process's own"_s, &own));
     }
 
     void whatIsNotSeenCostsNothing_data()
