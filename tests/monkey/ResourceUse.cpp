@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QPixmapCache>
 #include <QSet>
 #include <QWidget>
 
@@ -71,7 +70,6 @@ const std::array<ResourceUse::Kind, ResourceUse::count>& ResourceUse::kinds()
 
 ResourceUse ResourceUse::now()
 {
-    QPixmapCache::clear(); // has a limit of its own
     malloc_trim(0);
     const QSet<QObject*> found = objects();
     qsizetype timers = 0;

@@ -17,6 +17,7 @@
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QPixmapCache>
 #include <QTextEdit>
 #include <QTimer>
 
@@ -91,6 +92,9 @@ bool Soak::run(double minutes)
     std::vector<int> steps(stepsInRound);
     std::iota(steps.begin(), steps.end(), 0);
 
+    // Qt's cache has a limit of its own, far above what may grow here. It isn't cleared instead:
+    // Qt would keep the names of all pixmaps that it had.
+    QPixmapCache::setCacheLimit(0);
     QElapsedTimer clock;
     clock.start();
     auto orrery = std::make_unique<Orrery>();
