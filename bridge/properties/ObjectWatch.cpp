@@ -3,6 +3,7 @@
 
 #include "PropertyField.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QMetaMethod>
@@ -76,10 +77,42 @@ void ObjectWatch::unwatch(PropertyField* field)
 
 void ObjectWatch::keepComparing()
 {
-    if (m_compared.empty() && m_away.empty())
+    QAbstractEventDispatcher* const loop = QAbstractEventDispatcher::instance(thread());
+    if (m_compared.empty() && m_away.empty()) {
         m_comparison.stop();
-    else if (!m_comparison.isActive())
+        if (loop)
+            disconnect(loop, nullptr, this, nullptr);
+        return;
+    }
+    compareSoon();
+    if (!loop)
+        return;
+    connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, &ObjectWatch::loopRests,
+        Qt::UniqueConnection);
+    connect(loop, &QAbstractEventDispatcher::awake, this, &ObjectWatch::loopTurns,
+        Qt::UniqueConnection);
+}
+
+void ObjectWatch::compareSoon()
+{
+    if (!m_comparison.isActive())
         m_comparison.start(comparisonInterval, this);
+}
+
+/// As long as nothing happens in the program, there is nothing to find: a comparison is due after
+/// whatever woke the loop, but not after a comparison alone.
+void ObjectWatch::loopRests()
+{
+    m_turns = 0;
+    if (!std::exchange(m_justCompared, false))
+        compareSoon();
+}
+
+/// A loop that never rests is one that the program turns by itself.
+void ObjectWatch::loopTurns()
+{
+    if (++m_turns > 1)
+        compareSoon();
 }
 
 void ObjectWatch::addFollower(QObject* object, ObjectFollower* follower)
@@ -212,7 +245,10 @@ void ObjectWatch::customEvent(QEvent*)
 
 void ObjectWatch::timerEvent(QTimerEvent*)
 {
-    if (!m_away.empty())
+    // Objects come back from other threads without a sign.
+    if (m_away.empty())
+        m_comparison.stop();
+    else
         lookForReturns();
     const std::vector<PropertyField*> compared = m_compared;
     for (PropertyField* const field : compared) {
@@ -220,4 +256,5 @@ void ObjectWatch::timerEvent(QTimerEvent*)
         if (std::find(m_compared.begin(), m_compared.end(), field) != m_compared.end())
             field->refresh();
     }
+    m_justCompared = true;
 }

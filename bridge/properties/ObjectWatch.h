@@ -78,6 +78,9 @@ private:
     void leave(QObject* object);
     void lookForReturns();
     void keepComparing();
+    void compareSoon();
+    void loopRests();
+    void loopTurns();
 
 private Q_SLOTS:
     void propertyNotified();
@@ -93,7 +96,9 @@ private:
     // Objects whose events were watched and which have gone to another thread, which nothing but a
     // look tells the end of.
     std::vector<QPointer<QObject>> m_away;
-    QBasicTimer m_comparison; // runs while there are any of these or of those
+    QBasicTimer m_comparison; // runs when there are any of these or of those, and cause to look
+    bool m_justCompared = false; // and nothing else since the loop last rested, as far as is known
+    int m_turns = 0; // of the loop since it last rested
     // What has changed since the last turn. Order doesn't matter, since each is shown as it is.
     std::unordered_set<PropertyField*> m_changedFields;
     std::unordered_set<ObjectFollower*> m_changed;

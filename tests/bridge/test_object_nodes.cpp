@@ -9,12 +9,15 @@
 #include "KnReadErrorCapture.h"
 #include "KnSensorQueue.h"
 #include "Machine.h"
+#include "ObjectWatch.h"
 
+#include <QAbstractEventDispatcher>
 #include <QPointer>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 
 #include <memory>
 
@@ -182,6 +185,24 @@ private Q_SLOTS:
         m_machine->m_serial = 9;
         QTRY_VERIFY((runSensors(), other.runs > 0));
         QCOMPARE(m_machine->m_polledReads, 0);
+    }
+
+    void whatIsComparedLetsAnIdleProgramSleep()
+    {
+        const auto timers = [] {
+            return QAbstractEventDispatcher::instance()
+                ->registeredTimers(&ObjectWatch::getInstance())
+                .size();
+        };
+        const Watch polled(m_node->getField("polled"));
+        QCOMPARE(timers(), 1);
+        constexpr int patience = 20; // comparisons
+        for (int i = 0; i < patience && timers() > 0; ++i)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCOMPARE(timers(), 0);
+        // Whatever happens may have changed something.
+        QTimer::singleShot(0, m_machine.get(), [this] { m_machine->m_polled = 7; });
+        QTRY_VERIFY((runSensors(), polled.runs > 0));
     }
 
     void aPictureThatStaysIsNoChange()
