@@ -58,6 +58,7 @@ KnNodePtr makeNumbers(int count)
     std::mt19937 random(1); // NOLINT: the same numbers each time
     std::uniform_real_distribution<float> number(-500.0F, 500.0F);
     std::vector<KbVec3f> points;
+    points.reserve(static_cast<std::size_t>(count / 3));
     for (int i = 0; i < count / 3; ++i)
         points.emplace_back(number(random), number(random), number(random));
     coordinates->point.setValues(0, int(points.size()), points.data());

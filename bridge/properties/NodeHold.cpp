@@ -34,6 +34,7 @@ NodeHold::~NodeHold()
         return;
     // A loop that runs inside of this one doesn't delete it.
     if (m_node->getReferenceCount() == 1)
+        // NOLINTNEXTLINE(bugprone-unhandled-exception-at-new): without memory the program ends
         (new LateRelease(m_node))->deleteLater();
     m_node->unref();
 }
