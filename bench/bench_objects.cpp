@@ -38,7 +38,8 @@ constexpr int treeWidth = 100; // so many children, with as many each
 /// Gives an object properties of several types.
 void fillWide(QObject& object)
 {
-    for (int i = object.dynamicPropertyNames().size(); i < propertyCount; ++i) {
+    const auto filled = static_cast<int>(object.dynamicPropertyNames().size());
+    for (int i = filled; i < propertyCount; ++i) {
         const QVariant values[] = { i, 0.1 * i, QString::number(i), QPoint(i, i), QRect(0, 0, i, i),
             QVariant::fromValue(QList<int>({ i, i })) };
         object.setProperty(QByteArray("property" + QByteArray::number(i)), values[i % 6]);

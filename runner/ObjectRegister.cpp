@@ -90,8 +90,10 @@ void ObjectRegister::start()
     table = static_cast<quintptr*>(dlsym(RTLD_DEFAULT, "qtHookData"));
     if (!table || table[Version] != knownVersion || table[Size] <= RemoveObject)
         return;
+    // NOLINTBEGIN(performance-no-int-to-ptr): Qt keeps the functions as numbers
     formerAdd = reinterpret_cast<Hook>(table[AddObject]);
     formerRemove = reinterpret_cast<Hook>(table[RemoveObject]);
+    // NOLINTEND(performance-no-int-to-ptr)
     table[AddObject] = reinterpret_cast<quintptr>(&added);
     table[RemoveObject] = reinterpret_cast<quintptr>(&removed);
     running = true;
