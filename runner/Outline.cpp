@@ -165,6 +165,8 @@ void Outline::makeLine(QWidget* window)
 
 void Outline::removeLine()
 {
-    delete m_line;
-    m_own = nullptr;
+    const QWidget* const line = m_line;
+    m_line.clear();
+    delete line;
+    m_own = nullptr; // no event of it reaches the program until it is gone
 }

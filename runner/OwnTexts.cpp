@@ -65,21 +65,21 @@ void OwnTexts::findFiles()
     ownRanges = ranges;
 }
 
-// These two stand in for Qt's.
+// These two stand in for Qt's, with its names.
 
-QString QMetaObject::tr(const char* text, const char* comment, int number) const
+QString QMetaObject::tr(const char* s, const char* c, int n) const
 {
     using Translate = QString (*)(const QMetaObject*, const char*, const char*, int);
     static const auto original
         = reinterpret_cast<Translate>(dlsym(RTLD_NEXT, "_ZNK11QMetaObject2trEPKcS1_i"));
-    return isOwn(this) ? ownText(text, number) : original(this, text, comment, number);
+    return isOwn(this) ? ownText(s, n) : original(this, s, c, n);
 }
 
 QString QCoreApplication::translate(
-    const char* context, const char* text, const char* comment, int number)
+    const char* context, const char* key, const char* disambiguation, int n)
 {
     using Translate = QString (*)(const char*, const char*, const char*, int);
     static const auto original = reinterpret_cast<Translate>(
         dlsym(RTLD_NEXT, "_ZN16QCoreApplication9translateEPKcS1_S1_i"));
-    return isOwn(context) ? ownText(text, number) : original(context, text, comment, number);
+    return isOwn(context) ? ownText(key, n) : original(context, key, disambiguation, n);
 }

@@ -161,6 +161,7 @@ void ProgramInspector::updateRoots()
     m_roots = roots;
     const std::vector<KnNodePtr> held = rootNodes(roots, m_loose);
     std::vector<KnFieldContainer*> nodes;
+    nodes.reserve(held.size());
     for (const KnNodePtr& node : held)
         nodes.push_back(node.get());
     m_inspector.setRoots(nodes);

@@ -68,7 +68,11 @@ public:
         return isSignalConnected(QMetaMethod::fromSignal(&QObject::destroyed));
     }
     bool fuse() const { return false; }
-    void setFuse(bool) { m_blow(); }
+    void setFuse(bool)
+    {
+        const std::function<void()> blow = m_blow; // which may delete this object
+        blow();
+    }
 
     int m_speed = 10;
     int m_speedWrites = 0;

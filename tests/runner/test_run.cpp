@@ -160,6 +160,8 @@ private Q_SLOTS:
     }
     void scriptsLeadToTheProgram()
     {
+        if (!sanitizer.isEmpty())
+            QSKIP("shells hang with the sanitizer in them");
         QFETCH(QByteArray, script);
         QFETCH(QString, error);
         const QTemporaryDir folder;
