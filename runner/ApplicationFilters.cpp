@@ -95,7 +95,7 @@ void ApplicationFilters::installOwn(QObject* filter)
     install(QCoreApplication::instance(), filter);
 }
 
-// These two stand in for Qt's.
+// These two stand in for Qt's, with its names.
 
 void QObject::installEventFilter(QObject* filter)
 {
@@ -108,10 +108,10 @@ void QObject::installEventFilter(QObject* filter)
     install(this, known ? known : new FilterProxy(filter));
 }
 
-void QObject::removeEventFilter(QObject* filter)
+void QObject::removeEventFilter(QObject* obj)
 {
-    FilterProxy* const proxy = isForProxy(this, filter) ? FilterProxy::of(filter) : nullptr;
-    remove(this, proxy ? proxy : filter);
+    FilterProxy* const proxy = isForProxy(this, obj) ? FilterProxy::of(obj) : nullptr;
+    remove(this, proxy ? proxy : obj);
     if (proxy)
         proxy->deleteLater(); // it may be handling an event
 }

@@ -95,6 +95,7 @@ QString writeNumber(float number)
 }
 
 /// `split` gives the numbers of a value, `make` takes them.
+// NOLINTNEXTLINE(readability-identifier-naming): functions, as far as a reader is concerned
 template <class Qt, class Number, int Count, auto split, auto make>
 struct Numbers {
     static QString write(const Qt& value)

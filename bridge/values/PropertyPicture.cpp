@@ -51,7 +51,8 @@ void writePicture(KnSFImage& field, const QImage& picture)
         return;
     }
     const int components = componentsOf(picture);
-    const auto lineLength = static_cast<std::size_t>(plain.width() * components);
+    const auto lineLength
+        = static_cast<std::size_t>(plain.width()) * static_cast<std::size_t>(components);
     std::vector<unsigned char> bytes(lineLength * static_cast<std::size_t>(plain.height()));
     auto line = bytes.begin();
     for (int y = plain.height() - 1; y >= 0; --y)

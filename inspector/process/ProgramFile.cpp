@@ -95,7 +95,7 @@ private:
         for (const Segment& segment : segments) {
             if (segment.p_type == PT_LOAD && address >= segment.p_vaddr
                 && address - segment.p_vaddr < segment.p_filesz)
-                return static_cast<qint64>(address - segment.p_vaddr + segment.p_offset);
+                return qint64(address) - qint64(segment.p_vaddr) + qint64(segment.p_offset);
         }
         return -1;
     }
@@ -103,7 +103,7 @@ private:
     template <class Item>
     bool read(qint64 offset, Item* items, std::size_t count)
     {
-        const auto size = static_cast<qint64>(count * sizeof(Item));
+        const qint64 size = qint64(count) * qint64(sizeof(Item));
         return m_file.seek(offset) && m_file.read(reinterpret_cast<char*>(items), size) == size;
     }
 

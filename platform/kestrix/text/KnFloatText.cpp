@@ -69,11 +69,13 @@ Decimal drop(std::uint64_t low, std::uint64_t number, std::uint64_t high, int pl
         shortHigh /= 10;
         --places;
     };
+    // NOLINTBEGIN(bugprone-infinite-loop): the linter doesn't look into the function
     while (shortHigh / 10 > shortLow / 10)
         dropDigit();
     if constexpr (Exact) {
         while (lowIsExact && shortLow % 10 == 0)
             dropDigit();
+        // NOLINTEND(bugprone-infinite-loop)
         if (numberIsExact && dropped == 5 && digits % 2 == 0)
             dropped = 4; // the one above is as near, but isn't even
     }
@@ -114,7 +116,7 @@ Decimal shortest(std::uint32_t bits)
 
 int countDigits(std::uint32_t number)
 {
-    const int least = decimalExponent(std::bit_width(number));
+    const int least = decimalExponent(static_cast<int>(std::bit_width(number)));
     return least + (number >= powersOf10[static_cast<std::size_t>(least)] ? 1 : 0);
 }
 
@@ -149,6 +151,7 @@ char* knWriteFloat(char* next, float value)
         std::memcpy(next + whole + 1, first + whole, block);
         return next + count + 1;
     }
+    // NOLINTNEXTLINE(bugprone-not-null-terminated-result): a part of a text
     std::memcpy(next, "0.000000", 8);
     std::memcpy(next + 2 - whole, first, block);
     return next + 2 - whole + count;
