@@ -80,6 +80,7 @@ void ProgramRun::become(const Command& command) const
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     std::vector<std::string> texts = command.words;
     std::vector<char*> words;
+    words.reserve(texts.size() + 1);
     for (std::string& text : texts)
         words.push_back(text.data());
     words.push_back(nullptr);
