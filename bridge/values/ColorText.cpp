@@ -10,35 +10,40 @@ namespace {
 
 /// A model: its name, the numbers of a colour of it, from 0 to 1, and a colour from them.
 struct Model {
-    QColor::Spec spec;
     QLatin1String name;
+    /// Leaves a colour of this model as it is, and no other.
+    QColor (QColor::*convert)() const noexcept;
     std::vector<float> (*split)(const QColor& color);
     QColor (*make)(const std::vector<float>& numbers);
     std::size_t count;
+    bool hasHue;
 };
 
 const Model models[] = {
-    { QColor::Rgb, QLatin1String("rgb"),
+    { QLatin1String("rgb"), &QColor::toRgb,
         [](const QColor& c) -> std::vector<float> {
             return { c.redF(), c.greenF(), c.blueF(), c.alphaF() };
         },
-        [](const std::vector<float>& n) { return QColor::fromRgbF(n[0], n[1], n[2], n[3]); }, 4 },
-    { QColor::Hsv, QLatin1String("hsv"),
+        [](const std::vector<float>& n) { return QColor::fromRgbF(n[0], n[1], n[2], n[3]); }, 4,
+        false },
+    { QLatin1String("hsv"), &QColor::toHsv,
         [](const QColor& c) -> std::vector<float> {
             return { c.hsvHueF(), c.hsvSaturationF(), c.valueF(), c.alphaF() };
         },
-        [](const std::vector<float>& n) { return QColor::fromHsvF(n[0], n[1], n[2], n[3]); }, 4 },
-    { QColor::Hsl, QLatin1String("hsl"),
+        [](const std::vector<float>& n) { return QColor::fromHsvF(n[0], n[1], n[2], n[3]); }, 4,
+        true },
+    { QLatin1String("hsl"), &QColor::toHsl,
         [](const QColor& c) -> std::vector<float> {
             return { c.hslHueF(), c.hslSaturationF(), c.lightnessF(), c.alphaF() };
         },
-        [](const std::vector<float>& n) { return QColor::fromHslF(n[0], n[1], n[2], n[3]); }, 4 },
-    { QColor::Cmyk, QLatin1String("cmyk"),
+        [](const std::vector<float>& n) { return QColor::fromHslF(n[0], n[1], n[2], n[3]); }, 4,
+        true },
+    { QLatin1String("cmyk"), &QColor::toCmyk,
         [](const QColor& c) -> std::vector<float> {
             return { c.cyanF(), c.magentaF(), c.yellowF(), c.blackF(), c.alphaF() };
         },
         [](const std::vector<float>& n) { return QColor::fromCmykF(n[0], n[1], n[2], n[3], n[4]); },
-        5 },
+        5, false },
 };
 
 const QLatin1String invalidName("invalid");
@@ -61,7 +66,7 @@ QString colorText(const QColor& color)
     if (plain == color)
         return plain.name(plain.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
     for (const Model& model : models) {
-        if (model.spec != color.spec())
+        if ((color.*model.convert)() != color)
             continue;
         QString text = model.name;
         for (const float number : model.split(color))
@@ -88,7 +93,7 @@ std::optional<QColor> colorOf(const QString& text)
                 return std::nullopt;
         }
         const bool isOne = numbers.size() == model.count && isInRange(numbers)
-            && (numbers[0] >= 0 || model.spec == QColor::Hsv || model.spec == QColor::Hsl);
+            && (numbers[0] >= 0 || model.hasHue);
         return isOne ? std::optional(model.make(numbers)) : std::nullopt;
     }
     return QColor::isValidColor(text) ? std::optional(QColor(text)) : std::nullopt;
