@@ -19,6 +19,21 @@ fail() {
     exit 1
 }
 
+# take_number OPTION VALUE: gives the variable of the option's name this number, which is above 0.
+take_number() {
+    [[ ${2:-} =~ ^[1-9][0-9]*$ ]] || fail "$1 takes a number"
+    printf -v "${1#--}" %s "$2"
+}
+
+random_seed() { echo $((RANDOM * 32768 + RANDOM + 1)); }
+
+# use_own_home FOLDER: what the person at this machine has set doesn't count.
+use_own_home() {
+    mkdir -p -m 700 "$1/runtime"
+    export XDG_RUNTIME_DIR=$1/runtime XDG_CONFIG_HOME=$1/config XDG_DATA_HOME=$1/data
+    export LC_ALL=C.UTF-8
+}
+
 # Installs those of the named Debian packages that are missing; calls nothing but dpkg-query when
 # none is.
 install_packages() {

@@ -13,13 +13,12 @@ set -uo pipefail
 arguments=("$@")
 targets=()
 minutes=10
-seed=$((RANDOM * 32768 + RANDOM + 1))
+seed=$(random_seed)
 corpus=$source_dir/fuzz/corpus
 while [ $# -gt 0 ]; do
     case $1 in
         --minutes | --seed)
-            [[ ${2:-} =~ ^[1-9][0-9]*$ ]] || fail "$1 takes a number"
-            declare "${1#--}=$2"
+            take_number "$1" "${2:-}"
             shift
             ;;
         *)

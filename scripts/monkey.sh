@@ -14,7 +14,7 @@ set -uo pipefail
 
 arguments=("$@")
 minutes=10
-seed=$((RANDOM * 32768 + RANDOM + 1))
+seed=$(random_seed)
 steps=200
 preset=asan
 server=()
@@ -22,8 +22,7 @@ platform=offscreen
 while [ $# -gt 0 ]; do
     case $1 in
         --minutes | --seed | --steps)
-            [[ ${2:-} =~ ^[1-9][0-9]*$ ]] || fail "$1 takes a number"
-            declare "${1#--}=$2"
+            take_number "$1" "${2:-}"
             shift
             ;;
         --xvfb) server=("$source_dir/tests/xvfb-run.sh") platform=xcb ;;
@@ -39,10 +38,8 @@ choose_build_root
 build "$preset" corvane_monkey >"$build_root/monkey.log" 2>&1 ||
     { tail -n 30 "$build_root/monkey.log"; fail "could not build"; }
 
-home=$build_root/$preset/test_home/monkey
-mkdir -p -m 700 "$home/runtime"
-export XDG_RUNTIME_DIR=$home/runtime XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
-export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=$platform
+use_own_home "$build_root/$preset/test_home/monkey"
+export QT_QPA_PLATFORM=$platform
 export LSAN_OPTIONS=suppressions=$source_dir/cmake/lsan.supp:print_suppressions=0
 export ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1
 export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1

@@ -11,12 +11,11 @@ set -uo pipefail
 
 arguments=("$@")
 minutes=60
-seed=$((RANDOM * 32768 + RANDOM + 1))
+seed=$(random_seed)
 while [ $# -gt 0 ]; do
     case $1 in
         --minutes | --seed)
-            [[ ${2:-} =~ ^[1-9][0-9]*$ ]] || fail "$1 takes a number"
-            declare "${1#--}=$2"
+            take_number "$1" "${2:-}"
             shift
             ;;
         *) fail "unknown option $1" ;;
@@ -30,10 +29,7 @@ choose_build_root
 log=$build_root/soak.log
 build release corvane_monkey >"$log" 2>&1 || { tail -n 30 "$log"; fail "could not build"; }
 
-home=$build_root/release/test_home/soak
-mkdir -p -m 700 "$home/runtime"
-export XDG_RUNTIME_DIR=$home/runtime XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
-export LC_ALL=C.UTF-8
+use_own_home "$build_root/release/test_home/soak"
 # On an X server: the offscreen platform crashes by itself after many docks that float, see
 # tests/monkey/PlatformFault.h.
 "$source_dir/tests/xvfb-run.sh" "$build_root/release/bin/corvane_monkey" \
