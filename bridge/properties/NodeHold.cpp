@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "NodeHold.h"
 
-#include "KnNodePtr.h"
-
 #include <QObject>
+
+#include <utility>
 
 namespace {
 
 /// Lets go of a node when it is deleted.
 class LateRelease final : public QObject {
 public:
-    explicit LateRelease(KnFieldContainer* node)
-        : m_node(node)
+    explicit LateRelease(KnNodePtr node)
+        : m_node(std::move(node))
     {
     }
 
@@ -22,19 +22,14 @@ private:
 } // namespace
 
 NodeHold::NodeHold(KnFieldContainer* node)
-    : m_node(node && node->getReferenceCount() > 0 ? node : nullptr)
+    : m_node(KnNodePtr::ofHeld(node))
 {
-    if (m_node)
-        m_node->ref();
 }
 
 NodeHold::~NodeHold()
 {
-    if (!m_node)
-        return;
     // A loop that runs inside of this one doesn't delete it.
-    if (m_node->getReferenceCount() == 1)
+    if (m_node && m_node->getReferenceCount() == 1)
         // NOLINTNEXTLINE(bugprone-unhandled-exception-at-new): without memory the program ends
         (new LateRelease(m_node))->deleteLater();
-    m_node->unref();
 }

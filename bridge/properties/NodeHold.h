@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "KnFieldContainer.h"
+#include "KnNodePtr.h"
 
 /// Keeps a node alive while code runs that may do anything: the setters and getters of programs. If
 /// everybody else has let go of it meanwhile, it goes when the event loop is back, since the
@@ -15,5 +15,5 @@ public:
     ~NodeHold();
 
 private:
-    KnFieldContainer* const m_node; // null for one that nobody holds
+    const KnNodePtr m_node; // null for one that nobody holds
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "FieldPanel.h"
 
+#include "ContextMenu.h"
 #include "CrvServices.h"
 #include "ElidedLabel.h"
 #include "FieldDrag.h"
@@ -268,10 +269,8 @@ void FieldPanel::currentChanged(const QModelIndex& current)
 
 void FieldPanel::showMenu(const QPoint& position)
 {
+    QMenu* const menu = makeContextMenu(m_list, QStringLiteral("fieldMenu"));
     KnField* const field = m_model.field(m_list->indexAt(position));
-    auto* const menu = new QMenu(this);
-    menu->setObjectName(QStringLiteral("fieldMenu"));
-    menu->setAttribute(Qt::WA_DeleteOnClose);
     if (field) {
         addWatchEntries(*menu, *field, [this](KnField& watched, int component) {
             Q_EMIT watchRequested(&watched, component);

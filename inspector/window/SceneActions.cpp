@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "SceneActions.h"
 
+#include "ContextMenu.h"
 #include "CrvServices.h"
 #include "FileDialogs.h"
 #include "KnGroup.h"
@@ -86,13 +87,12 @@ void SceneActions::fillViewMenu(QMenu* menu) { menu->addActions({ m_expand, m_co
 
 void SceneActions::showMenu(const QPoint& position)
 {
-    QMenu menu(m_panel);
-    menu.setObjectName(QStringLiteral("sceneMenu"));
-    fillEditMenu(&menu);
-    menu.addSeparator();
-    fillViewMenu(&menu);
-    Q_EMIT m_panel->menuRequested(&menu);
-    menu.exec(m_tree->viewport()->mapToGlobal(position));
+    QMenu* const menu = makeContextMenu(m_tree, QStringLiteral("sceneMenu"));
+    fillEditMenu(menu);
+    menu->addSeparator();
+    fillViewMenu(menu);
+    Q_EMIT m_panel->menuRequested(menu);
+    menu->popup(m_tree->viewport()->mapToGlobal(position));
 }
 
 void SceneActions::updateActions()

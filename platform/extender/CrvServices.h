@@ -58,6 +58,9 @@ public:
     /// Takes ownership, calls `execute` once and keeps the command for undo and redo; what steps
     /// that makes is up to `getUndoSteps()`. Null is ignored.
     virtual void executeCommand(CrvCommand* command);
+    /// The same for a command whose field was written already, when setters may have run event
+    /// loops and something else may be selected. The step keeps the node of `field` alive.
+    void executeCommand(CrvCommand* command, KnField& field);
     /// Commands that are executed while it lives become one step of the undo stack, which bears
     /// this text; the order is kept. One in another one belongs to the outer step. If nothing was
     /// executed, or all of it certainly has changed nothing, there is no step.
@@ -119,6 +122,7 @@ private:
     int m_holds = 0; // nobody is told of a selection while there are any
     // What an editor may still show, and commit, while a new selection is being announced.
     KnField* m_shownField = nullptr;
+    KnField* m_editedField = nullptr; // of the command that is being handed over, if it is named
     CrvSensorPump* m_pump; // child
     CrvUndoSteps* m_undoSteps; // child
 };

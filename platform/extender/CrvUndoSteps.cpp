@@ -78,7 +78,7 @@ bool wroteWholly(const CrvFieldRecord& record)
 CrvUndoStep::Part partOf(
     std::unique_ptr<CrvCommand> command, KnFieldContainer* node, KnField* field)
 {
-    return { std::move(command), KnNodePtr(node), KnNodePtr(containerOf(field)), field };
+    return { std::move(command), KnNodePtr(node), KnNodePtr::ofHeld(containerOf(field)), field };
 }
 
 } // namespace
@@ -179,6 +179,9 @@ void CrvUndoSteps::execute(
     std::unique_ptr<CrvCommand> command, KnFieldContainer* node, KnField* field)
 {
     ++m_executedCommands;
+    // What the command writes may run an event loop, and something else is selected then.
+    const KnNodePtr held(node);
+    const KnNodePtr heldWithField = KnNodePtr::ofHeld(containerOf(field));
     const bool isInput = this->isInput();
     CrvChanges changes = m_recorder.take();
     if (isInput && field)

@@ -15,6 +15,11 @@ public:
         if (m_node)
             m_node->ref();
     }
+    /// Null for a node that nobody holds yet, since letting go of it would destroy it.
+    static KnNodePtr ofHeld(KnFieldContainer* node)
+    {
+        return KnNodePtr(node && node->getReferenceCount() > 0 ? node : nullptr);
+    }
     KnNodePtr(const KnNodePtr& other)
         : KnNodePtr(other.m_node)
     {

@@ -4,7 +4,6 @@
 #include "CrvFieldEditors.h"
 #include "CrvFieldIgnoredCommand.h"
 #include "CrvFieldSetDefaultCommand.h"
-#include "CrvServices.h"
 #include "FieldEdit.h"
 #include "KnField.h"
 #include "KnFieldContainer.h"
@@ -41,16 +40,14 @@ void setFieldToDefault(const CrvFieldEditors& editor, KnField* field)
     KbString text;
     defaultField->get(text);
     // The command copies the texts, so it doesn't need the fresh node.
-    auto command = std::make_unique<CrvFieldSetDefaultCommand>(field, defaultField);
-    field->set(text);
-    CrvServices::getInstance()->executeCommand(command.release());
+    executeEdit(std::make_unique<CrvFieldSetDefaultCommand>(field, defaultField), field,
+        [field, &text] { field->set(text); });
 }
 
 void setFieldIgnored(const CrvFieldEditors& editor, KnField* field, bool ignored)
 {
     if (!editor.mayWrite(field) || (field->isIgnored() != 0) == ignored)
         return;
-    auto command = std::make_unique<CrvFieldIgnoredCommand>(field, ignored);
-    field->setIgnored(ignored ? 1 : 0);
-    CrvServices::getInstance()->executeCommand(command.release());
+    executeEdit(std::make_unique<CrvFieldIgnoredCommand>(field, ignored), field,
+        [field, ignored] { field->setIgnored(ignored ? 1 : 0); });
 }

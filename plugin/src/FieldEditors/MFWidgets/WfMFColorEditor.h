@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CrvMFSetFieldValueCommand.h"
+#include "FieldEdit.h"
 #include "WfMFVectorWidget.h"
 
 #include <algorithm>
@@ -39,9 +40,9 @@ public:
         typename Components::Numbers numbers;
         std::copy_n(
             static_cast<const KbVec4f*>(color)->getValue(), numbers.size(), numbers.begin());
-        auto command = std::make_unique<CrvMFSetFieldValueCommand>(this->m_field, row);
-        static_cast<Field*>(this->m_field)->set1Value(row, Components::make(numbers));
-        CrvServices::getInstance()->executeCommand(command.release());
+        auto* const field = static_cast<Field*>(this->m_field);
+        executeEdit(std::make_unique<CrvMFSetFieldValueCommand>(field, row), field,
+            [&] { field->set1Value(row, Components::make(numbers)); });
     }
 
     QString getCellText(int row, int col) override
