@@ -129,6 +129,22 @@ private Q_SLOTS:
         undo();
     }
 
+    /// A setter may run an event loop.
+    void somethingElseIsSelectedInASetter()
+    {
+        const KnNodePtr other(crvObjectNode(this));
+        connect(m_machine.get(), &Machine::labelChanged, this, [&] {
+            CrvServices::getInstance()->selectNode(other.get());
+            m_node = KnNodePtr(); // the tree's rows let go of it, too
+        });
+        select(property("label"));
+        typeInto(child<QLineEdit>("lineEdit"), u"new"_s);
+        settle();
+        QCOMPARE(m_machine->m_label, u"new"_s);
+        undo();
+        QCOMPARE(m_machine->m_label, u"old"_s);
+    }
+
 private:
     std::unique_ptr<Machine> m_machine;
     KnNodePtr m_node;

@@ -6,8 +6,11 @@
 #include "RowInput.h"
 
 #include <QCheckBox>
+#include <QContextMenuEvent>
+#include <QEventLoop>
 #include <QLineEdit>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <memory>
 
@@ -89,6 +92,39 @@ private Q_SLOTS:
         QCOMPARE(m_machine->m_load, QVariant(false));
         QTest::keySequence(m_inspector->window(), QKeySequence::Undo);
         QCOMPARE(m_machine->m_load, QVariant(true));
+    }
+
+    void aMenuEndsAnEntryFirst_data()
+    {
+        QTest::addColumn<QString>("view");
+        QTest::addRow("of the tree") << u"sceneTree"_s;
+        QTest::addRow("of the list") << u"fieldList"_s;
+    }
+    void aMenuEndsAnEntryFirst()
+    {
+        QFETCH(QString, view);
+        // The setter runs an event loop that leaves no menu open.
+        connect(m_machine.get(), &Machine::labelChanged, this, [] {
+            QEventLoop events;
+            QTimer::singleShot(0, &events, [&events] {
+                if (QWidget* const popup = QApplication::activePopupWidget())
+                    QTest::keyClick(popup, Qt::Key_Escape);
+                events.quit();
+            });
+            events.exec();
+        });
+        clickField(u"label"_s);
+        QTRY_VERIFY(input<QLineEdit>());
+        QTest::mouseClick(input<QLineEdit>(), Qt::LeftButton);
+        QTest::keyClicks(input<QLineEdit>(), u"er"_s);
+        QWidget* const viewport = find<QTreeView>(view)->viewport();
+        QContextMenuEvent wish(
+            QContextMenuEvent::Keyboard, QPoint(20, 5), viewport->mapToGlobal(QPoint(20, 5)));
+        QCoreApplication::sendEvent(viewport, &wish);
+        QCOMPARE(m_machine->m_label, u"older"_s);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
     }
 
 private:

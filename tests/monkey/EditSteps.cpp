@@ -57,7 +57,13 @@ void replaceText(Stage& stage, StepRandom& random)
 
 void chooseNode(Stage& stage, StepRandom& random) { clickRowIn(stage, u"sceneTree"_s, random); }
 
-void chooseField(Stage& stage, StepRandom& random) { clickRowIn(stage, u"fieldList"_s, random); }
+void chooseField(Stage& stage, StepRandom& random)
+{
+    clickRowIn(stage, u"fieldList"_s, random);
+    // Which brings the editor back whose dock was closed.
+    if (random.oneIn(3))
+        stage.hand().press(Qt::Key_Return);
+}
 
 void useEditor(Stage& stage, StepRandom& random)
 {

@@ -4,6 +4,7 @@
 #include "CrvServices.h"
 #include "KnSensorQueue.h"
 #include "MainWindow.h"
+#include "PanelOracle.h"
 #include "StepKinds.h"
 #include "StepRandom.h"
 
@@ -26,6 +27,7 @@ namespace {
 constexpr int outerLevel = 1; // the program's own loop
 constexpr int deepest = 3; // loops in each other, before dialogs are closed
 constexpr int longestQueue = 10000; // milliseconds until the queue must have run
+constexpr int longestDelay = 2000; // milliseconds until a panel must show what the scene holds
 constexpr int patience = 200; // turns until all dialogs must be closed
 
 QEvent::Type turnType()
@@ -94,9 +96,8 @@ void Player::turn()
     }
     const bool inDialog = m_busyLevel > outerLevel;
     if (!inDialog) {
-        if (!isSettled())
+        if (!isSettled() || !check())
             return;
-        check();
     }
     if (m_next == m_steps.size() || m_busyLevel > deepest)
         leaveDialogs();
@@ -172,7 +173,23 @@ bool Player::isSettled()
     return false;
 }
 
-void Player::check()
+/// Whether what the panels show agrees with the scene by now.
+bool Player::isFollowed()
+{
+    const QString error = PanelOracle::check(&m_stage.window());
+    if (error.isEmpty()) {
+        m_behind.invalidate();
+        return true;
+    }
+    if (!m_behind.isValid())
+        m_behind.start();
+    if (m_behind.hasExpired(longestDelay))
+        fail(error);
+    return false;
+}
+
+/// Whether the next step may come.
+bool Player::check()
 {
     if (!m_stage.window().isVisible())
         m_stage.reopen();
@@ -183,10 +200,11 @@ void Player::check()
     if (!QApplication::activeWindow())
         m_stage.window().activateWindow();
     if (CrvServices::getInstance()->isPaused())
-        return;
+        return true;
     const QString error = m_editorOracle.check(&m_stage.window());
     if (!error.isEmpty())
         fail(error);
+    return isFollowed();
 }
 
 void Player::end()

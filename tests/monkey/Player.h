@@ -47,7 +47,8 @@ private:
     bool answerFileDialog(StepRandom& random);
     void leaveDialogs();
     bool isSettled();
-    void check();
+    bool isFollowed();
+    bool check();
     void end();
 
     Stage& m_stage;
@@ -63,4 +64,5 @@ private:
     int m_busyLevel = 0; // of the loop that a turn has been made in
     int m_leaving = 0; // turns that were spent on closing dialogs
     QElapsedTimer m_waiting; // for the sensors' queue; valid while it isn't empty
+    QElapsedTimer m_behind; // valid while a panel doesn't show what the scene holds
 };

@@ -81,6 +81,8 @@ Rounds::Outcome Rounds::play(quint64 seed, const std::vector<int>& steps) const
     static const QRegularExpression begun(u"^step (\\d+):"_s, QRegularExpression::MultilineOption);
     for (auto found = begun.globalMatch(outcome.output); found.hasNext();)
         outcome.lastStep = found.next().captured(1).toInt();
+    static const QRegularExpression compared(u"compared (\\d+) times"_s);
+    outcome.comparisons = compared.match(outcome.output).captured(1).toInt();
     return outcome;
 }
 
@@ -91,6 +93,7 @@ bool Rounds::run(quint64 seed, int seconds) const
     std::vector<int> steps(std::size_t(m_stepsInRound), 0);
     std::iota(steps.begin(), steps.end(), 0);
     int rounds = 0;
+    int comparisons = 0;
     do {
         const Outcome outcome = play(seed, steps);
         ++rounds;
@@ -103,10 +106,11 @@ bool Rounds::run(quint64 seed, int seconds) const
         std::printf("seed %llu: %s\n", static_cast<unsigned long long>(seed),
             qPrintable(outcome.output.trimmed().section(u'\n', -1)));
         std::fflush(stdout);
+        comparisons += outcome.comparisons;
         ++seed;
     } while (!clock.hasExpired(qint64(seconds) * 1000));
-    std::printf("%d rounds without a fault\n", rounds);
-    return true;
+    std::printf("%d rounds without a fault, %d comparisons of an editor\n", rounds, comparisons);
+    return comparisons > 0;
 }
 
 void Rounds::shorten(quint64 seed, const Outcome& outcome, std::vector<int> steps) const

@@ -17,7 +17,7 @@ public:
     }
 
     /// Rounds with the seeds from `seed` on, until the time is over; at least one. False as soon as
-    /// one fails; its seed and its steps are printed.
+    /// one fails; its seed and its steps are printed. Also false if no editor could be compared.
     bool run(quint64 seed, int seconds) const;
 
 private:
@@ -26,6 +26,7 @@ private:
         QString kind; ///< what the fault has in common with the same one after other steps
         QString output;
         int lastStep = -1; ///< that was begun
+        int comparisons = 0; ///< of what an editor shows
     };
 
     Outcome play(quint64 seed, const std::vector<int>& steps) const;
