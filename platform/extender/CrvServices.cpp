@@ -146,15 +146,12 @@ void CrvServices::executeCommand(CrvCommand* command)
 {
     if (!command)
         return;
-    KnField* const edited = std::exchange(m_editedField, nullptr);
-    m_undoSteps->execute(
-        std::unique_ptr<CrvCommand>(command), m_node.get(), edited ? edited : m_shownField);
+    m_undoSteps->execute(std::unique_ptr<CrvCommand>(command), m_node.get(), m_shownField);
 }
 
 void CrvServices::executeCommand(CrvCommand* command, KnField& field)
 {
-    const QScopedValueRollback edited(m_editedField, &field);
-    executeCommand(command);
+    m_undoSteps->execute(std::unique_ptr<CrvCommand>(command), m_node.get(), &field);
 }
 
 QUndoStack* CrvServices::getUndoStack() const { return m_undoSteps->stack(); }

@@ -122,7 +122,6 @@ private:
     int m_holds = 0; // nobody is told of a selection while there are any
     // What an editor may still show, and commit, while a new selection is being announced.
     KnField* m_shownField = nullptr;
-    KnField* m_editedField = nullptr; // of the command that is being handed over, if it is named
     CrvSensorPump* m_pump; // child
     CrvUndoSteps* m_undoSteps; // child
 };
