@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "OwnFolder.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -15,7 +16,10 @@ QDir ownFolder()
     Dl_info info = {};
     if (dladdr(&anchor, &info) == 0 || !info.dli_fname)
         return {};
-    return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
+    // A program that has the objects in itself bears the name that it was called by, which may be
+    // relative to a folder that it has left since.
+    const QFileInfo file(QFile::decodeName(info.dli_fname));
+    return file.exists() ? file.canonicalPath() : QCoreApplication::applicationDirPath();
 }
 
 } // namespace

@@ -19,7 +19,7 @@ public:
     {
     }
 
-    /// False if something grows. Prints the samples.
+    /// False if something grows, or if no editor could be compared. Prints the samples.
     bool run(double minutes);
 
 private:
