@@ -49,22 +49,25 @@ ProgramInspector::ProgramInspector(const ProgramSession& session)
     if (!window)
         return; // it has said why
     m_own.take(window, before);
-    m_exemption = std::make_unique<ModalExemption>(window);
-    ApplicationFilters::leaveOut(&m_own);
     ApplicationFilters::installOwn(this);
     connect(CrvServices::getInstance(), &CrvServices::selectedNodeChanged, this,
         [this](const KnFieldContainer* node) { m_outline.surround(crvNodeObject(node)); });
-    ObjectRegister::tell(this);
-    m_loose->update(ObjectRegister::Look::All);
-    updateRoots();
+    windowOpened();
     if (!session.endsProgram())
         session.select();
 }
 
-ProgramInspector::~ProgramInspector() { windowClosed(); }
+ProgramInspector::~ProgramInspector()
+{
+    windowClosed();
+    QCoreApplication::instance()->removeEventFilter(this);
+    ObjectRegister::stop();
+}
 
 bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
 {
+    if (!isOpen() && event->type() != QEvent::MouseButtonPress)
+        return false;
     switch (event->type()) {
     case QEvent::Show:
     case QEvent::ParentChange:
@@ -102,12 +105,21 @@ bool ProgramInspector::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-/// What is closed costs nothing.
+void ProgramInspector::windowOpened()
+{
+    m_exemption = std::make_unique<ModalExemption>(m_inspector.window());
+    ApplicationFilters::leaveOut(&m_own);
+    ObjectRegister::tell(this);
+    m_loose->update(ObjectRegister::Look::All);
+    m_roots.clear();
+    updateRoots();
+}
+
+/// Only the click is waited for that opens the window again, and objects are noted until then.
 void ProgramInspector::windowClosed()
 {
-    QCoreApplication::instance()->removeEventFilter(this);
     ApplicationFilters::leaveOut(nullptr);
-    ObjectRegister::stop();
+    ObjectRegister::tell(nullptr);
     m_news.stop();
     m_exemption.reset();
     m_outline.surround(nullptr);
@@ -170,6 +182,9 @@ void ProgramInspector::updateRoots()
 void ProgramInspector::select(QObject* object)
 {
     m_inspector.show();
-    updateRoots();
+    if (isOpen())
+        updateRoots();
+    else
+        windowOpened();
     CrvServices::getInstance()->selectNode(crvPlacedNode(object).get());
 }

@@ -16,9 +16,9 @@
 class ProgramSession;
 
 /// The inspector in a program that knows nothing of it. Shows the program's objects, follows
-/// windows that come and go, and selects the widget that is clicked with Ctrl and Shift held. While
-/// its window is open it looks at the events of the program's windows for that, and takes none but
-/// this click.
+/// windows that come and go, and selects the widget that is clicked with Ctrl and Shift held, which
+/// also brings back a window that was closed. It looks at the events of the program's windows for
+/// that, and takes none but this click.
 class ProgramInspector : public QObject {
     Q_OBJECT
 public:
@@ -35,6 +35,8 @@ protected:
 
 private:
     void lookAtLoose(ObjectRegister::Look look);
+    bool isOpen() const { return m_exemption != nullptr; }
+    void windowOpened();
     void windowClosed();
     void rootDestroyed();
     void updateRootsSoon();
@@ -46,7 +48,7 @@ private:
     CrvInspector m_inspector;
     OwnObjects m_own;
     Outline m_outline;
-    std::unique_ptr<ModalExemption> m_exemption; // null without a window
+    std::unique_ptr<ModalExemption> m_exemption; // null while the window is closed
     QObjectList m_roots; // what is shown; empty when that has to change
     QBasicTimer m_news; // runs while objects have come that nobody has looked at
     bool m_updateWaits = false;

@@ -237,6 +237,17 @@ int runWidgets(int argc, char** argv)
         const QAction other; // so that there is something to look for
         print(QString("taken %1").arg(QTest::qWaitFor([&] { return !isLoose(); }, 20000)));
     }
+    // Closed, it comes back with what has come meanwhile.
+    QWidget* const inspector = tree("sceneTree")->window();
+    inspector->close();
+    QAction late;
+    late.setObjectName("loose");
+    QTest::mouseClick(&window.button, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
+    print(QString("back %1, selected %2, loose %3, %4 clicks")
+              .arg(inspector->isVisible())
+              .arg(QTest::qWaitFor([&] { return selected() == "button"; }, 20000))
+              .arg(QTest::qWaitFor(isLoose, 20000))
+              .arg(window.clicks));
     print("preload " + qEnvironmentVariable("LD_PRELOAD"));
     return 7;
 }
