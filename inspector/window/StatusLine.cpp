@@ -16,9 +16,10 @@ StatusLine::StatusLine(QWidget* parent)
     m_label->setContentsMargins(fontMetrics().averageCharWidth(), 0, 0, 0);
     addWidget(m_label, 1);
     connect(qApp, &QApplication::focusChanged, this, &StatusLine::showHint);
-    connect(
-        CrvServices::getInstance(), &CrvServices::selectedNodeChanged, this, &StatusLine::showHint);
-    showHint();
+    // The program may select while its own window is in front.
+    connect(CrvServices::getInstance(), &CrvServices::selectedNodeChanged, this,
+        [this] { showHintOf(window()->focusWidget()); });
+    showHintOf(window()->focusWidget());
 }
 
 void StatusLine::setHint(QWidget* pane, const QString& hint)
@@ -26,17 +27,19 @@ void StatusLine::setHint(QWidget* pane, const QString& hint)
     if (!m_hints.contains(pane))
         connect(pane, &QObject::destroyed, this, [this, pane] { m_hints.remove(pane); });
     m_hints.insert(pane, hint);
-    showHint();
+    showHintOf(window()->focusWidget());
 }
 
 void StatusLine::showHint()
 {
-    const QWidget* focus = QApplication::focusWidget();
+    const QWidget* const focus = QApplication::focusWidget();
     // A popup, and another window in front, leave the hint as it is.
-    if (m_label->wholeText().isEmpty())
-        focus = window()->focusWidget();
-    else if (!focus || focus->window() != window())
-        return;
+    if (focus && focus->window() == window())
+        showHintOf(focus);
+}
+
+void StatusLine::showHintOf(const QWidget* focus)
+{
     QString hint;
     for (; focus && hint.isEmpty(); focus = focus->parentWidget())
         hint = m_hints.value(focus);

@@ -20,6 +20,7 @@ public:
 
 private:
     void showHint();
+    void showHintOf(const QWidget* focus);
 
     QHash<const QObject*, QString> m_hints; // by pane; not owned
     ElidedLabel* m_label; // child

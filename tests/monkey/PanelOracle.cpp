@@ -48,8 +48,8 @@ QString checkTree(const QTreeView& tree)
         const auto* const group = dynamic_cast<const KnGroup*>(node);
         if (isWhole && group && tree.isExpanded(row)
             && model.rowCount(row) != group->getNumChildren())
-            return u"the tree has %1 rows below %2"_s.arg(model.rowCount(row)).arg(
-                nodeLabel(*node));
+            return u"the tree has %1 rows below %2"_s.arg(model.rowCount(row))
+                .arg(nodeLabel(*node));
         if (row.data().toString() != nodeLabel(*node))
             return u"the tree shows %1 for %2"_s.arg(row.data().toString(), nodeLabel(*node));
     }
