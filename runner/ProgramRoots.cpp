@@ -9,6 +9,26 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+/// Windows before menus and the like, and then by name, since Qt keeps them in no order.
+bool comesBefore(const QObject* a, const QObject* b)
+{
+    const auto place = [](const QObject* object) {
+        const auto* const widget = qobject_cast<const QWidget*>(object);
+        const bool isPopup
+            = widget && (widget->windowType() == Qt::Popup || widget->windowType() == Qt::ToolTip);
+        return std::make_tuple(
+            isPopup, QLatin1String(object->metaObject()->className()), object->objectName());
+    };
+    return place(a) < place(b);
+}
+
+} // namespace
+
 QObjectList programRoots(const OwnObjects& own)
 {
     QObjectList roots { QCoreApplication::instance() };
@@ -23,6 +43,7 @@ QObjectList programRoots(const OwnObjects& own)
         if (!window->parent() && !window->inherits("QWidgetWindow"))
             roots += window;
     }
+    std::stable_sort(roots.begin() + 1, roots.end(), comesBefore);
     return roots;
 }
 

@@ -218,10 +218,13 @@ int runWidgets(int argc, char** argv)
     print(QString("%1 clicks").arg(window.clicks));
     const auto isShown = [] { return rows(tree("sceneTree")).contains("second"); };
     {
+        QMenu menu;
+        menu.setObjectName("menu");
         QWidget second;
         second.setObjectName("second");
         second.show();
         print(QString("second %1").arg(QTest::qWaitFor(isShown, 20000)));
+        print(rows(tree("sceneTree")).join(' '));
     }
     print(QString("gone %1").arg(QTest::qWaitFor([&] { return !isShown(); }, 20000)));
     const auto isLoose = [] {

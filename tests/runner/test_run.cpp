@@ -54,7 +54,7 @@ private Q_SLOTS:
     {
         const Result result = run({ guest, u"widgets"_s });
         QCOMPARE(result.out,
-            u"roots guest window Objects without a parent\n0 gestures\nselected 1, 0 clicks\n1 clicks\nsecond 1\ngone 1\nloose 1\ntaken 1\nback 1, selected 1, loose 1, 1 clicks\npreload %1\n"_s
+            u"roots guest window Objects without a parent\n0 gestures\nselected 1, 0 clicks\n1 clicks\nsecond 1\nguest second window menu Objects without a parent\ngone 1\nloose 1\ntaken 1\nback 1, selected 1, loose 1, 1 clicks\npreload %1\n"_s
                 .arg(sanitizer));
         QCOMPARE(result.status, 7);
     }
