@@ -97,6 +97,7 @@ private Q_SLOTS:
             });
             QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
             QCoreApplication::sendEvent(m_inspector->view(u"sceneTree"_s)->viewport(), &key);
+            QTRY_VERIFY(!QApplication::activePopupWidget());
         };
         choose(u"Desk lamp"_s, u"copyNodeFields"_s);
         QVERIFY(clipboardText().contains(u"\nintensity 0.65\n"_s));
