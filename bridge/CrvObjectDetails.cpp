@@ -27,15 +27,6 @@ QObject* callableObject(const KnFieldContainer* node)
     return object && object->thread() == QThread::currentThread() ? object : nullptr;
 }
 
-/// The class that declares the property.
-const QMetaObject* declaringClass(const QMetaProperty& property)
-{
-    const QMetaObject* declaring = property.enclosingMetaObject();
-    while (declaring->propertyOffset() > property.propertyIndex())
-        declaring = declaring->superClass();
-    return declaring;
-}
-
 QString writingNote(const QMetaProperty& property, const KnField& field)
 {
     if (property.isWritable() && field.isReadOnly())
@@ -59,7 +50,7 @@ QString crvPropertyNote(const KnField* field)
         return tr("dynamic property");
     QStringList lines { QStringLiteral("%1 %2::%3")
                             .arg(QLatin1String(property.typeName()),
-                                QLatin1String(declaringClass(property)->className()),
+                                QLatin1String(property.enclosingMetaObject()->className()),
                                 QLatin1String(property.name())) };
     lines += writingNote(property, *field);
     if (property.hasNotifySignal())

@@ -14,7 +14,7 @@
 class Machine : public QObject {
     Q_OBJECT
     Q_PROPERTY(int speed READ speed WRITE setSpeed RESET resetSpeed NOTIFY speedChanged)
-    Q_PROPERTY(QString label MEMBER m_label NOTIFY labelChanged)
+    Q_PROPERTY(QString label MEMBER m_label RESET resetLabel NOTIFY labelChanged)
     Q_PROPERTY(Mode mode MEMBER m_mode)
     Q_PROPERTY(Parts parts READ parts WRITE setParts)
     Q_PROPERTY(QColor paint MEMBER m_paint)
@@ -44,6 +44,7 @@ public:
         Q_EMIT speedChanged();
     }
     Q_INVOKABLE void resetSpeed() { setSpeed(10); }
+    void resetLabel() { m_label = QStringLiteral("new"); }
     double heat() const { return 2.0 * m_speed; }
     Parts parts() const { return m_parts; }
     void setParts(Parts parts) { m_parts = parts; }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "CrvNodeDetails.h"
 #include "CrvObjectDetails.h"
 #include "CrvObjects.h"
 #include "CrvStrings.h"
@@ -10,6 +11,7 @@
 #include "KnSensorQueue.h"
 #include "Machine.h"
 #include "ObjectWatch.h"
+#include "TextRows.h"
 
 #include <QAbstractEventDispatcher>
 #include <QPointer>
@@ -104,42 +106,6 @@ private Q_SLOTS:
         QCOMPARE(crvNodeObject(m_node.get()), m_machine.get());
     }
 
-    // Texts as they would come from an editor, and what the setter makes of them.
-    void anEditGoesThroughTheSetter_data()
-    {
-        QTest::addColumn<QString>("property");
-        QTest::addColumn<QString>("edit");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QVariant>("value");
-        QTest::addRow("number") << u"speed"_s << u"20"_s << u"20"_s << QVariant(20);
-        QTest::addRow("clamped") << u"speed"_s << u"200"_s << u"100"_s << QVariant(100);
-        QTest::addRow("enum") << u"mode"_s << u"Broken"_s << u"Broken"_s
-                              << QVariant::fromValue(Machine::Broken);
-        QTest::addRow("flags") << u"parts"_s << u"(Belt | Motor)"_s << u"(Belt | Motor)"_s
-                               << QVariant::fromValue(Machine::Belt | Machine::Motor);
-        QTest::addRow("variant") << u"load"_s << u"7.5"_s << u"7.5"_s << QVariant(7.5);
-        QTest::addRow("list") << u"steps"_s << u"[ 4 ]"_s << u"[ 4 ]"_s
-                              << QVariant::fromValue(QList<int>({ 4 }));
-        QTest::addRow("text") << u"place"_s << u"0 0  7 8"_s << u"0 0 7 8"_s
-                              << QVariant(QRect(0, 0, 7, 8));
-    }
-    void anEditGoesThroughTheSetter()
-    {
-        QFETCH(QString, property);
-        QFETCH(QString, edit);
-        QFETCH(QString, shown);
-        QFETCH(QVariant, value);
-        KnField* const field = m_node->getField(KbName(toKbString(property)));
-        const QVariant before = m_machine->property(property.toLatin1());
-        QCOMPARE(m_machine->m_speedWrites, 0);
-        const QString beforeText = text(field);
-        QVERIFY(field->set(toKbString(edit)));
-        QCOMPARE(m_machine->property(property.toLatin1()), value);
-        QCOMPARE(text(field), shown);
-        QVERIFY(field->set(toKbString(beforeText)));
-        QCOMPARE(m_machine->property(property.toLatin1()), before);
-    }
-
     void lookingAndMarkingWriteNothing()
     {
         KnField* const speed = m_node->getField("speed");
@@ -169,6 +135,10 @@ private Q_SLOTS:
         Q_EMIT m_machine->speedChanged(); // nothing has
         runSensors();
         QCOMPARE(watch.runs, 1);
+        heatWatch.sensor.detach();
+        m_machine->setSpeed(32);
+        runSensors();
+        QCOMPARE(watch.runs, 2);
     }
 
     void whatHasNoSignalIsComparedWhileItIsWatched()
@@ -219,6 +189,17 @@ private Q_SLOTS:
         button.setStatusTip(u"two"_s);
         QTRY_VERIFY((runSensors(), other.runs == 2));
         QCOMPARE(icon.runs, 0);
+    }
+
+    void aResetGivesBackTheVeryValue()
+    {
+        KnField* const label = m_node->getField("label");
+        m_machine->m_label = QString();
+        const QString before = text(label);
+        QVERIFY(label->resetToDefault());
+        QCOMPARE(m_machine->m_label, u"new"_s);
+        QVERIFY(label->set(toKbString(before)));
+        QVERIFY(m_machine->m_label.isNull());
     }
 
     void aTypedWriteOfAReadOnlyPropertyIsTakenBack()
@@ -281,6 +262,10 @@ private Q_SLOTS:
         QCOMPARE(text(link), u"Machine"_s);
         const KnNodePtr node(crvLinkedNode(link));
         QCOMPARE(crvNodeObject(node.get()), &next);
+        const CrvNodeDetails* const details = CrvNodeDetails::of(*link);
+        QVERIFY(details->isLink(*link));
+        crvHideObject(&next); // as a window of the inspector's is
+        QVERIFY(!details->isLink(*link));
         m_machine->m_next = nullptr;
         QVERIFY(!crvLinkedNode(link));
         QVERIFY(!crvLinkedNode(m_node->getField("speed")));
@@ -293,19 +278,16 @@ private Q_SLOTS:
         runSensors();
         KnField* const weight = m_node->getField("weight");
         QVERIFY(weight && m_node->getField("speed"));
+        const KnReadErrorCapture capture;
         QVERIFY(weight->set("4"));
         QCOMPARE(m_machine->property("weight"), QVariant(4.0));
+        QVERIFY(capture.getText().isEmpty());
     }
 
-    void deathLeavesNothingToWrite_data()
-    {
-        QTest::addColumn<bool>("inSetter");
-        QTest::addRow("before") << false;
-        QTest::addRow("within the setter") << true;
-    }
+    void deathLeavesNothingToWrite_data() { addTextRows({ { "before" }, { "in a setter" } }); }
     void deathLeavesNothingToWrite()
     {
-        QFETCH(bool, inSetter);
+        const bool inSetter = textRow<1>()[0] == u"in a setter";
         KnField* const speed = m_node->getField("speed");
         KnField* const label = m_node->getField("label");
         KnField* const fuse = m_node->getField("fuse");
@@ -373,53 +355,29 @@ private Q_SLOTS:
         }
     }
 
-    void aPictureThatStaysIsShownOnce()
-    {
-        QImage picture(2, 2, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        m_machine->setProperty("picture", picture);
-        runSensors();
-        KnField* const field = m_node->getField("picture");
-        const Watch watch(field);
-        text(field);
-        runSensors();
-        QCOMPARE(watch.runs, 0);
-        picture.fill(Qt::blue);
-        m_machine->setProperty("picture", picture);
-        text(field);
-        runSensors();
-        QCOMPARE(watch.runs, 1);
-    }
-
     void theClassTellsOfProperties_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QString>("note");
-        QTest::addRow("reset") << QByteArray("speed")
-                               << u"int Machine::speed\ncan be written and reset\n"
-                                  "changes are announced by speedChanged()"_s;
-        QTest::addRow("read-only") << QByteArray("heat")
-                                   << u"double Machine::heat\nread-only\n"
-                                      "changes are announced by speedChanged()"_s;
-        QTest::addRow("only shown") << QByteArray("next")
-                                    << u"QObject* Machine::next\n"
-                                       "can be written, but is only shown here\n"
-                                       "nothing announces changes"_s;
-        QTest::addRow("silent") << QByteArray("polled")
-                                << u"int Machine::polled\ncan be written\n"
-                                   "nothing announces changes"_s;
-        QTest::addRow("of a base class") << QByteArray("objectName")
-                                         << u"QString QObject::objectName\ncan be written\n"
-                                            "changes are announced by objectNameChanged(QString)"_s;
-        QTest::addRow("dynamic") << QByteArray("weight") << u"dynamic property"_s;
+        addTextRows({
+            { "speed",
+                "int Machine::speed\ncan be written and reset\n"
+                "changes are announced by speedChanged()" },
+            { "heat", "double Machine::heat\nread-only\nchanges are announced by speedChanged()" },
+            { "next",
+                "QObject* Machine::next\ncan be written, but is only shown here\n"
+                "nothing announces changes" },
+            { "polled", "int Machine::polled\ncan be written\nnothing announces changes" },
+            { "objectName",
+                "QString QObject::objectName\ncan be written\n"
+                "changes are announced by objectNameChanged(QString)" },
+            { "weight", "dynamic property" },
+        });
     }
     void theClassTellsOfProperties()
     {
-        QFETCH(QByteArray, name);
-        QFETCH(QString, note);
+        const auto [name, note] = textRow<2>();
         m_machine->setProperty("weight", 1);
         runSensors();
-        KnField* const field = m_node->getField(name.constData());
+        KnField* const field = m_node->getField(KbName(toKbString(name)));
         QCOMPARE(crvPropertyNote(field), note);
         m_machine.reset();
         QCOMPARE(crvPropertyNote(field), QString());

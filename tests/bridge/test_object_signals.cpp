@@ -2,6 +2,7 @@
 #include "CrvNodeDetails.h"
 #include "CrvObjects.h"
 #include "KnFieldContainer.h"
+#include "TextRows.h"
 
 #include <QColor>
 #include <QPointer>
@@ -116,6 +117,9 @@ private Q_SLOTS:
         watch(signal, false);
         emission(m_speaker);
         QCOMPARE(printed().count(u'\n'), 1);
+        watch(signal);
+        emission(m_speaker);
+        QCOMPARE(printed().count(u'\n'), 2);
     }
 
     void aFloodIsCounted()
@@ -153,24 +157,15 @@ private Q_SLOTS:
 
     void callsGiveTexts_data()
     {
-        QTest::addColumn<QByteArray>("method");
-        QTest::addColumn<QString>("text");
-        QTest::addRow("text") << QByteArray("word()") << u"Speaker \"radio\".word() → \"hello\""_s;
-        QTest::addRow("variant") << QByteArray("load()") << u"Speaker \"radio\".load() → 7"_s;
-        QTest::addRow("nothing") << QByteArray("nothing()")
-                                 << u"Speaker \"radio\".nothing() was called"_s;
-        QTest::addRow("exception") << QByteArray("throwing()")
-                                   << u"Speaker \"radio\".throwing(): an exception was thrown"_s;
-        QTest::addRow("unknown") << QByteArray("other()")
-                                 << u"Speaker \"radio\".other() wasn't called: the object is gone, "
-                                    "or has no such method"_s;
+        addTextRows({ { "word()", " → \"hello\"" }, { "load()", " → 7" },
+            { "nothing()", " was called" }, { "throwing()", ": an exception was thrown" },
+            { "other()", " wasn't called: the object is gone, or has no such method" } });
     }
     void callsGiveTexts()
     {
-        QFETCH(QByteArray, method);
-        QFETCH(QString, text);
-        QCOMPARE(call(method), text);
-        QCOMPARE(m_speaker->m_calls, method == "nothing()" ? 1 : 0);
+        const auto [method, text] = textRow<2>();
+        QCOMPARE(call(qPrintable(method)), u"Speaker \"radio\"."_s + method + text);
+        QCOMPARE(m_speaker->m_calls, method == u"nothing()" ? 1 : 0);
     }
 
     void anObjectDiesByACall()

@@ -3,6 +3,7 @@
 #include "ElidedLabel.h"
 #include "FileMenu.h"
 #include "InspectorFixture.h"
+#include "TextRows.h"
 
 #include <QDropEvent>
 #include <QLineEdit>
@@ -45,13 +46,11 @@ class TestFirstSteps : public InspectorTest {
 private Q_SLOTS:
     void aSceneBeginsWithAnOpenEditor_data()
     {
-        QTest::addColumn<QString>("way");
-        for (const char* way : { "start", "open", "drop", "recent" })
-            QTest::newRow(way) << QString::fromLatin1(way);
+        addTextRows({ { "start" }, { "open" }, { "drop" }, { "recent" } });
     }
     void aSceneBeginsWithAnOpenEditor()
     {
-        QFETCH(QString, way);
+        const QString way = textRow<1>()[0];
         MainWindow& window = m_inspector->window;
         const KnNodePtr former = window.document().root();
         if (way == u"open")

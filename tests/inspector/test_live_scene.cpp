@@ -7,6 +7,7 @@
 #include "KnGroup.h"
 #include "KnSensorQueue.h"
 #include "SliderInput.h"
+#include "TextRows.h"
 
 #include <QAbstractEventDispatcher>
 #include <QColorDialog>
@@ -152,15 +153,10 @@ private Q_SLOTS:
         QCOMPARE(textOf(neighbor), before);
     }
 
-    void theViewStays_data()
-    {
-        QTest::addColumn<QString>("filterText");
-        QTest::newRow("bare") << QString();
-        QTest::newRow("filter") << u"material"_s;
-    }
+    void theViewStays_data() { addTextRows({ { "bare" }, { "filter", "material" } }); }
     void theViewStays()
     {
-        QFETCH(QString, filterText);
+        const QString filterText = textRow<2>()[1];
         CrvServices* const services = CrvServices::getInstance();
         QTest::keyClicks(m_inspector->window.findChild<QLineEdit*>(u"sceneFilter"_s), filterText);
         KnFieldContainer* const selected = m_a->getChild(70);

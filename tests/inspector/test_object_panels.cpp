@@ -6,6 +6,7 @@
 #include "KnGroup.h"
 #include "Machine.h"
 #include "RowInput.h"
+#include "TextRows.h"
 
 #include <QAction>
 #include <QApplication>
@@ -137,20 +138,15 @@ private Q_SLOTS:
 
     void aLockedRowSaysSo_data()
     {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<bool>("locked");
-        QTest::addRow("read-only") << u"heat"_s << true;
-        QTest::addRow("link") << u"next"_s << true;
-        QTest::addRow("editable") << u"speed"_s << false;
+        addTextRows({ { "heat", "read-only" }, { "next", "read-only" }, { "speed" } });
     }
     void aLockedRowSaysSo()
     {
-        QFETCH(QString, field);
-        QFETCH(bool, locked);
+        const auto [field, note] = textRow<2>();
+        const bool locked = !note.isEmpty();
         const QModelIndex index = cell(field);
         QCOMPARE(index.data(FieldListModel::ReadOnlyRole).toBool(), locked);
-        QCOMPARE(index.data(Qt::AccessibleDescriptionRole).toString(),
-            locked ? u"read-only"_s : QString());
+        QCOMPARE(index.data(Qt::AccessibleDescriptionRole).toString(), note);
         QCOMPARE(index.data(Qt::ToolTipRole).toString().contains(u"read-only"_s), locked);
         QVERIFY(locked || index.flags().testFlag(Qt::ItemIsEditable));
         QVERIFY(!locked || !index.flags().testFlag(Qt::ItemIsEditable));
@@ -250,15 +246,10 @@ private Q_SLOTS:
         QCOMPARE(m_saw->heat(), 2.0 * m_saw->m_speed);
     }
 
-    void resetCallsTheProperty_data()
-    {
-        QTest::addColumn<bool>("inEditor");
-        QTest::addRow("list") << false;
-        QTest::addRow("editor") << true;
-    }
+    void resetCallsTheProperty_data() { addTextRows({ { "list" }, { "editor" } }); }
     void resetCallsTheProperty()
     {
-        QFETCH(bool, inEditor);
+        const bool inEditor = textRow<1>()[0] == u"editor";
         m_mill->setSpeed(50);
         clickCell(u"speed"_s);
         auto* const button = find<QPushButton>(u"m_defaultButton"_s);

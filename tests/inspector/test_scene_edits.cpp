@@ -4,6 +4,7 @@
 #include "KnGroup.h"
 #include "KnMaterial.h"
 #include "SceneModel.h"
+#include "TextRows.h"
 
 #include <QDialog>
 #include <QDragEnterEvent>
@@ -84,59 +85,38 @@ private Q_SLOTS:
 
     void keysMakeSteps_data()
     {
-        QTest::addColumn<QString>("node");
-        QTest::addColumn<QStringList>("keys"); // in quotes what is typed
-        QTest::addColumn<QString>("after");
-        QTest::addColumn<QString>("selected");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char* name, const QString& node, const QString& keys,
-                             const QString& after, const QString& selected, const QString& text) {
-            QTest::newRow(name) << node << keys.split(u' ') << after << selected << text;
-        };
-        row("add to a group", u"Hall"_s, u"Ins 'pointl Return"_s,
-            u"Scene(Room(A B C) Hall(PointLight))"_s, u"PointLight"_s, u"Add PointLight to Hall"_s);
-        row("add behind a leaf", u"A"_s, u"Ins 'light Down Return"_s,
-            u"Scene(Room(A PointLight B C) Hall())"_s, u"PointLight"_s,
-            u"Add PointLight to Room"_s);
-        row("delete", u"B"_s, u"Del"_s, u"Scene(Room(A C) Hall())"_s, u"C"_s, u"Delete B"_s);
-        row("delete the last", u"C"_s, u"Del"_s, u"Scene(Room(A B) Hall())"_s, u"B"_s,
-            u"Delete C"_s);
-        row("delete a group", u"Room"_s, u"Del"_s, u"Scene(Hall())"_s, u"Hall"_s,
-            u"Delete Room (4 nodes)"_s);
-        row("delete the only root", u"Scene"_s, u"Del"_s, QString(), QString(),
-            u"Delete Scene (6 nodes)"_s);
-        row("duplicate", u"Room"_s, u"Ctrl+D"_s, u"Scene(Room(A B C) Room(A B C) Hall())"_s,
-            u"Room"_s, u"Duplicate Room"_s);
-        row("rename", u"B"_s, u"F2 'Lamp Return"_s, u"Scene(Room(A Lamp C) Hall())"_s, u"Lamp"_s,
-            u"Rename B to Lamp"_s);
-        row("take the name away", u"B"_s, u"F2 Del Return"_s, u"Scene(Room(A Material C) Hall())"_s,
-            u"Material"_s, u"Take the name of B away"_s);
-        row("up", u"C"_s, u"Alt+Up"_s, u"Scene(Room(A C B) Hall())"_s, u"C"_s, u"Move C up"_s);
-        row("down", u"A"_s, u"Alt+Down"_s, u"Scene(Room(B A C) Hall())"_s, u"A"_s,
-            u"Move A down"_s);
-        row("duplicate a root", u"Scene"_s, u"Ctrl+D"_s,
-            u"Scene(Room(A B C) Hall()) Scene(Room(A B C) Hall())"_s, u"Scene"_s,
-            u"Duplicate Scene"_s);
-        row("nowhere to go", u"A"_s, u"Alt+Up"_s, u"Scene(Room(A B C) Hall())"_s, u"A"_s,
-            QString());
-        row("the same name", u"B"_s, u"F2 Return"_s, u"Scene(Room(A B C) Hall())"_s, u"B"_s,
-            QString());
-        row("no name after all", u"B"_s, u"F2 'Lamp Esc"_s, u"Scene(Room(A B C) Hall())"_s, u"B"_s,
-            QString());
-        row("no type after all", u"B"_s, u"Ins Esc"_s, u"Scene(Room(A B C) Hall())"_s, u"B"_s,
-            QString());
+        // The node, the keys (behind a quote what is typed), the scene then, what is selected, and
+        // the text of the step.
+        addTextRows({
+            { "Hall", "Ins 'pointl Return", "Scene(Room(A B C) Hall(PointLight))", "PointLight",
+                "Add PointLight to Hall" },
+            { "A", "Ins 'light Down Return", "Scene(Room(A PointLight B C) Hall())", "PointLight",
+                "Add PointLight to Room" },
+            { "B", "Del", "Scene(Room(A C) Hall())", "C", "Delete B" },
+            { "C", "Del", "Scene(Room(A B) Hall())", "B", "Delete C" },
+            { "Room", "Del", "Scene(Hall())", "Hall", "Delete Room (4 nodes)" },
+            { "Scene", "Del", "", "", "Delete Scene (6 nodes)" },
+            { "Room", "Ctrl+D", "Scene(Room(A B C) Room(A B C) Hall())", "Room", "Duplicate Room" },
+            { "B", "F2 'Lamp Return", "Scene(Room(A Lamp C) Hall())", "Lamp", "Rename B to Lamp" },
+            { "B", "F2 Del Return", "Scene(Room(A Material C) Hall())", "Material",
+                "Take the name of B away" },
+            { "C", "Alt+Up", "Scene(Room(A C B) Hall())", "C", "Move C up" },
+            { "A", "Alt+Down", "Scene(Room(B A C) Hall())", "A", "Move A down" },
+            { "Scene", "Ctrl+D", "Scene(Room(A B C) Hall()) Scene(Room(A B C) Hall())", "Scene",
+                "Duplicate Scene" },
+            { "A", "Alt+Up", "Scene(Room(A B C) Hall())", "A", "" },
+            { "B", "F2 Return", "Scene(Room(A B C) Hall())", "B", "" },
+            { "B", "F2 'Lamp Esc", "Scene(Room(A B C) Hall())", "B", "" },
+            { "B", "Ins Esc", "Scene(Room(A B C) Hall())", "B", "" },
+        });
     }
     void keysMakeSteps()
     {
-        QFETCH(const QString, node);
-        QFETCH(const QStringList, keys);
-        QFETCH(const QString, after);
-        QFETCH(const QString, selected);
-        QFETCH(const QString, text);
+        const auto [node, keys, after, selected, text] = textRow<5>();
         QUndoStack* const stack = CrvServices::getInstance()->getUndoStack();
         const QString before = outline();
         m_inspector->clickNode(node);
-        for (const QString& key : keys)
+        for (const QString& key : keys.split(u' '))
             press(key);
         const int steps = text.isEmpty() ? 0 : 1;
         QTRY_COMPARE(outline(), after);
@@ -170,39 +150,26 @@ private Q_SLOTS:
 
     void dragging_data()
     {
-        QTest::addColumn<QStringList>("dragged");
-        QTest::addColumn<QString>("onto");
-        QTest::addColumn<bool>("between"); // in front of it, not into it
-        QTest::addColumn<QString>("after"); // empty if it isn't taken
-        QTest::newRow("into a group")
-            << QStringList { u"B"_s } << u"Hall"_s << false << u"Scene(Room(A C) Hall(B))"_s;
-        QTest::newRow("in front of a sibling")
-            << QStringList { u"C"_s } << u"A"_s << true << u"Scene(Room(C A B) Hall())"_s;
-        QTest::newRow("several") << QStringList { u"A"_s, u"C"_s } << u"Hall"_s << false
-                                 << u"Scene(Room(B) Hall(A C))"_s;
-        QTest::newRow("several among siblings")
-            << QStringList { u"B"_s, u"C"_s } << u"A"_s << true << u"Scene(Room(B C A) Hall())"_s;
-        QTest::newRow("to the roots")
-            << QStringList { u"Hall"_s } << u"Scene"_s << true << u"Hall() Scene(Room(A B C))"_s;
-        QTest::newRow("onto a leaf") << QStringList { u"Hall"_s } << u"A"_s << false
-                                     << u"Scene(Room(A Hall() B C))"_s; // behind it
-        QTest::newRow("into itself")
-            << QStringList { u"Room"_s } << u"Room"_s << false << QString();
-        QTest::newRow("below itself") << QStringList { u"Room"_s } << u"A"_s << true << QString();
+        // What is dragged, in front of or into what, and the scene then, if it is taken at all.
+        addTextRows({ { "B", "into", "Hall", "Scene(Room(A C) Hall(B))" },
+            { "C", "before", "A", "Scene(Room(C A B) Hall())" },
+            { "A C", "into", "Hall", "Scene(Room(B) Hall(A C))" },
+            { "B C", "before", "A", "Scene(Room(B C A) Hall())" },
+            { "Hall", "before", "Scene", "Hall() Scene(Room(A B C))" },
+            { "Hall", "into", "A", "Scene(Room(A Hall() B C))" }, // behind the leaf
+            { "Room", "into", "Room" }, { "Room", "before", "A" } });
     }
     void dragging()
     {
-        QFETCH(const QStringList, dragged);
-        QFETCH(const QString, onto);
-        QFETCH(const bool, between);
-        QFETCH(const QString, after);
+        const auto [names, how, onto, after] = textRow<4>();
+        const QStringList dragged = names.split(u' ');
         const QString before = outline();
         QModelIndexList rows;
         for (const QString& name : dragged)
             rows += index(name);
         const std::unique_ptr<QMimeData> data(m_tree->model()->mimeData(rows));
         const QRect target = m_tree->visualRect(index(onto));
-        const QPointF place = between ? target.topLeft() : target.center();
+        const QPointF place = how == u"before" ? target.topLeft() : target.center();
         QWidget* const viewport = m_tree->viewport();
         QDragEnterEvent enter(
             place.toPoint(), Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
@@ -268,27 +235,17 @@ private Q_SLOTS:
 
     void stepsFindTheirNodes_data()
     {
-        QTest::addColumn<QString>("node");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("meanwhile"); // + a node in front, - one taken out
-        QTest::addColumn<QString>("undone");
-        QTest::newRow("delete, one more in front")
-            << u"B"_s << u"Del"_s << u"+X"_s << u"Scene(Room(X A B C) Hall())"_s;
-        QTest::newRow("delete, the neighbours gone")
-            << u"B"_s << u"Del"_s << u"-A-C"_s << u"Scene(Room(B) Hall())"_s;
-        QTest::newRow("move, one more in front")
-            << u"B"_s << u"Alt+Up"_s << u"+X"_s << u"Scene(Room(X A B C) Hall())"_s;
-        QTest::newRow("duplicate, others gone")
-            << u"C"_s << u"Ctrl+D"_s << u"-A-B"_s << u"Scene(Room(C) Hall())"_s;
-        QTest::newRow("move, itself gone")
-            << u"B"_s << u"Alt+Up"_s << u"-B"_s << u"Scene(Room(A C) Hall())"_s;
+        // The node, the key, what happens meanwhile (+ a node in front, - one taken out), and the
+        // scene after undo.
+        addTextRows({ { "B", "Del", "+X", "Scene(Room(X A B C) Hall())" },
+            { "B", "Del", "-A-C", "Scene(Room(B) Hall())" },
+            { "B", "Alt+Up", "+X", "Scene(Room(X A B C) Hall())" },
+            { "C", "Ctrl+D", "-A-B", "Scene(Room(C) Hall())" },
+            { "B", "Alt+Up", "-B", "Scene(Room(A C) Hall())" } });
     }
     void stepsFindTheirNodes()
     {
-        QFETCH(const QString, node);
-        QFETCH(const QString, key);
-        QFETCH(const QString, meanwhile);
-        QFETCH(const QString, undone);
+        const auto [node, key, meanwhile, undone] = textRow<4>();
         m_inspector->clickNode(node);
         press(key);
         for (qsizetype i = 0; i < meanwhile.size(); i += 2) {

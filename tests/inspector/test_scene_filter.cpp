@@ -6,6 +6,7 @@
 #include "KnNameSensor.h"
 #include "KnSensorQueue.h"
 #include "SceneFilterModel.h"
+#include "TextRows.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -88,44 +89,26 @@ private Q_SLOTS:
 
     void words_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("matches");
-        const auto row = [](const char* text, const QString& matches) {
-            QTest::newRow(text) << QString::fromUtf8(text) << matches;
-        };
-        row("  oAk ", u"Oak"_s);
-        row("light", u"Desk lamp"_s); // by its type
-        row("desk lamp", u"Desk lamp"_s);
-        row("lamp desk", u"Desk lamp"_s); // both, in any order
-        row("\"lamp desk\"", QString());
-        row("\"k l\"", u"Desk lamp"_s);
-        row("ÉTÉ", u"Été wall"_s);
-        row(".*", QString());
-        row("name:light", QString());
-        row("type:POINTlight", u"Desk lamp"_s);
-        row("type:\"a\" name:oak", u"Oak"_s);
-        row("class:NODE oak", u"Oak"_s); // by what its type derives from
-        row("type:node oak", QString());
-        row("transform", u"Transform"_s); // without a name
-        row("field:diffuse", u"Oak, Été wall"_s);
-        row("field:color wall", u"Été wall"_s);
-        row("\"a:b>c\"", u"a:b>c"_s);
-        row("transparency>0", u"Oak"_s);
-        row("Transparency=0.1", u"Oak"_s);
-        row("transparency<=0.1", u"Oak, Été wall"_s);
-        row("transparency!=0", u"Oak"_s);
-        row("transparency>=+1e-1", u"Oak"_s);
-        row("transparency<0", QString());
-        row("diffuseColor=0.25", u"Oak"_s); // one of three
-        row("string=TWO", u"a:b>c"_s);
-        row("on=false", u"Desk lamp"_s);
-        row("on!=\"true\"", u"Desk lamp"_s);
-        row("transp>0", QString()); // no such field
+        addTextRows({
+            { "  oAk ", "Oak" }, { "light", "Desk lamp" }, // by its type
+            { "desk lamp", "Desk lamp" }, { "lamp desk", "Desk lamp" }, // both, in any order
+            { "\"lamp desk\"", "" }, { "\"k l\"", "Desk lamp" }, { "ÉTÉ", "Été wall" },
+            { ".*", "" }, { "name:light", "" }, { "type:POINTlight", "Desk lamp" },
+            { "type:\"a\" name:oak", "Oak" },
+            { "class:NODE oak", "Oak" }, // by what its type derives from
+            { "type:node oak", "" }, { "transform", "Transform" }, // without a name
+            { "field:diffuse", "Oak, Été wall" }, { "field:color wall", "Été wall" },
+            { "\"a:b>c\"", "a:b>c" }, { "transparency>0", "Oak" }, { "Transparency=0.1", "Oak" },
+            { "transparency<=0.1", "Oak, Été wall" }, { "transparency!=0", "Oak" },
+            { "transparency>=+1e-1", "Oak" }, { "transparency<0", "" },
+            { "diffuseColor=0.25", "Oak" }, // one of three
+            { "string=TWO", "a:b>c" }, { "on=false", "Desk lamp" }, { "on!=\"true\"", "Desk lamp" },
+            { "transp>0", "" }, // no such field
+        });
     }
     void words()
     {
-        QFETCH(const QString, text);
-        QFETCH(const QString, matches);
+        const auto [text, matches] = textRow<2>();
         QTest::keyClicks(m_line, u"\""_s); // only for a moment
         m_line->clear();
         m_line->insert(text);
@@ -141,14 +124,12 @@ private Q_SLOTS:
 
     void aTextThatIsNotCompleteChangesNothing_data()
     {
-        QTest::addColumn<QString>("rest");
-        for (const char* const rest :
-            { "type:", "field:\"\"", "transparency>", ">0", "on<true", "\"desk", "typ:light" })
-            QTest::newRow(rest) << QString::fromLatin1(rest);
+        addTextRows({ { "type:" }, { "field:\"\"" }, { "transparency>" }, { ">0" }, { "on<true" },
+            { "\"desk" }, { "typ:light" } });
     }
     void aTextThatIsNotCompleteChangesNothing()
     {
-        QFETCH(const QString, rest);
+        const QString rest = textRow<1>()[0];
         QTest::keyClicks(m_line, u"oak"_s);
         const QStringList shown = shownRows(*m_tree);
         QVERIFY(m_note->isHidden());
@@ -236,15 +217,10 @@ private Q_SLOTS:
         QVERIFY(shownRows(*m_tree).contains(u"Book"_s));
     }
 
-    void stepsAlongTheMatches_data()
-    {
-        QTest::addColumn<bool>("taken");
-        QTest::newRow("filtered") << false;
-        QTest::newRow("the filter taken away") << true;
-    }
+    void stepsAlongTheMatches_data() { addTextRows({ { "filtered" }, { "filter taken away" } }); }
     void stepsAlongTheMatches()
     {
-        QFETCH(const bool, taken);
+        const bool taken = textRow<1>()[0] == u"filter taken away";
         auto* const group = static_cast<KnGroup*>(m_scene.get());
         auto* const room = static_cast<KnGroup*>(newNode(u"Group"_s, u"Material room"_s));
         room->addChild(newNode(u"Material"_s, u"Pine"_s));

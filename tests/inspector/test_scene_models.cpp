@@ -171,15 +171,10 @@ private Q_SLOTS:
         QCOMPARE(shown(QString()), u"Material, Material"_s);
     }
 
-    void treeFollowsTheGraph_data()
-    {
-        QTest::addColumn<QString>("filterText");
-        QTest::newRow("bare") << QString();
-        QTest::newRow("filter") << u"1"_s;
-    }
+    void treeFollowsTheGraph_data() { addTextRows({ { "bare" }, { "filter", "1" } }); }
     void treeFollowsTheGraph()
     {
-        QFETCH(QString, filterText);
+        const QString filterText = textRow<2>()[1];
         const quint32 seed = QRandomGenerator::global()->generate();
         RandomScene scene(seed);
         SceneFilterModel filtering;
@@ -217,23 +212,16 @@ private Q_SLOTS:
 
     void whatHappensToRows_data()
     {
-        QTest::addColumn<QString>("children"); // of a group that has "abcdef"
-        QTest::addColumn<QString>("told"); // signals by their first letters, and rows
-        QTest::newRow("insert") << u"abxycdef"_s << u"i2-3"_s;
-        QTest::newRow("remove") << u"aef"_s << u"r1-3"_s;
-        QTest::newRow("two places") << u"xbcdefy"_s << u"r0-0 i0-0 i6-6"_s;
-        QTest::newRow("down") << u"bcdefa"_s << u"m0>6"_s;
-        QTest::newRow("up") << u"afbcde"_s << u"m5>1"_s;
-        QTest::newRow("exchange") << u"ebcdaf"_s << u"m4>0 m1>5"_s;
-        QTest::newRow("all at once") << u"xfbcd"_s << u"r4-4 r0-0 m3>0 i0-0"_s;
-        QTest::newRow("the same") << u"abcdef"_s << QString();
-        QTest::newRow("twice") << u"abcdefa"_s << u"i6-6"_s;
-        QTest::newRow("empty") << QString() << u"r0-5"_s;
+        // The children of a group that has "abcdef", and the signals by their first letters, and
+        // rows.
+        addTextRows({ { "abxycdef", "i2-3" }, { "aef", "r1-3" }, { "xbcdefy", "r0-0 i0-0 i6-6" },
+            { "bcdefa", "m0>6" }, { "afbcde", "m5>1" }, { "ebcdaf", "m4>0 m1>5" },
+            { "xfbcd", "r4-4 r0-0 m3>0 i0-0" }, { "abcdef", "" }, { "abcdefa", "i6-6" },
+            { "", "r0-5" } });
     }
     void whatHappensToRows()
     {
-        QFETCH(const QString, children);
-        QFETCH(QString, told);
+        const auto [children, told] = textRow<2>();
         std::map<QChar, KnNodePtr> nodes;
         auto* const group = new KnGroup;
         const auto fill = [&](const QString& names) {

@@ -9,6 +9,7 @@
 #include "KnMFields.h"
 #include "KnSFields.h"
 #include "SliderInput.h"
+#include "TextRows.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCheckBox>
@@ -22,6 +23,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 
 namespace {
 
@@ -55,178 +57,55 @@ private Q_SLOTS:
 
     void oneGestureIsOneStep_data()
     {
-        QTest::addColumn<QString>("place");
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<QStringList>("steps");
-        const auto add
-            = [](const char* name, const char* place, Act act, const QStringList& steps) {
-                  QTest::newRow(name) << QString::fromLatin1(place) << std::move(act) << steps;
-              };
-        add("drag", "Desk lamp.intensity", [this] { drag(40); },
-            { u"Desk lamp.intensity: 0.65 → *"_s });
-        add("drag and back", "Window light.intensity", [this] { drag(40, -40); }, {});
-        add("two drags", "Desk lamp.intensity",
-            [this] {
-                drag(40);
-                drag(10);
-            },
-            { u"Desk lamp.intensity: 0.65 → *"_s, u"Desk lamp.intensity: * → *"_s });
-        add("wheel", "Desk lamp.intensity",
-            [this] {
-                SliderInput slider(find<QSlider>());
-                for (int i = 0; i < 3; ++i)
-                    slider.turnWheel();
-            },
-            { u"Desk lamp.intensity: 0.65 → 1.6"_s });
-        add("arrow keys", "Desk lamp.intensity",
-            [this] {
-                find<QSlider>()->setFocus();
-                for (int i = 0; i < 3; ++i)
-                    QTest::keyClick(find<QSlider>(), Qt::Key_Right);
-            },
-            { u"Desk lamp.intensity: 0.65 → 1"_s });
-        add("two entries", "Desk lamp.intensity",
-            [this] {
-                type(u"0.5\r"_s);
-                type(u"0.75\r"_s);
-            },
-            { u"Desk lamp.intensity: 0.65 → 0.5"_s, u"Desk lamp.intensity: 0.5 → 0.75"_s });
-        add("visit of a string", "Front view.description",
-            [this] {
-                QTest::mouseClick(find<QLineEdit>(), Qt::LeftButton);
-                m_inspector->view(u"sceneTree"_s)->setFocus();
-            },
-            {});
-        add("text", "Front view.description",
-            [this] {
-                type(u"abc"_s);
-                m_inspector->view(u"sceneTree"_s)->setFocus();
-            },
-            { u"Front view.description: \"From the door\" → \"abc\""_s });
-        add("check box", "Desk lamp.on",
-            [this] { QTest::mouseClick(find<QCheckBox>(), Qt::LeftButton, {}, QPoint(8, 8)); },
-            { u"Desk lamp.on: FALSE → TRUE"_s });
-        add("color of a dialog", "Desk lamp.color", [this] { chooseColor(Qt::red); },
-            { u"Desk lamp.color: 1 0.8 0.55 → 1 0 0"_s });
-        add("same color again", "Oak.specularColor",
-            [this] {
-                chooseColor(Qt::red);
-                chooseColor(Qt::red);
-            },
-            { u"Oak.specularColor: 0.1 0.1 0.1 → 1 0 0"_s });
-        add("row of a color dialog", "Oak.diffuseColor", [this] { chooseColor(Qt::red, true); },
-            { u"Oak.diffuseColor: row 1: 0.55 0.4 0.25 → 1 0 0"_s });
-        add("ignore", "Desk lamp.intensity", [this] { click("m_ignoreButton"); },
-            { u"Desk lamp.intensity: ignored"_s });
-        add("default", "Desk lamp.intensity", [this] { click("m_defaultButton"); },
-            { u"Desk lamp.intensity: default"_s });
-        add("each key of a line", "Fan turns.startTime", [this] { type(u"2.25"_s); },
-            { u"Fan turns.startTime: 1.5 → 2.25"_s });
-        add("keys that come to nothing", "Fan turns.startTime",
-            [this] {
-                type(u"2"_s);
-                QTest::keyClick(find<QLineEdit>(), Qt::Key_Backspace);
-                QTest::keyClicks(find<QLineEdit>(), u"1.5"_s);
-                m_inspector->view(u"sceneTree"_s)->setFocus();
-            },
-            {});
-        add("base 16", "Frame style.selectionMask", [this] { drag(-40); },
-            { u"Frame style.selectionMask: 0xff00ff → 0x*"_s });
-        add("slider in a cell", "Room.priority",
-            [this] {
-                open(3);
-                drag(20);
-            },
-            { u"Room.priority: row 4: 2 → *"_s });
-        add("wheel over a cell", "Oak.shininess",
-            [this] {
-                open(1);
-                SliderInput(find<QSlider>()).turnWheel();
-                SliderInput(find<QSlider>()).turnWheel();
-            },
-            { u"Oak.shininess: row 2: 0.35 → 0.41"_s });
-        add("typed into a cell's slider", "Oak.shininess",
-            [this] {
-                open(1);
-                typeIntoCell(u"0.5"_s);
-                m_inspector->view(u"sceneTree"_s)->setFocus();
-            },
-            { u"Oak.shininess: row 2: 0.35 → 0.5"_s });
-        add("cell left by Return", "Fan turns.keyFraction",
-            [this] {
-                open(2);
-                typeIntoCell(u"0.625\r"_s);
-            },
-            { u"Fan turns.keyFraction: row 3: 0.5 → 0.625"_s });
-        add("cell left by Tab", "Fan turns.keyFraction",
-            [this] {
-                open(2);
-                typeIntoCell(u"0.625\t"_s);
-            },
-            { u"Fan turns.keyFraction: row 3: 0.5 → 0.625"_s });
-        add("cell left for the scene", "Fan turns.keyFraction",
-            [this] {
-                open(2);
-                typeIntoCell(u"0.625"_s);
-                m_inspector->clickNode(u"Desk lamp"_s);
-            },
-            { u"Fan turns.keyFraction: row 3: 0.5 → 0.625"_s });
-        add("cell left unchanged", "Fan turns.keyFraction",
-            [this] {
-                open(2);
-                typeIntoCell(u"0.5\r"_s);
-            },
-            {});
-        add("cell and new row by one click", "Room.priority",
-            [this] {
-                open(3);
-                typeIntoCell(u"7"_s);
-                click("m_addButton");
-            },
-            { u"Room.priority: row 4: 2 → 7"_s, u"Room.priority: 1 row added at 5"_s });
-        add("rows by keys", "Room.plane",
-            [this] {
-                cell(2);
-                QTest::keyClick(find<QTableView>(), Qt::Key_Plus);
-                QTest::keyClick(find<QTableView>(), Qt::Key_Delete);
-            },
-            { u"Room.plane: 1 row added at 4"_s, u"Room.plane: 1 row deleted at 3"_s });
-        add("component of a row", "Room.plane",
-            [this] {
-                open(2, 1);
-                typeIntoCell(u"5\r"_s);
-            },
-            { u"Room.plane: row 3: 0 1 0 0 → 0 5 0 0"_s });
-        add("row moved", "Room.plane",
-            [this] {
-                cell(1);
-                find<QSpinBox>()->setValue(2);
-                click("m_downButton");
-            },
-            { u"Room.plane: rows 2 and 3 swapped"_s });
-        add("equal rows swapped", "Room.priority",
-            [this] {
-                find<QSpinBox>()->setValue(2);
-                click("m_upButton");
-            },
-            {});
-        add("array reset", "Room.priority", [this] { click("m_defaultButton"); },
-            { u"Room.priority: default"_s });
-        add("default twice", "Desk lamp.intensity",
-            [this] {
-                click("m_defaultButton");
-                click("m_defaultButton");
-            },
-            { u"Desk lamp.intensity: default"_s });
+        // The field, what a person does there (see `act`), and the steps of it.
+        addTextRows({
+            { "Desk lamp.intensity", "drag 40", "0.65 → *" },
+            { "Window light.intensity", "drag 40 -40" },
+            { "Desk lamp.intensity", "drag 40, drag 10", "0.65 → *", "* → *" },
+            { "Desk lamp.intensity", "wheel, wheel, wheel", "0.65 → 1.6" },
+            { "Desk lamp.intensity", "slider Right, slider Right, slider Right", "0.65 → 1" },
+            { "Desk lamp.intensity", "type 0.5\r, type 0.75\r", "0.65 → 0.5", "0.5 → 0.75" },
+            { "Front view.description", "click, leave" },
+            { "Front view.description", "type abc, leave", "\"From the door\" → \"abc\"" },
+            { "Desk lamp.on", "check", "FALSE → TRUE" },
+            { "Desk lamp.color", "red", "1 0.8 0.55 → 1 0 0" },
+            { "Oak.specularColor", "red, red", "0.1 0.1 0.1 → 1 0 0" },
+            { "Oak.diffuseColor", "red row", "row 1: 0.55 0.4 0.25 → 1 0 0" },
+            { "Desk lamp.intensity", "button m_ignoreButton", "ignored" },
+            { "Desk lamp.intensity", "button m_defaultButton", "default" },
+            { "Desk lamp.intensity", "button m_defaultButton, button m_defaultButton", "default" },
+            { "Room.priority", "button m_defaultButton", "default" },
+            { "Fan turns.startTime", "type 2.25", "1.5 → 2.25" },
+            { "Fan turns.startTime", "type 2, line Backspace, add 1.5, leave" },
+            { "Frame style.selectionMask", "drag -40", "0xff00ff → 0x*" },
+            { "Room.priority", "open 3, drag 20", "row 4: 2 → *" },
+            { "Oak.shininess", "open 1, wheel, wheel", "row 2: 0.35 → 0.41" },
+            { "Oak.shininess", "open 1, fill 0.5, leave", "row 2: 0.35 → 0.5" },
+            { "Fan turns.keyFraction", "open 2, fill 0.625\r", "row 3: 0.5 → 0.625" },
+            { "Fan turns.keyFraction", "open 2, fill 0.625\t", "row 3: 0.5 → 0.625" },
+            { "Fan turns.keyFraction", "open 2, fill 0.625, node", "row 3: 0.5 → 0.625" },
+            { "Fan turns.keyFraction", "open 2, fill 0.5\r" },
+            { "Room.priority", "open 3, fill 7, button m_addButton", "row 4: 2 → 7",
+                "1 row added at 5" },
+            { "Room.plane", "cell 2, table +, table Del", "1 row added at 4",
+                "1 row deleted at 3" },
+            { "Room.plane", "open 2 1, fill 5\r", "row 3: 0 1 0 0 → 0 5 0 0" },
+            { "Room.plane", "cell 1, box 2, button m_downButton", "rows 2 and 3 swapped" },
+            { "Room.priority", "box 2, button m_upButton" }, // they are equal
+        });
     }
     void oneGestureIsOneStep()
     {
-        QFETCH(const QString, place);
-        QFETCH(const Act, act);
-        QFETCH(const QStringList, steps);
+        const auto [place, acts, first, second] = textRow<4>();
+        QStringList steps;
+        for (const QString& text : { first, second }) {
+            if (!text.isEmpty())
+                steps += place + u": "_s + text;
+        }
         select(place);
         const QString before = m_inspector->text(place);
-        act();
+        for (const QString& each : acts.split(u", "_s))
+            act(each);
         QTRY_VERIFY2(fit(texts(), steps), qPrintable(texts().join(u", "_s)));
         const QString after = m_inspector->text(place);
         for (int i = 0; i < steps.size(); ++i)
@@ -240,20 +119,13 @@ private Q_SLOTS:
     /// Whatever the program does meanwhile is not the person's.
     void theProgramWritesMeanwhile_data()
     {
-        QTest::addColumn<QString>("place");
-        QTest::addColumn<QString>("value"); // that the program writes
-        QTest::addColumn<QStringList>("steps");
-        QTest::newRow("the value that is dragged")
-            << u"Desk lamp.intensity"_s << u"7"_s
-            << QStringList { u"Desk lamp.intensity: 0.65 → *"_s };
-        QTest::newRow("another row") << u"Room.priority"_s << u"[ 5, 0, -1, 2 ]"_s
-                                     << QStringList { u"Room.priority: row 4: 2 → *"_s };
+        // The second text is the value that the program writes.
+        addTextRows({ { "Desk lamp.intensity", "7", "Desk lamp.intensity: 0.65 → *" },
+            { "Room.priority", "[ 5, 0, -1, 2 ]", "Room.priority: row 4: 2 → *" } });
     }
     void theProgramWritesMeanwhile()
     {
-        QFETCH(const QString, place);
-        QFETCH(const QString, value);
-        QFETCH(const QStringList, steps);
+        const auto [place, value, step] = textRow<3>();
         select(place);
         KnField* const field = m_inspector->field(place);
         const QString before = m_inspector->text(place);
@@ -271,7 +143,7 @@ private Q_SLOTS:
         m_inspector->field(u"Oak.transparency"_s)->set("0.5");
         slider.moveBy(10);
         slider.release();
-        QTRY_VERIFY2(fit(texts(), steps), qPrintable(texts().join(u", "_s)));
+        QTRY_VERIFY2(fit(texts(), { step }), qPrintable(texts().join(u", "_s)));
         m_stack->undo();
         QCOMPARE(m_inspector->text(place), place.startsWith(u"Room"_s) ? value : before);
         QCOMPARE(m_inspector->text(u"Oak.transparency"_s), u"0.5"_s);
@@ -425,8 +297,41 @@ private Q_SLOTS:
     }
 
 private:
-    using Act = std::function<void()>;
-
+    /// One thing that a person does: a word, and what it is done with.
+    void act(const QString& text)
+    {
+        const QString with = text.section(u' ', 1);
+        const int number = with.section(u' ', 0, 0).toInt();
+        const int second = with.section(u' ', 1).toInt();
+        const std::map<QString, std::function<void()>> acts {
+            { u"drag"_s, [&] { drag(number, second); } },
+            { u"wheel"_s, [&] { SliderInput(find<QSlider>()).turnWheel(); } },
+            { u"slider"_s, [&] { press(find<QSlider>(), with); } },
+            { u"line"_s, [&] { press(find<QLineEdit>(), with); } },
+            { u"table"_s, [&] { press(find<QTableView>(), with); } },
+            { u"click"_s, [&] { QTest::mouseClick(find<QLineEdit>(), Qt::LeftButton); } },
+            { u"type"_s, [&] { type(with); } },
+            { u"add"_s, [&] { QTest::keyClicks(find<QLineEdit>(), with); } },
+            { u"leave"_s, [&] { m_inspector->view(u"sceneTree"_s)->setFocus(); } },
+            { u"node"_s, [&] { m_inspector->clickNode(u"Desk lamp"_s); } },
+            { u"check"_s,
+                [&] {
+                    QTest::mouseClick(find<QCheckBox>(), Qt::LeftButton, {}, { 8, 8 });
+                } },
+            { u"red"_s, [&] { chooseColor(Qt::red, with == u"row"); } },
+            { u"button"_s, [&] { click(qPrintable(with)); } },
+            { u"cell"_s, [&] { cell(number); } },
+            { u"open"_s, [&] { open(number, second); } },
+            { u"fill"_s, [&] { typeIntoCell(with); } },
+            { u"box"_s, [&] { find<QSpinBox>()->setValue(number); } },
+        };
+        acts.at(text.section(u' ', 0, 0))();
+    }
+    static void press(QWidget* widget, const QString& key)
+    {
+        widget->setFocus();
+        QTest::keyClick(widget, QKeySequence(key)[0].key());
+    }
     void select(const QString& place)
     {
         m_services->selectField(m_inspector->field(place));

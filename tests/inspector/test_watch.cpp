@@ -98,15 +98,10 @@ private Q_SLOTS:
         QCOMPARE(shown.join(u' '), expected);
     }
 
-    void isAddedByMenu_data()
-    {
-        QTest::addColumn<bool>("byKey");
-        QTest::newRow("right click") << false;
-        QTest::newRow("Menu key") << true;
-    }
+    void isAddedByMenu_data() { addTextRows({ { "right click" }, { "Menu key" } }); }
     void isAddedByMenu()
     {
-        QFETCH(bool, byKey);
+        const bool byKey = textRow<1>()[0] == u"Menu key";
         QVERIFY(m_inspector->dock(u"watchDock"_s)->isHidden());
         openMenu(u"Desk lamp"_s, u"intensity"_s, byKey);
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_W);
@@ -251,15 +246,10 @@ private Q_SLOTS:
         QCOMPARE(kinds(1), u"WWWW"_s);
     }
 
-    void aDeadNodeLeavesItsCurve_data()
-    {
-        QTest::addColumn<bool>("hidden");
-        QTest::newRow("while shown") << false;
-        QTest::newRow("while hidden") << true;
-    }
+    void aDeadNodeLeavesItsCurve_data() { addTextRows({ { "while shown" }, { "while hidden" } }); }
     void aDeadNodeLeavesItsCurve()
     {
-        QFETCH(bool, hidden);
+        const bool hidden = textRow<1>()[0] == u"while hidden";
         auto* const group
             = dynamic_cast<KnGroup*>(CrvServices::getInstance()->getRoots().front().get());
         auto* const light = new KnPointLight;
@@ -284,17 +274,14 @@ private Q_SLOTS:
 
     void paintingKeepsTheProcessPixmaps_data()
     {
-        QTest::addColumn<QString>("view");
-        QTest::newRow("fields") << u"fieldList"_s;
-        QTest::newRow("watched") << u"watchTable"_s;
+        addTextRows({ { "fieldList" }, { "watchTable" } });
     }
     // The cache is the process's, and what it put there must not make room for swatches.
     void paintingKeepsTheProcessPixmaps()
     {
-        QFETCH(QString, view);
         watch(u"intensity"_s);
         m_inspector->clickField(u"Desk lamp"_s, u"color"_s);
-        QWidget* const painted = m_inspector->view(view)->viewport();
+        QWidget* const painted = m_inspector->view(textRow<1>()[0])->viewport();
         painted->grab();
         const auto restore = qScopeGuard(
             [limit = QPixmapCache::cacheLimit()] { QPixmapCache::setCacheLimit(limit); });
@@ -307,15 +294,10 @@ private Q_SLOTS:
         QVERIFY(QPixmapCache::find(u"the process's own"_s, &own));
     }
 
-    void whatIsNotSeenCostsNothing_data()
-    {
-        QTest::addColumn<bool>("paused");
-        QTest::newRow("hidden") << false;
-        QTest::newRow("paused") << true;
-    }
+    void whatIsNotSeenCostsNothing_data() { addTextRows({ { "hidden" }, { "paused" } }); }
     void whatIsNotSeenCostsNothing()
     {
-        QFETCH(bool, paused);
+        const bool paused = textRow<1>()[0] == u"paused";
         CrvServices* const services = CrvServices::getInstance();
         // The list of fields and the view have sensors, too.
         services->selectNode(nullptr);

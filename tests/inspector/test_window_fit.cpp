@@ -5,6 +5,7 @@
 #include "FieldListModel.h"
 #include "InspectorFixture.h"
 #include "PaneColumns.h"
+#include "TextRows.h"
 #include "WatchPanel.h"
 
 #include <QComboBox>
@@ -115,19 +116,12 @@ private Q_SLOTS:
 
     void aNodeIsChosenWithAField_data()
     {
-        QTest::addColumn<QString>("former");
-        QTest::addColumn<QString>("node");
-        QTest::addColumn<QString>("field");
-        QTest::newRow("same name") << u"Desk lamp.color"_s << u"Window light"_s << u"color"_s;
-        QTest::newRow("no such name")
-            << u"Desk lamp.color"_s << u"Front view"_s << u"description"_s;
-        QTest::newRow("another type") << u"Desk lamp.on"_s << u"Room"_s << u"on"_s;
+        addTextRows({ { "Desk lamp.color", "Window light", "color" },
+            { "Desk lamp.color", "Front view", "description" }, { "Desk lamp.on", "Room", "on" } });
     }
     void aNodeIsChosenWithAField()
     {
-        QFETCH(QString, former);
-        QFETCH(QString, node);
-        QFETCH(QString, field);
+        const auto [former, node, field] = textRow<3>();
         CrvServices* const services = CrvServices::getInstance();
         services->selectField(m_inspector->field(former));
         m_inspector->clickNode(node);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorCase.h"
+#include "TextRows.h"
 
 #include <QAccessible>
 
@@ -50,16 +51,15 @@ private Q_SLOTS:
 
     void aLetterIsNamedAfterItsField_data()
     {
-        QTest::addColumn<QString>("names");
-        QTest::newRow("SFVec3f") << u"SFVec3f x|SFVec3f y|SFVec3f z"_s;
-        QTest::newRow("SFColorRGBA") << u"SFColorRGBA colour|SFColorRGBA R|SFColorRGBA A"_s;
-        QTest::newRow("SFVec2i32") << u"SFVec2i32 x|SFVec2i32 y"_s;
-        QTest::newRow("SFFloat") << u"SFFloat|SFFloat slider|SFFloat follows the slider"_s;
+        addTextRows({ { "SFVec3f", "SFVec3f x|SFVec3f y|SFVec3f z" },
+            { "SFColorRGBA", "SFColorRGBA colour|SFColorRGBA R|SFColorRGBA A" },
+            { "SFVec2i32", "SFVec2i32 x|SFVec2i32 y" },
+            { "SFFloat", "SFFloat|SFFloat slider|SFFloat follows the slider" } });
     }
     void aLetterIsNamedAfterItsField()
     {
-        QFETCH(QString, names);
-        select(field(QTest::currentDataTag()));
+        const auto [type, names] = textRow<2>();
+        select(field(qPrintable(type)));
         QStringList found;
         addNames(editor()->getFrame(), found);
         for (const QString& name : names.split(u'|'))

@@ -4,6 +4,7 @@
 #include "KnMaterial.h"
 #include "KnNodePtr.h"
 #include "KnPointLight.h"
+#include "TextRows.h"
 
 #include <QTest>
 
@@ -39,30 +40,18 @@ class TestFieldRanges : public QObject {
 private Q_SLOTS:
     void ranges_data()
     {
-        QTest::addColumn<QByteArray>("node");
-        QTest::addColumn<QByteArray>("field");
-        QTest::addColumn<QString>("range");
-        const char* const rows[][3] = {
-            { "DefaultNode", "floatField", "f 0 10 d 0 0 i 0 0 free" },
+        addTextRows({ { "DefaultNode", "floatField", "f 0 10 d 0 0 i 0 0 free" },
             { "DefaultNode", "doubleField", "f 0 0 d 0 10 i 0 0 free" },
             { "DefaultNode", "intField", "f 0 0 d 0 0 i 0 100 free" },
-            { "Complexity", "value", ratio },
-            { "Complexity", "textureQuality", ratio },
-            { "DirectionalLight", "intensity", ratio },
-            { "Material", "transparency", ratio },
-            { "Material", "shininess", none },
-            { "PointLight", "intensity", none },
-            { "Complexity", "Value", none },
-        };
-        for (const auto& [node, field, range] : rows)
-            QTest::addRow("%s.%s", node, field)
-                << QByteArray(node) << QByteArray(field) << QString::fromLatin1(range);
+            { "Complexity", "value", ratio }, { "Complexity", "textureQuality", ratio },
+            { "DirectionalLight", "intensity", ratio }, { "Material", "transparency", ratio },
+            { "Material", "shininess", none }, { "PointLight", "intensity", none },
+            { "Complexity", "Value", none } });
     }
     void ranges()
     {
-        QFETCH(QByteArray, node);
-        QFETCH(QByteArray, field);
-        QTEST(toText(FieldRangeTable().get(node.constData(), field.constData())), "range");
+        const auto [node, field, range] = textRow<3>();
+        QCOMPARE(toText(FieldRangeTable().get(qPrintable(node), qPrintable(field))), range);
     }
 
     void theNodeChoosesTheRow()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "EditorCase.h"
+#include "TextRows.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -86,25 +87,13 @@ private Q_SLOTS:
 
     void textsCanBeCopied_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("copied");
-        const auto row = [](const QString& type, const QString& start, const QString& line,
-                             const QString& copied) {
-            QTest::addRow("%s", qPrintable(type)) << type << start << line << copied;
-        };
-        row(u"SFString"_s, u"\"a b\""_s, u"lineEdit"_s, u"a b"_s);
-        row(u"SFInt32"_s, u"42"_s, u"m_lineEdit"_s, u"42"_s);
-        row(u"SFVec3f"_s, u"1 2 3.5"_s, u"SFVec3fLine"_s, u"3.5"_s);
-        row(u"SFVec2i32"_s, u"1 7"_s, u"qt_spinbox_lineedit"_s, u"7"_s);
+        addTextRows({ { "SFString", "\"a b\"", "lineEdit", "a b" },
+            { "SFInt32", "42", "m_lineEdit", "42" }, { "SFVec3f", "1 2 3.5", "SFVec3fLine", "3.5" },
+            { "SFVec2i32", "1 7", "qt_spinbox_lineedit", "7" } });
     }
     void textsCanBeCopied()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, start);
-        QFETCH(QString, line);
-        QFETCH(QString, copied);
+        const auto [type, start, line, copied] = textRow<4>();
         field(qPrintable(type))->setReadOnly(false);
         KnField& shown = show(type, start);
         shown.setReadOnly(true);

@@ -13,6 +13,7 @@
 #include <QTranslator>
 
 #include <cstdlib>
+#include <memory>
 
 // A program under inspection, which looks at what is shown of it and prints it. Its first argument
 // says what it does.
@@ -53,13 +54,16 @@ int runModal(int argc, char** argv)
     return 0;
 }
 
-/// Shows a window until it is ended from outside, or for a while.
+/// Shows a window, which takes its time to come, until it is ended from outside, or for a while.
 int runQuiet(int argc, char** argv)
 {
     QApplication application(argc, argv);
     application.setObjectName("guest");
-    Window window("window");
-    window.show();
+    std::unique_ptr<Window> window;
+    QTimer::singleShot(300, &application, [&window] {
+        window = std::make_unique<Window>("window");
+        window->show();
+    });
     QAction action("Loose");
     action.setObjectName("action");
     print("noise");
@@ -208,10 +212,10 @@ int runWidgets(int argc, char** argv)
     window.show();
     if (!comes("window"))
         return 99;
-    print("roots " + rows(tree("sceneTree")).join(' '));
+    const auto selected = [] { return tree("sceneTree")->currentIndex().data().toString(); };
+    print("roots " + rows(tree("sceneTree")).join(' ') + ", on " + selected());
     print(QString("%1 gestures").arg(rows(tree("sceneTree"), 0).count("QGestureManager")));
     QTest::mouseClick(&window.button, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
-    const auto selected = [] { return tree("sceneTree")->currentIndex().data().toString(); };
     const bool isSelected = QTest::qWaitFor([&] { return selected() == "button"; }, 20000);
     print(QString("selected %1, %2 clicks").arg(isSelected).arg(window.clicks));
     QTest::mouseClick(&window.button, Qt::LeftButton);
@@ -251,7 +255,9 @@ int runWidgets(int argc, char** argv)
               .arg(QTest::qWaitFor([&] { return selected() == "button"; }, 20000))
               .arg(QTest::qWaitFor(isLoose, 20000))
               .arg(window.clicks));
+    // What the programs that it starts would find.
     print("preload " + qEnvironmentVariable("LD_PRELOAD"));
+    print(QString("asked %1").arg(qEnvironmentVariableIsSet("CORVANE_RUN_REQUEST")));
     return 7;
 }
 
