@@ -3,6 +3,7 @@
 #include "KnSensorQueue.h"
 #include "SceneLines.h"
 #include "SceneView.h"
+#include "TextRows.h"
 
 #include <QApplication>
 #include <QTest>
@@ -76,28 +77,19 @@ private Q_SLOTS:
 
     void aChangeIsSeen_data()
     {
-        QTest::addColumn<QString>("value");
-        const auto row = [](const char* field, const char* value) {
-            QTest::newRow(field) << QString::fromUtf8(value);
-        };
-        row("eye.position", "0 0 12");
-        row("paint.diffuseColor", "0 1 0");
-        row("sun.intensity", "0.5");
-        row("cut.on", "TRUE");
-        row("style.style", "LINES");
-        row("left.visible", "FALSE");
-        row("move.rotation", "0 0 1 0.5");
-        row("matrix.matrix", "1 0 0 0 0 1 0 0 0 0 1 0 2 0 0 1");
-        row("points.point", "[-1 -1 0, 1 -1 0, 1 1.5 0, -1 1 0]");
-        row("rightSquare.coordIndex", "[0, 1, 2]");
-        row("rightSquare.packedColor", "[0x00ff00ff]");
-        row("next.diffuseColor", "[0 1 0]");
-        row("label.string", "[\"More\"]");
+        addTextRows({ { "eye.position", "0 0 12" }, { "paint.diffuseColor", "0 1 0" },
+            { "sun.intensity", "0.5" }, { "cut.on", "TRUE" }, { "style.style", "LINES" },
+            { "left.visible", "FALSE" }, { "move.rotation", "0 0 1 0.5" },
+            { "matrix.matrix", "1 0 0 0 0 1 0 0 0 0 1 0 2 0 0 1" },
+            { "points.point", "[-1 -1 0, 1 -1 0, 1 1.5 0, -1 1 0]" },
+            { "rightSquare.coordIndex", "[0, 1, 2]" },
+            { "rightSquare.packedColor", "[0x00ff00ff]" }, { "next.diffuseColor", "[0 1 0]" },
+            { "label.string", "[\"More\"]" } });
     }
     void aChangeIsSeen()
     {
-        QFETCH(QString, value);
-        KnField* const field = m_scene->field(QString::fromUtf8(QTest::currentDataTag()));
+        const auto [place, value] = textRow<2>();
+        KnField* const field = m_scene->field(place);
         const QImage before = picture();
         KbString text;
         field->get(text);
@@ -200,22 +192,13 @@ private Q_SLOTS:
 
     void whatIsSelectedIsOutlined_data()
     {
-        QTest::addColumn<bool>("left");
-        QTest::addColumn<bool>("right");
-        QTest::newRow("leftSquare") << true << false;
-        QTest::newRow("right") << false << true;
-        QTest::newRow("sign") << false << false;
-        QTest::newRow("paint") << true << true;
-        QTest::newRow("move") << true << false;
-        QTest::newRow("points") << false << true;
-        QTest::newRow("next") << false << false;
+        addTextRows({ { "leftSquare", "left" }, { "right", "right" }, { "sign" },
+            { "paint", "left right" }, { "move", "left" }, { "points", "right" }, { "next" } });
     }
     void whatIsSelectedIsOutlined()
     {
-        QFETCH(bool, left);
-        QFETCH(bool, right);
-        CrvServices::getInstance()->selectNode(
-            m_scene->node(QString::fromUtf8(QTest::currentDataTag())));
+        const auto [name, framed] = textRow<2>();
+        CrvServices::getInstance()->selectNode(m_scene->node(name));
         settle();
         const QColor highlight = m_view->palette().color(QPalette::Highlight);
         const QImage shown = picture();
@@ -226,20 +209,17 @@ private Q_SLOTS:
             }
             return false;
         };
-        QCOMPARE(isFramed(onLeft), left);
-        QCOMPARE(isFramed(onRight), right);
+        QCOMPARE(isFramed(onLeft), framed.contains(u"left"));
+        QCOMPARE(isFramed(onRight), framed.contains(u"right"));
     }
 
     void looking_data()
     {
-        QTest::addColumn<QByteArray>("input");
-        for (const char* input : { "orbit", "pan", "middle", "wheel", "double click", "Home",
-                 "Left", "Right", "Up", "Down", "+", "-" })
-            QTest::newRow(input) << QByteArray(input);
+        addTextRows({ { "orbit" }, { "pan" }, { "middle" }, { "wheel" }, { "double click" },
+            { "Home" }, { "Left" }, { "Right" }, { "Up" }, { "Down" }, { "+" }, { "-" } });
     }
     void looking()
     {
-        QFETCH(QByteArray, input);
         std::vector<std::unique_ptr<KnFieldSensor>> sensors;
         for (KnField* const field : m_scene->fields()) {
             sensors.push_back(std::make_unique<KnFieldSensor>(
@@ -247,7 +227,7 @@ private Q_SLOTS:
             sensors.back()->attach(field);
         }
         const QImage before = picture();
-        look(input);
+        look(textRow<1>()[0]);
         QVERIFY(KnSensorQueue::getInstance().isEmpty()); // nobody has written
         settle();
         QVERIFY(picture() != before);
@@ -302,20 +282,20 @@ private:
         moveMouse(onLeft + QPoint(40, 20), button, keys);
         QTest::mouseRelease(m_view.get(), button, keys, onLeft + QPoint(40, 20));
     }
-    void look(const QByteArray& input)
+    void look(const QString& input)
     {
-        if (input == "orbit" || input == "middle") {
-            drag(input == "middle" ? Qt::MiddleButton : Qt::LeftButton, {});
-        } else if (input == "pan") {
+        if (input == u"orbit" || input == u"middle") {
+            drag(input == u"middle" ? Qt::MiddleButton : Qt::LeftButton, {});
+        } else if (input == u"pan") {
             drag(Qt::LeftButton, Qt::ShiftModifier);
-        } else if (input == "wheel") {
+        } else if (input == u"wheel") {
             QWheelEvent event(onLeft, m_view->mapToGlobal(onLeft), {}, { 0, 120 }, Qt::NoButton, {},
                 Qt::NoScrollPhase, false);
             QApplication::sendEvent(m_view.get(), &event);
-        } else if (input == "double click") {
+        } else if (input == u"double click") {
             QTest::mouseDClick(m_view.get(), Qt::LeftButton, {}, onNothing);
         } else {
-            QTest::keySequence(m_view.get(), QKeySequence(QString::fromUtf8(input)));
+            QTest::keySequence(m_view.get(), QKeySequence(input));
         }
     }
 
