@@ -319,6 +319,20 @@ private Q_SLOTS:
         QCOMPARE(runs, paused ? "no" : "on");
     }
 
+    void whatCameDuringAPauseIsShownAtItsEnd()
+    {
+        int runs = 0;
+        KnFieldSensor sensor([](void* all, KnSensor*) { ++*static_cast<int*>(all); }, &runs);
+        sensor.attach(&m_number);
+        m_services->setPaused(true);
+        m_number.touch();
+        QCoreApplication::processEvents();
+        QCOMPARE(runs, 0);
+        m_services->setPaused(false);
+        QCoreApplication::processEvents();
+        QCOMPARE(runs, 1);
+    }
+
     void aPauseShowsAllFieldsThatWereUndoneAtOnce()
     {
         int runs = 0;
