@@ -30,6 +30,8 @@ public:
     {
         m_loose->update(ObjectRegister::Look::All);
     }
+    ~Tops() = default;
+    Q_DISABLE_COPY_MOVE(Tops)
 
     std::vector<KnNodePtr> nodes() const { return rootNodes(programRoots({}), m_loose); }
 

@@ -5,6 +5,11 @@
 source_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=${CORVANE_JOBS:-$(nproc)}
 
+# Where the sources stand: those of the program, and all but those of the tests.
+product_folders=(platform plugin bridge runner inspector examples)
+# shellcheck disable=SC2034 # for those who source this
+source_folders=("${product_folders[@]}" bench fuzz)
+
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev rapidjson-dev
     libbenchmark-dev)
 test_packages=(xvfb xauth openbox locales clang-format binutils

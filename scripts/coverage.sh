@@ -31,7 +31,7 @@ ctest --test-dir "$dir" -j "$jobs" -R "${1:-.}" -LE 'german|xvfb' --output-on-fa
 cd "$dir" || exit
 find . -name '*.gcda' -print0 |
     xargs -0 -n 8 gcov --stdout --source-prefix "$source_dir" --relative-only 2>/dev/null |
-    awk -F: -v folders='^(platform|plugin|inspector|examples)/' '
+    awk -F: -v folders="^($(IFS='|'; echo "${product_folders[*]}"))/" '
         { gsub(/ /, "", $1); gsub(/ /, "", $2) }
         $2 == 0 && $3 == "Source" { file = $4; wanted = file ~ folders; next }
         !wanted || $1 == "-" || $2 == 0 { next }

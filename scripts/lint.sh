@@ -32,7 +32,6 @@ leave_root "${BASH_SOURCE[0]}" "${arguments[@]}"
 choose_build_root
 cd "$source_dir" || exit
 started=$EPOCHSECONDS
-folders=(platform plugin bridge runner inspector examples bench fuzz)
 
 # The commit that the change is seen against. Without any earlier commit, as in a shallow clone, it
 # is the last one: only what isn't committed counts.
@@ -51,9 +50,9 @@ choose_base() {
 
 # The changed files, latest change first, some more than once.
 changed_files() {
-    git diff --name-only HEAD -- "${folders[@]}"
-    git ls-files --others --exclude-standard -- "${folders[@]}"
-    git log --format= --name-only "$base..HEAD" -- "${folders[@]}"
+    git diff --name-only HEAD -- "${source_folders[@]}"
+    git ls-files --others --exclude-standard -- "${source_folders[@]}"
+    git log --format= --name-only "$base..HEAD" -- "${source_folders[@]}"
 }
 
 # source_of HEADER: the source through which a header is read: its own, else the first that
@@ -79,14 +78,14 @@ source_of() {
 # includers HEADER PATTERN: the files that include a header. All are included by name alone.
 includers() {
     grep -rlE --include="$2" "^[[:space:]]*#[[:space:]]*include[[:space:]]+[\"<](.*/)?${1##*/}[\">]" \
-        "${folders[@]}" | LC_ALL=C sort
+        "${source_folders[@]}" | LC_ALL=C sort
 }
 
 # The sources to read, each once.
 sources() {
     local file
     if [ -n "$all" ]; then
-        find "${folders[@]}" -name '*.cpp' | LC_ALL=C sort
+        find "${source_folders[@]}" -name '*.cpp' | LC_ALL=C sort
         return
     fi
     changed_files | while read -r file; do

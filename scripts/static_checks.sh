@@ -18,13 +18,16 @@ run_cppcheck() {
     local includes=() folder
     while read -r folder; do
         includes+=(-I "$folder")
-    done < <(find platform plugin inspector examples -type d)
+    done < <(find "${product_folders[@]}" -type d)
+    # What it keeps from one run to the next doesn't notice that the macros changed.
+    [ "$build_root/cppcheck" -nt cmake/cppcheck.cfg ] || rm -rf "$build_root/cppcheck"
     mkdir -p "$build_root/cppcheck"
     # "forever" is no macro here, since the sources do without Qt's keywords.
-    cppcheck --language=c++ --std=c++20 --library=qt -U forever "${includes[@]}" \
+    cppcheck --language=c++ --std=c++20 --library=qt --library=cmake/cppcheck.cfg \
+        -U forever "${includes[@]}" \
         --enable=warning,performance,portability --inline-suppr \
         --suppressions-list=cmake/cppcheck.supp --cppcheck-build-dir="$build_root/cppcheck" \
-        --quiet -j "$jobs" --error-exitcode=1 platform plugin inspector examples bench fuzz
+        --quiet -j "$jobs" --error-exitcode=1 "${source_folders[@]}"
 }
 
 # A finding is an error, so that a source with one is read again the next time.

@@ -235,7 +235,7 @@ struct Text<QRegularExpression> {
         if (end < 1 || !text.startsWith(u'/'))
             return std::nullopt;
         QRegularExpression::PatternOptions options;
-        for (const QChar letter : text.mid(end + 1).trimmed()) {
+        for (const QChar letter : QStringView(text).mid(end + 1).trimmed()) {
             const auto* const known = std::find_if(std::begin(letters), std::end(letters),
                 [letter](const Letter& other) { return other.letter == letter; });
             if (known == std::end(letters))

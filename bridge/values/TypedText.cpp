@@ -104,13 +104,17 @@ std::optional<QString> Reader::readString()
         return std::nullopt;
     QString text;
     for (; m_place < m_text.size(); ++m_place) {
-        if (m_text[m_place] == u'"') {
+        QChar letter = m_text[m_place];
+        if (letter == u'"') {
             ++m_place;
             return text;
         }
-        const bool isEscaped = m_text[m_place] == u'\\' && ++m_place < m_text.size();
-        if (m_place < m_text.size())
-            text += isEscaped && m_text[m_place] == u'n' ? QChar(u'\n') : m_text[m_place];
+        if (letter == u'\\') {
+            if (++m_place == m_text.size())
+                break;
+            letter = m_text[m_place] == u'n' ? QChar(u'\n') : m_text[m_place];
+        }
+        text += letter;
     }
     return std::nullopt;
 }

@@ -8,11 +8,11 @@
 std::atomic<const ToolkitMessages*> ToolkitMessages::activeMessages;
 
 ToolkitMessages::ToolkitMessages(Manner manner, const QString& advice, int fatalStatus)
-    : m_isHushed(manner == Manner::Hush && qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
+    : m_outer(qInstallMessageHandler(nullptr))
+    , m_isHushed(manner == Manner::Hush && qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
     , m_advice(advice)
     , m_fatalStatus(fatalStatus)
 {
-    m_outer = qInstallMessageHandler(nullptr);
     activeMessages = this;
     qInstallMessageHandler(handle);
 }

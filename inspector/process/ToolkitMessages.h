@@ -31,7 +31,7 @@ private:
 
     // The handler is a plain function, and may be called from any thread; all this is constant.
     static std::atomic<const ToolkitMessages*> activeMessages; // not owned
-    QtMessageHandler m_outer = nullptr;
+    const QtMessageHandler m_outer;
     const bool m_isHushed;
     const QString m_advice;
     const int m_fatalStatus;

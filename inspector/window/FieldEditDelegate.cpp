@@ -2,7 +2,7 @@
 #include "FieldEditDelegate.h"
 
 #include "CrvStrings.h"
-#include "FieldLine.h"
+#include "FieldLineEdit.h"
 #include "FieldListModel.h"
 #include "KnSFBitMask.h"
 
@@ -40,7 +40,7 @@ QWidget* FieldEditDelegate::createEditor(
 {
     const QStringList choices = choicesOf(*modelOf(index).field(index));
     if (choices.isEmpty()) {
-        m_editor = new FieldLine(parent);
+        m_editor = new FieldLineEdit(parent);
         return m_editor;
     }
     auto* const box = new QComboBox(parent);
@@ -65,7 +65,7 @@ void FieldEditDelegate::setEditorData(QWidget* editor, const QModelIndex& index)
         return;
     }
     // The field may change all the time; what was typed stays.
-    auto* const line = qobject_cast<FieldLine*>(editor);
+    auto* const line = qobject_cast<FieldLineEdit*>(editor);
     if (line->isModified() || (line->text() == text && !text.isEmpty()))
         return;
     line->setText(text);
@@ -81,7 +81,7 @@ void FieldEditDelegate::setModelData(
             model->setData(index, box->currentText(), Qt::EditRole);
         return;
     }
-    auto* const line = qobject_cast<FieldLine*>(editor);
+    auto* const line = qobject_cast<FieldLineEdit*>(editor);
     if (!line->isModified())
         return;
     if (model->setData(index, line->text(), Qt::EditRole))
@@ -113,20 +113,20 @@ QString FieldEditDelegate::finish()
     if (!m_editor)
         return QString();
     Q_EMIT commitData(m_editor);
-    const FieldLine* const line = refusedLine();
+    const FieldLineEdit* const line = refusedLine();
     const QString reason = line ? line->reason() : QString();
     if (m_editor)
         Q_EMIT closeEditor(m_editor);
     return reason;
 }
 
-FieldLine* FieldEditDelegate::refusedLine() const
+FieldLineEdit* FieldEditDelegate::refusedLine() const
 {
-    auto* const line = qobject_cast<FieldLine*>(m_editor);
+    auto* const line = qobject_cast<FieldLineEdit*>(m_editor);
     return line && line->isRefused() ? line : nullptr;
 }
 
-bool FieldEditDelegate::write(FieldLine* line)
+bool FieldEditDelegate::write(FieldLineEdit* line)
 {
     Q_EMIT commitData(line);
     return !line->isRefused();
@@ -134,7 +134,7 @@ bool FieldEditDelegate::write(FieldLine* line)
 
 bool FieldEditDelegate::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* const line = qobject_cast<FieldLine*>(watched);
+    auto* const line = qobject_cast<FieldLineEdit*>(watched);
     if (!line)
         return ValueDelegate::eventFilter(watched, event);
     if (event->type() == QEvent::FocusOut) {

@@ -5,7 +5,7 @@
 
 #include <QPointer>
 
-class FieldLine;
+class FieldLineEdit;
 
 /// Paints the values of the field list and edits them in place: an enumeration with a combo box,
 /// anything else in a line. A line with a refused text stays open. What was typed is written when
@@ -19,7 +19,7 @@ public:
     /// dropped, and this is the reason.
     QString finish();
     /// The line whose text was refused; null if there is none.
-    FieldLine* refusedLine() const;
+    FieldLineEdit* refusedLine() const;
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override;
@@ -35,7 +35,7 @@ protected:
 
 private:
     /// False for a text that is refused.
-    bool write(FieldLine* line);
+    bool write(FieldLineEdit* line);
 
     mutable QPointer<QWidget> m_editor; // the open one, a line or a combo box
 };

@@ -2,7 +2,7 @@
 #include "FieldListView.h"
 
 #include "FieldEditDelegate.h"
-#include "FieldLine.h"
+#include "FieldLineEdit.h"
 #include "FieldListModel.h"
 
 #include <QMouseEvent>
@@ -77,7 +77,7 @@ bool FieldListView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* 
         return false;
     }
     // One line at a time, and that one waits for a better text.
-    if (FieldLine* const line = starts ? m_delegate->refusedLine() : nullptr) {
+    if (FieldLineEdit* const line = starts ? m_delegate->refusedLine() : nullptr) {
         line->setFocus();
         return true;
     }

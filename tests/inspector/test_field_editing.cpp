@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "FieldLine.h"
+#include "FieldLineEdit.h"
 #include "FieldListFixture.h"
 #include "TextRows.h"
 
@@ -25,7 +25,7 @@ private Q_SLOTS:
         choose(place);
         const QString before = m_inspector->text(place);
         QTest::keyClick(list(), Qt::Key_F2);
-        QVERIFY(open<FieldLine>());
+        QVERIFY(open<FieldLineEdit>());
         QCOMPARE(stack().count(), 0);
         // Not to the line but to whatever has the focus, as keys go.
         for (const QChar key : typed)
@@ -42,8 +42,8 @@ private Q_SLOTS:
         m_inspector->field(u"Front view.description"_s)->set("\"a\\nb\"");
         for (const int key : { Qt::Key_Return, Qt::Key_Tab, Qt::Key_Escape }) {
             QTest::keyClick(list(), Qt::Key_F2);
-            QTest::keyClick(open<FieldLine>(), static_cast<Qt::Key>(key));
-            QTRY_VERIFY(key == Qt::Key_Tab || !open<FieldLine>());
+            QTest::keyClick(open<FieldLineEdit>(), static_cast<Qt::Key>(key));
+            QTRY_VERIFY(key == Qt::Key_Tab || !open<FieldLineEdit>());
         }
         m_inspector->clickNode(u"Oak"_s);
         QCOMPARE(stack().count(), 0);
@@ -56,7 +56,7 @@ private Q_SLOTS:
         const QPoint intensity = list()->visualRect(cell(u"intensity"_s)).center();
         QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, intensity);
         QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, intensity);
-        QTest::keyClicks(open<FieldLine>(), u"0.5\t"_s);
+        QTest::keyClicks(open<FieldLineEdit>(), u"0.5\t"_s);
         QTRY_COMPARE(list()->currentIndex().siblingAtColumn(0).data().toString(), u"color"_s);
         QTest::keyClicks(QApplication::focusWidget(), u"1 0 0"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
@@ -73,7 +73,7 @@ private Q_SLOTS:
     {
         choose(u"Oak.transparency"_s);
         QTest::keyClick(list(), Qt::Key_F2);
-        auto* line = open<FieldLine>();
+        auto* line = open<FieldLineEdit>();
         QTest::keyClicks(line, u"0,5"_s);
         for (const int key : { Qt::Key_Return, Qt::Key_Tab }) {
             QTest::keyClick(line, static_cast<Qt::Key>(key));
@@ -93,7 +93,7 @@ private Q_SLOTS:
         choose(u"Oak.transparency"_s);
         QVERIFY(message().isEmpty());
         QTest::keyClick(list(), Qt::Key_F2);
-        line = open<FieldLine>();
+        line = open<FieldLineEdit>();
         QTest::keyClicks(line, u"0,5\r"_s);
         // A better one is taken.
         QTest::keyClick(line, Qt::Key_Backspace);
@@ -109,7 +109,7 @@ private Q_SLOTS:
     {
         choose(u"Oak.transparency"_s);
         QTest::keyClick(list(), Qt::Key_F2);
-        QTest::keyClicks(open<FieldLine>(), u"0,5\r"_s);
+        QTest::keyClicks(open<FieldLineEdit>(), u"0,5\r"_s);
         const QPointer<QLabel> reason = open<QLabel>();
         QVERIFY(reason);
         m_inspector->window.close();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "FieldLine.h"
+#include "FieldLineEdit.h"
 #include "FieldListFixture.h"
 #include "KnGroup.h"
 #include "TextRows.h"
@@ -45,7 +45,7 @@ private Q_SLOTS:
         select({ u"Window light"_s, u"Desk lamp"_s });
         clickWith({}, name);
         QTest::keySequence(list(), QKeySequence(keys.section(u' ', 0, 0)));
-        if (auto* const line = open<FieldLine>()) {
+        if (auto* const line = open<FieldLineEdit>()) {
             QCOMPARE(line->text(), QString());
             QTest::keyClicks(line, keys.section(u' ', 1) + u'\r');
         }
@@ -72,7 +72,7 @@ private Q_SLOTS:
         // An edit is for the node in the column where it is made.
         clickWith({}, u"intensity"_s);
         QTest::keyClick(list(), Qt::Key_F2);
-        QTest::keyClicks(open<FieldLine>(), u"0.8\r"_s);
+        QTest::keyClicks(open<FieldLineEdit>(), u"0.8\r"_s);
         QTRY_COMPARE(row(u"intensity"_s), u"0.8 | 0.8 | "_s);
         m_inspector->field(u"Window light.intensity"_s)->set("0.5");
         QTRY_COMPARE(row(u"intensity"_s), u"0.8 | 0.5 | differs"_s);

@@ -26,14 +26,17 @@ constexpr std::array<Number, Count> powersOf(Number base)
 constexpr auto powersOf5 = powersOf<std::uint64_t, 15>(5);
 constexpr auto powersOf10 = powersOf<std::uint32_t, 10>(10);
 
-constexpr auto digitPairs = [] {
+constexpr auto pairsOfDigits()
+{
     std::array<char, 200> pairs {};
     for (std::size_t i = 0; i < pairs.size(); i += 2) {
         pairs[i] = static_cast<char>('0' + i / 20);
         pairs[i + 1] = static_cast<char>('0' + i / 2 % 10);
     }
     return pairs;
-}();
+}
+
+constexpr auto digitPairs = pairsOfDigits();
 
 /// 1233 / 4096 is the logarithm of 2 to the base of ten, near enough for the exponents of floats.
 constexpr int decimalExponent(int binaryExponent) { return (binaryExponent * 1233) >> 12; }
@@ -130,8 +133,9 @@ char* knWriteFloat(char* next, float value)
 
     // Digits are taken in blocks that are longer than they are, since that needs no loops.
     constexpr std::size_t block = 16;
+    constexpr std::size_t room = 2 * block;
     constexpr int most = 10;
-    std::array<char, 2 * block> digits;
+    std::array<char, room> digits;
     std::uint32_t rest = decimal.digits;
     for (int i = most - 2; i >= 0; i -= 2) {
         std::memcpy(&digits[static_cast<std::size_t>(i)], &digitPairs[rest % 100 * 2], 2);

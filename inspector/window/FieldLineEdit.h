@@ -7,11 +7,11 @@
 
 /// The line in which a value is edited in place. A text that was refused stays in it, with the
 /// reason beside it, until the person types on.
-class FieldLine : public QLineEdit {
+class FieldLineEdit : public QLineEdit {
     Q_OBJECT
 public:
-    explicit FieldLine(QWidget* parent);
-    ~FieldLine() override;
+    explicit FieldLineEdit(QWidget* parent);
+    ~FieldLineEdit() override;
 
     void refuse(const QString& reason);
     bool isRefused() const { return m_reason; }

@@ -1,24 +1,24 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "FieldLine.h"
+#include "FieldLineEdit.h"
 
 #include <QLabel>
 #include <QToolTip>
 
 #include <algorithm>
 
-FieldLine::FieldLine(QWidget* parent)
+FieldLineEdit::FieldLineEdit(QWidget* parent)
     : QLineEdit(parent)
 {
     setObjectName(QStringLiteral("fieldLine"));
     setAutoFillBackground(true);
     // A row is hardly higher than its text.
     setFrame(false);
-    connect(this, &QLineEdit::textEdited, this, &FieldLine::dropReason);
+    connect(this, &QLineEdit::textEdited, this, &FieldLineEdit::dropReason);
 }
 
-FieldLine::~FieldLine() { delete m_reason; }
+FieldLineEdit::~FieldLineEdit() { delete m_reason; }
 
-void FieldLine::refuse(const QString& reason)
+void FieldLineEdit::refuse(const QString& reason)
 {
     dropReason();
     m_reason = new QLabel(reason, parentWidget());
@@ -35,11 +35,11 @@ void FieldLine::refuse(const QString& reason)
     m_reason->show();
 }
 
-QString FieldLine::reason() const { return m_reason ? m_reason->text() : QString(); }
+QString FieldLineEdit::reason() const { return m_reason ? m_reason->text() : QString(); }
 
 // Deleted later: while a window hides, the toolkit goes through the children that stand beside each
 // other, and this may be one of the next.
-void FieldLine::dropReason()
+void FieldLineEdit::dropReason()
 {
     if (!m_reason)
         return;
@@ -49,7 +49,7 @@ void FieldLine::dropReason()
 }
 
 // Below the line, or above it where there is no room.
-void FieldLine::placeReason()
+void FieldLineEdit::placeReason()
 {
     if (!m_reason)
         return;
@@ -63,19 +63,19 @@ void FieldLine::placeReason()
     m_reason->raise();
 }
 
-void FieldLine::moveEvent(QMoveEvent* event)
+void FieldLineEdit::moveEvent(QMoveEvent* event)
 {
     QLineEdit::moveEvent(event);
     placeReason();
 }
 
-void FieldLine::resizeEvent(QResizeEvent* event)
+void FieldLineEdit::resizeEvent(QResizeEvent* event)
 {
     QLineEdit::resizeEvent(event);
     placeReason();
 }
 
-void FieldLine::hideEvent(QHideEvent* event)
+void FieldLineEdit::hideEvent(QHideEvent* event)
 {
     // Not at once: Qt may be walking over the children of the parent.
     if (m_reason)
