@@ -5,8 +5,6 @@
 
 #include <QtGlobal>
 
-#include <memory>
-
 namespace {
 
 /// What the host loads. The built-in profiles place every editor under both editor docks, and the
@@ -33,14 +31,18 @@ private:
     SceneViewDock m_sceneView;
 };
 
-std::unique_ptr<ExamplePlugin> plugin;
+ExamplePlugin* plugin = nullptr; // owned, from loadPlugin to unloadPlugin
 
 } // namespace
 
 extern "C" Q_DECL_EXPORT CrvPlugin* loadPlugin()
 {
-    plugin = std::make_unique<ExamplePlugin>();
-    return plugin.get();
+    plugin = new ExamplePlugin;
+    return plugin;
 }
 
-extern "C" Q_DECL_EXPORT void unloadPlugin() { plugin.reset(); }
+extern "C" Q_DECL_EXPORT void unloadPlugin()
+{
+    delete plugin;
+    plugin = nullptr;
+}

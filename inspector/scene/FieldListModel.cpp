@@ -30,11 +30,6 @@ FieldListModel::FieldListModel(QObject* parent)
 
 FieldListModel::~FieldListModel() = default;
 
-void FieldListModel::setNode(KnFieldContainer* node)
-{
-    setNodes(node ? std::vector { node } : std::vector<KnFieldContainer*>());
-}
-
 void FieldListModel::setNodes(const std::vector<KnFieldContainer*>& nodes, bool compared)
 {
     beginResetModel();

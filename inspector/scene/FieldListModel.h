@@ -32,8 +32,6 @@ public:
     explicit FieldListModel(QObject* parent = nullptr);
     ~FieldListModel() override;
 
-    /// Null for an empty list. The model holds a reference on the node.
-    void setNode(KnFieldContainer* node);
     /// The fields that all of these nodes have, by name and type, or, compared, all fields of the
     /// first one of two, beside those of the second. The model holds references on the nodes.
     void setNodes(const std::vector<KnFieldContainer*>& nodes, bool compared = false);

@@ -103,18 +103,19 @@ bool EditGestures::eventFilter(QObject* watched, QEvent* event)
         // Perhaps that of undo, which takes back all that was done before.
         input();
         break;
-    case QEvent::KeyPress:
-    case QEvent::InputMethod: {
-        const auto* const key
-            = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
-        if (!key || key->isAutoRepeat() || collectsKeys(watched))
+    case QEvent::KeyPress: {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (key.isAutoRepeat() || collectsKeys(watched))
             goOn(Kind::Keys, watched);
         else
             begin(Kind::Keys, watched);
-        if (key && endsEntry(*key))
+        if (endsEntry(key))
             endAfterwards();
         break;
     }
+    case QEvent::InputMethod:
+        goOn(Kind::Keys, watched);
+        break;
     case QEvent::FocusAboutToChange:
     case QEvent::FocusOut:
     case QEvent::Hide:

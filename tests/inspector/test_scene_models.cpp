@@ -281,7 +281,7 @@ private Q_SLOTS:
         const KnNodePtr node(material);
         FieldListModel model;
         const QAbstractItemModelTester tester(&model, FailureMode::QtTest);
-        model.setNode(material);
+        model.setNodes({ material });
         const QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
         const int row = model.rowOf(&material->transparency);
         model.index(row, FieldListModel::ValueColumn).data(); // rows are watched once they are seen
@@ -299,7 +299,7 @@ private Q_SLOTS:
         auto* const view = new KnViewpoint;
         const KnNodePtr next(view);
         view->description.setValue("<b>");
-        model.setNode(view);
+        model.setNodes({ view });
         material->transparency.setValue(0.5F);
         KnSensorQueue::getInstance().process();
         QCOMPARE(changes.size(), 1);
@@ -327,7 +327,7 @@ private Q_SLOTS:
         const KnNodePtr node(static_cast<KnFieldContainer*>(
             KnType::fromName(KbName(toKbString(names[0]))).createInstance()));
         FieldListModel model;
-        model.setNode(node.get());
+        model.setNodes({ node.get() });
         const QModelIndex index = model.index(
             model.rowOf(node->getField(KbName(toKbString(names[1])))), FieldListModel::TypeColumn);
         QCOMPARE(index.data(Qt::StatusTipRole).toString(), meaning);
@@ -347,15 +347,15 @@ private Q_SLOTS:
         FieldListModel model;
         const auto shown
             = [&model] { return model.index(0, FieldListModel::ValueColumn).data().toString(); };
-        model.setNode(view);
+        model.setNodes({ view });
         model.setHeld(true);
         view->description.setValue("b");
         QCOMPARE(shown(), u"\"a\""_s);
         model.setHeld(false);
         QCOMPARE(shown(), u"\"b\""_s);
-        model.setNode(nullptr);
+        model.setNodes({});
         model.setHeld(true);
-        model.setNode(new KnViewpoint);
+        model.setNodes({ new KnViewpoint });
         static_cast<KnViewpoint*>(model.node())->description.setValue("c");
         QCOMPARE(shown(), u"\"\""_s);
     }
