@@ -28,7 +28,7 @@ EditorOpener::EditorOpener(QTreeView* list, ViewMenu* viewMenu)
 void EditorOpener::addDock(QDockWidget* dock)
 {
     dock->installEventFilter(this);
-    m_docks.removeAll(QPointer<QDockWidget>());
+    m_docks.removeAll(QPointer<QWidget>());
     m_docks.removeAll(dock);
     m_docks.append(dock);
 }
@@ -39,7 +39,7 @@ void EditorOpener::followFocus(QWidget* former, QWidget* focus)
     if (qobject_cast<QAbstractItemView*>(former) && former != m_list)
         former->removeEventFilter(this);
     const bool isInDock = std::any_of(m_docks.begin(), m_docks.end(),
-        [focus](const QPointer<QDockWidget>& dock) { return dock && dock->isAncestorOf(focus); });
+        [focus](const QPointer<QWidget>& dock) { return dock && dock->isAncestorOf(focus); });
     if (qobject_cast<QAbstractItemView*>(focus) && isInDock)
         focus->installEventFilter(this);
 }

@@ -29,5 +29,6 @@ private:
 
     QTreeView* const m_list; // the parent
     ViewMenu* const m_viewMenu; // not owned
-    QList<QPointer<QDockWidget>> m_docks; // not owned
+    // Not owned; plain widgets, since focus also moves while a dock is being destroyed.
+    QList<QPointer<QWidget>> m_docks;
 };

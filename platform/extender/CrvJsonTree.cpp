@@ -106,7 +106,7 @@ public:
         case QJsonValue::Array: {
             const QJsonArray array = value.toArray();
             StartArray();
-            for (const QJsonValue& element : array)
+            for (const auto& element : array)
                 copy(element);
             EndArray(static_cast<std::size_t>(array.size()));
             break;
