@@ -13,6 +13,7 @@
 #include "WatchPanel.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
 #include <QDockWidget>
 #include <QElapsedTimer>
@@ -31,6 +32,7 @@ namespace {
 
 constexpr int stepsInRound = 300;
 constexpr int frameTime = 16; // milliseconds
+constexpr int longestPaste = 500; // characters
 constexpr double warmingUp = 0.25; // of the time, until all that is made once has been made
 
 /// A window as after its start, whatever a person has left it like. What is kept on purpose until
@@ -55,6 +57,15 @@ void tidyUp(Stage& stage)
         console->clear();
     WatchList& watched = window.findChild<WatchPanel*>()->list();
     watched.removeRows(0, watched.rowCount());
+}
+
+/// A line keeps the room for the longest text that was ever pasted into it.
+void cutShort(QClipboard::Mode mode)
+{
+    QClipboard* const clipboard = QGuiApplication::clipboard();
+    const QString text = clipboard->text(mode);
+    if (text.size() > longestPaste)
+        clipboard->setText(text.left(longestPaste), mode);
 }
 
 void watchSome(Stage& stage)
@@ -95,6 +106,7 @@ bool Soak::run(double minutes)
     // Qt's cache has a limit of its own, far above what may grow here. It isn't cleared instead:
     // Qt would keep the names of all pixmaps that it had.
     QPixmapCache::setCacheLimit(0);
+    QObject::connect(QGuiApplication::clipboard(), &QClipboard::changed, &cutShort);
     QElapsedTimer clock;
     clock.start();
     auto orrery = std::make_unique<Orrery>();
