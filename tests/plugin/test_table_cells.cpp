@@ -87,9 +87,14 @@ private Q_SLOTS:
             { "selected", "MFString", "[ \"word\" ]", "word", "50" },
             { "just fits", "MFString", "[ \"long text\" ]", "long text", "4" },
             { "cut", "MFString", "[ \"long text\" ]", "long text", "3" },
+            { "two lines", "MFString", "[ \"one\\ntwo\" ]", "one\ntwo", "50" },
+            { "higher than its row", "MFString", "[ \"1\\n2\\n3\\n4\" ]", "1\n2\n3\n4", "50" },
+            { "from right to left", "MFString", "[ \"\u05d0\u05d1 (1)\" ]", "\u05d0\u05d1 (1)",
+                "51" },
         });
     }
 
+    /// Again and again, also while fonts and heights change.
     void aCellIsPainted()
     {
         const auto [name, type, values, shown, pixels] = textRow<5>();
@@ -97,28 +102,36 @@ private Q_SLOTS:
         const int room = pixels.toInt(); // beside the text
         const bool isSelected = name == u"selected";
         show(type, values);
-        const auto advance = [metrics = table()->fontMetrics()](
-                                 const QString& part) { return metrics.horizontalAdvance(part); };
-        QStyleOptionViewItem option;
-        option.rect = QRect(0, 0, advance(text) + room, 24);
-        option.state.setFlag(QStyle::State_Selected, isSelected);
-        QImage painted(option.rect.size(), QImage::Format_RGB32);
-        painted.fill(Qt::white);
-        QImage expected = painted.copy();
-        QPainter painter(&painted);
-        painter.setFont(table()->font());
-        table()->itemDelegate()->paint(&painter, option, table()->model()->index(0, 0));
-        painter.end();
-        painter.begin(&expected);
-        painter.setFont(table()->font());
-        if (isSelected)
-            painter.fillRect(option.rect, option.palette.highlight());
-        painter.setPen(
-            option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
-        painter.drawText(option.rect, Qt::AlignCenter,
-            room < 4 ? cellText(text, advance(text) - 1, advance) : text);
-        painter.end();
-        QCOMPARE(painted, expected);
+        const QFont plain = table()->font();
+        QFont bold = plain;
+        bold.setBold(true);
+        const std::vector<std::pair<QFont, int>> paintings
+            = { { plain, 24 }, { plain, 24 }, { plain, 23 }, { bold, 24 }, { plain, 24 } };
+        for (const auto& [font, height] : paintings) {
+            const auto advance = [metrics = QFontMetrics(font)](const QString& part) {
+                return metrics.horizontalAdvance(part);
+            };
+            QStyleOptionViewItem option;
+            option.rect = QRect(0, 0, advance(text) + room, height);
+            option.state.setFlag(QStyle::State_Selected, isSelected);
+            QImage painted(option.rect.size(), QImage::Format_RGB32);
+            painted.fill(Qt::white);
+            QImage expected = painted.copy();
+            QPainter painter(&painted);
+            painter.setFont(font);
+            table()->itemDelegate()->paint(&painter, option, table()->model()->index(0, 0));
+            painter.end();
+            painter.begin(&expected);
+            painter.setFont(font);
+            if (isSelected)
+                painter.fillRect(option.rect, option.palette.highlight());
+            painter.setPen(
+                option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+            painter.drawText(option.rect, Qt::AlignCenter,
+                room < 4 ? cellText(text, advance(text) - 1, advance) : text);
+            painter.end();
+            QCOMPARE(painted, expected);
+        }
     }
 
     void aTextIsCut_data()

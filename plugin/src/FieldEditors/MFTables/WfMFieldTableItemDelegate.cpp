@@ -3,7 +3,6 @@
 
 #include "AccessibleNames.h"
 #include "CellEditing.h"
-#include "CellText.h"
 #include "NumberLimits.h"
 #include "NumberLocale.h"
 #include "QUIntValidator.h"
@@ -113,22 +112,8 @@ void WfMFieldTableItemDelegate::paint(
     painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
 
     const QString text = m_widget->getCellText(index.row(), index.column());
-    painter->drawText(option.rect, Qt::AlignCenter,
-        shownText(text, option.rect.width() - cellPadding, painter->fontMetrics()));
+    m_drawing.draw(*painter, option.rect, cellPadding, text);
     painter->restore();
-}
-
-/// What a cell of `available` pixels shows of a text. The last result is kept, since neighbouring
-/// cells often show the same text, and a long one is slow to cut.
-QString WfMFieldTableItemDelegate::shownText(
-    const QString& text, int available, const QFontMetrics& metrics) const
-{
-    if (m_cut.text != text || m_cut.available != available || m_cut.metrics != metrics) {
-        m_cut = { text, available, metrics,
-            cellText(text, available,
-                [&metrics](const QString& part) { return metrics.horizontalAdvance(part); }) };
-    }
-    return m_cut.shown;
 }
 
 QWidget* WfMFieldTableItemDelegate::createEditor(

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "CellDrawing.h"
 #include "EditorKind.h"
 
-#include <QFontMetrics>
 #include <QItemDelegate>
 
 class CellEditing;
@@ -58,15 +58,6 @@ protected:
     WfMFieldWidget* m_widget; // not owned
 
 private:
-    /// The text that was cut last, and the result.
-    struct CutText {
-        QString text;
-        int available = 0; // pixels
-        QFontMetrics metrics { QFont() };
-        QString shown;
-    };
-
-    QString shownText(const QString& text, int available, const QFontMetrics& metrics) const;
     QWidget* makeSlider(QWidget* parent, int row, int column) const;
     QWidget* makeLineEdit(QWidget* parent) const;
 
@@ -77,5 +68,5 @@ private:
     double m_realMax = 10.0;
     double m_realMin = 0.0;
     bool m_bounded = false;
-    mutable CutText m_cut;
+    mutable CellDrawing m_drawing;
 };
