@@ -9,6 +9,7 @@
 #include "WfMFMatrixWidget.h"
 #include "WfMFVec3fWidget.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFrame>
 #include <QItemDelegate>
@@ -251,9 +252,10 @@ void ArrayContender::jump(int row)
 
 void ArrayContender::paint() const
 {
-    QApplication::sendPostedEvents();
-    QApplication::processEvents();
-    view()->viewport()->repaint();
+    // A table lays itself out in a turn of its own, and draws what has moved in the next one.
+    do
+        QApplication::sendPostedEvents();
+    while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents));
 }
 
 void ArrayContender::show() const

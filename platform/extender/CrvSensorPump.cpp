@@ -15,6 +15,10 @@
 
 namespace {
 
+// Qt draws with the lowest priority. Not for all batches: sensors that touch what they watch would
+// keep windows from being drawn.
+constexpr int beforePainting = Qt::LowEventPriority + 1;
+
 QEvent::Type batchEvent()
 {
     static const int type = QEvent::registerEventType();
@@ -55,7 +59,9 @@ void CrvSensorPump::hurry(const KnField* field)
         // Several steps may be undone in one go.
         if (m_paused && field)
             m_hurriedFields.push_back(field);
-        post();
+        QCoreApplication::removePostedEvents(this, batchEvent());
+        m_posted = false;
+        post(beforePainting);
     }
     Q_EMIT hurried(field);
 }
@@ -69,14 +75,14 @@ void CrvSensorPump::wake(void* data)
         qCritical("A watched field was written outside the user interface thread");
 }
 
-void CrvSensorPump::post()
+void CrvSensorPump::post(int priority)
 {
     if (m_posted)
         return;
     m_posted = true;
     // The event queue owns the event.
     auto event = std::make_unique<QEvent>(batchEvent());
-    QCoreApplication::postEvent(this, event.release(), Qt::LowEventPriority);
+    QCoreApplication::postEvent(this, event.release(), priority);
 }
 
 /// In milliseconds, until the next batch is due.

@@ -24,8 +24,9 @@ public:
     /// While paused, no batch is run.
     void setPaused(bool paused);
     bool isPaused() const { return m_paused; }
-    /// A person has edited something: the next batch doesn't wait for the interval. While paused,
-    /// the sensors of this field run; it may be null, and be gone by the time.
+    /// A person has edited something: the next batch comes before windows are drawn, and doesn't
+    /// wait for the interval. While paused, the sensors of this field run; it may be null, and be
+    /// gone by the time.
     void hurry(const KnField* field);
 
 Q_SIGNALS:
@@ -38,7 +39,7 @@ protected:
 
 private:
     static void wake(void* data);
-    void post();
+    void post(int priority = Qt::LowEventPriority);
     int timeToWait() const;
     void run();
 

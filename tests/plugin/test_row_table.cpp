@@ -4,6 +4,7 @@
 #include "TextRows.h"
 #include "WindowInput.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
@@ -16,6 +17,21 @@
 namespace {
 
 const char Five[] = "[ 10, 11, 12, 13, 14 ]";
+
+class PaintCount : public QObject {
+public:
+    explicit PaintCount(QWidget* widget) { widget->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count() const { return m_count; }
+
+private:
+    int m_count = 0;
+};
 
 } // namespace
 
@@ -198,6 +214,21 @@ private Q_SLOTS:
         QTRY_VERIFY(onScreen() != before);
         write(m_field, Five);
         QTRY_VERIFY(onScreen() == before);
+    }
+
+    void aRowThatGoesIsPaintedOnce()
+    {
+        table().click(1, 0);
+        const auto runEvents = [] {
+            while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents))
+                settle();
+        };
+        runEvents();
+        const PaintCount paints(table()->viewport());
+        press(Qt::Key_Delete);
+        runEvents();
+        QCOMPARE(state(), QStringLiteral("[ 10, 12, 13, 14 ] 1-4 1"));
+        QCOMPARE(paints.count(), 1);
     }
 
     void theColumnsShareTheWidthUntilOneIsSized()

@@ -79,7 +79,17 @@ void WfMFieldTable::setNumRows(int row)
     if (row != rowCount()) {
         m_cellEditing->limitRows(row);
         setRowCount(row);
+        layOutRows();
     }
+}
+
+void WfMFieldTable::update() { viewport()->update(); }
+
+/// The view by itself does this a turn later, when all has been painted, and paints it again then.
+void WfMFieldTable::layOutRows()
+{
+    if (isVisible())
+        executeDelayedItemsLayout();
 }
 
 void WfMFieldTable::showTableRow(int value)
@@ -171,6 +181,7 @@ void WfMFieldTable::addRow()
         setCurrentCell(current, 0);
         Q_EMIT currentCellChanged(current, 0, newRow, 0);
     }
+    layOutRows();
 }
 
 void WfMFieldTable::deleteRow()
@@ -196,6 +207,7 @@ void WfMFieldTable::deleteRows(int firstRow, int count)
     setAccessLimits(qMin(box->minimum(), maximum), maximum);
     execute(std::make_unique<CrvMFDeleteRowsCommand>(field(), firstRow, count));
     model()->removeRows(firstRow, count, QModelIndex());
+    layOutRows();
 }
 
 /// False while a cell is being edited: the parts of its editor pass on the keys that they have no

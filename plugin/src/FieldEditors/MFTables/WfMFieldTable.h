@@ -33,6 +33,10 @@ public:
     void dropCellEdit();
     /// The editor in a cell has written it by itself.
     void cellWritten();
+    using QTableWidget::update;
+    /// Draws the cells anew, which hides what QWidget does: that draws the frame, the corner and
+    /// the scroll bar, but not the cells.
+    void update();
     /// The field that is shown, as WfMFieldWidget::shownField.
     KnMField* field() const;
 
@@ -74,6 +78,7 @@ private:
     void moveRow(int row, int target);
     void setAccessLimits(int minimum, int maximum);
     void deleteRows(int firstRow, int count);
+    void layOutRows();
     void dropItems();
     /// A cell may have got an item.
     void noteItem(const QModelIndex& cell);

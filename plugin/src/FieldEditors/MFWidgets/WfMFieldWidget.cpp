@@ -185,9 +185,7 @@ void WfMFieldWidget::updateFromField()
     if (!mayWrite(field))
         m_table->dropCellEdit();
     m_table->setNumRows(field->getNum());
-    // The cells are drawn on the viewport, which updating the table alone doesn't repaint.
     m_table->update();
-    m_table->viewport()->update();
     m_ignoreButton->setChecked(field->isIgnored() != 0);
     updateElementCount();
 }
