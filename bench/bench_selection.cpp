@@ -83,6 +83,15 @@ private:
     std::vector<KnField*> m_all;
 };
 
+/// Draws a widget that is complete once more, with all that is in it.
+void redraw(QWidget& widget)
+{
+    widget.update();
+    for (QWidget* part : widget.findChildren<QWidget*>())
+        part->update();
+    settle();
+}
+
 /// Ends the program if the editor isn't on the screen after `select`.
 void require(const CrvFieldEditors& editor, const Work& select)
 {
@@ -219,7 +228,7 @@ void compare(const char* where, QMainWindow& window, int turns)
         for (KnField* field : fields.all()) {
             ourTimes[field].push_back(milliseconds([&] { host.select(field); }));
             QWidget& dock = host.dock(field);
-            drawTimes[field].push_back(milliseconds([&] { dock.repaint(); }));
+            drawTimes[field].push_back(milliseconds([&] { redraw(dock); }));
             const QSize size = dock.size();
             const CrvFieldEditors& like = host.editor(field);
             rivalTimes[field].push_back(milliseconds([&] { rival.select(field, like); }));
