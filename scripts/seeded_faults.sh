@@ -102,7 +102,7 @@ try() {
     [[ " ${tests[*]} " == *" $first "* ]] || first=
     outcome=
     for group in "$first" "${tests[*]}"; do
-        [ -n "$group" ] && [ -z "$outcome" ] || continue
+        if [ -z "$group" ] || [ -n "$outcome" ]; then continue; fi
         # shellcheck disable=SC2086 # names of tests have no spaces
         if ! build_tests $group; then
             outcome="stale: $(grep -m 1 'error: ' "$log")"

@@ -162,8 +162,12 @@ private Q_SLOTS:
             m_services->executeCommand(new NotingCommand);
             texts += m_services->getUndoStack()->undoText() + u';';
         }
+        m_services->selectField(&m_loose);
+        m_services->executeCommand(new NotingCommand, m_number); // which isn't the selected one
+        texts += m_services->getUndoStack()->undoText() + u';';
         QCOMPARE(texts,
-            u"Edit Material.transparency;Edit two lines %2.transparency;Edit;Edit A.transparency;"_s);
+            u"Edit Material.transparency;Edit two lines %2.transparency;Edit;Edit A.transparency;"
+            "Edit A.transparency;"_s);
     }
 
     void groupsAreOneStep_data()

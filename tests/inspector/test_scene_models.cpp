@@ -371,6 +371,8 @@ private Q_SLOTS:
         QCOMPARE(summary(KnMFInt32(), u'[' + numbers + u']'),
             u"9999 values:  "_s + numbers.left(30) + u'\u2026');
         QCOMPARE(summary(KnSFString(), u'"' + numbers + u'"'), u'"' + numbers.left(29) + u'\u2026');
+        // A tip takes mark-up for what it says.
+        QCOMPARE(toolTipText(u"<b>bold</b>"_s), u"&lt;b&gt;bold&lt;/b&gt;"_s);
     }
 
 private:

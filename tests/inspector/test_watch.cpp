@@ -8,6 +8,7 @@
 #include "TextRows.h"
 #include "WatchPanel.h"
 #include "WatchPlot.h"
+#include "WatchScale.h"
 #include "WatchedValue.h"
 
 #include <QAbstractItemModelTester>
@@ -67,6 +68,21 @@ private Q_SLOTS:
         series.columns(0, 60, 60, columns);
         QCOMPARE(columns[1], (WatchRange { 1, 2 }));
         QCOMPARE(columns[2], (WatchRange { 2, 2 }));
+    }
+
+    void linesOfTheGridAreRound_data()
+    {
+        // From, to, how many at most, and what stands at the lines.
+        addTextRows({ { "0.3", "9.7", "5", "2 4 6 8" }, { "-1", "1", "4", "-1.0 -0.5 0.0 0.5 1.0" },
+            { "1e7", "4e7", "3", "1e+07 2e+07 3e+07 4e+07" }, { "5", "5", "4", "" } });
+    }
+    void linesOfTheGridAreRound()
+    {
+        const auto [from, to, most, lines] = textRow<4>();
+        QStringList labels;
+        for (const WatchTick& tick : roundTicks(from.toDouble(), to.toDouble(), most.toInt()))
+            labels += tick.label;
+        QCOMPARE(labels.join(u' '), lines);
     }
 
     void aFieldFallsIntoNumbers_data()
