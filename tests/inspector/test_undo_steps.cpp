@@ -200,6 +200,18 @@ private Q_SLOTS:
         QTRY_COMPARE(m_stack->count(), 2);
     }
 
+    void whatIsSavedInTheMiddleOfAGestureIsReached()
+    {
+        select(u"Fan turns.startTime"_s);
+        type(u"2"_s);
+        QTRY_COMPARE(m_stack->count(), 1);
+        m_stack->setClean();
+        QTest::keyClicks(find<QLineEdit>(), u"3"_s);
+        QTRY_COMPARE(m_stack->count(), 2);
+        m_stack->undo();
+        QCOMPARE(m_inspector->text(u"Fan turns.startTime"_s), u"2"_s);
+    }
+
     void undoInTheMiddleOfAGesture()
     {
         select(u"Fan turns.startTime"_s);
