@@ -154,7 +154,10 @@ private Q_SLOTS:
         QTest::keyClick(list(), Qt::Key_Delete);
         QCOMPARE(m_inspector->text(u"Oak.transparency"_s), u"0"_s);
         QTRY_VERIFY(!isBold(u"transparency"_s));
-        // An array that is as long as its default.
+        // An array that its default begins with, and one that is as long.
+        m_inspector->field(u"Oak.shininess"_s)->set("[]");
+        QTRY_COMPARE(cell(u"shininess"_s).data().toString(), u"no values"_s);
+        QVERIFY(isBold(u"shininess"_s));
         m_inspector->field(u"Oak.shininess"_s)->set("[ 0.5 ]");
         QTRY_VERIFY(isBold(u"shininess"_s));
         stack().undo();

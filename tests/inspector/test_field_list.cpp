@@ -46,10 +46,12 @@ private Q_SLOTS:
             { "Front view.description", "a \"b\"\\c", "\"a \\\"b\\\"\\\\c\"" },
             { "Front view.description", "\"a\\nb\"", "\"a\\nb\"" },
             { "Front view.description", "position of the sun", "\"position of the sun\"" },
+            { "Front view.description", "description of it", "\"description of it\"" },
             { "Front view.description", "description \"x\"", "\"x\"" },
             { "Corners.point", "1\t2\t3\r\n4\t5\t6\r\n", "[ 1 2 3, 4 5 6 ]" },
             { "Opening hours.width", "1\t2\n3\t4", "[ 1, 2, 3, 4 ]" },
             { "Opening hours.width", "[ 7,\n 8 ]", "[ 7, 8 ]" },
+            { "Opening hours.string", "closed\n", "[ \"closed\" ]" },
             { "Opening hours.string", "9 to 5\tclosed\n\"a, b\"",
                 "[ \"9 to 5\", \"closed\", \"a, b\" ]" } });
     }

@@ -27,6 +27,10 @@ Result corvane(const QStringList& arguments, const QString& preload = QString())
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
     environment.insert(u"XDG_CONFIG_HOME"_s, settings.path());
+    // A file that can't be run is no program.
+    QFile other(settings.filePath(u"chage"_s));
+    static_cast<void>(other.open(QIODevice::WriteOnly));
+    environment.insert(u"PATH"_s, settings.path() + u':' + environment.value(u"PATH"_s));
     QStringList preloaded { sanitizer, preload };
     preloaded.removeAll(QString());
     if (!preloaded.isEmpty())
