@@ -6,12 +6,10 @@
 #include "StormUnit.h"
 
 #include <QAbstractSlider>
-#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QLineEdit>
-#include <QMenu>
 #include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTest>

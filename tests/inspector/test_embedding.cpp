@@ -13,7 +13,6 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QDeadlineTimer>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QProcess>

@@ -78,6 +78,20 @@ private Q_SLOTS:
         QTRY_COMPARE(row(u"intensity"_s), u"0.8 | 0.5 | differs"_s);
         m_inspector->clickNode(u"Oak"_s);
         QVERIFY(list()->isColumnHidden(FieldListModel::OtherColumn) && !button->isVisible());
+        // Arrays that look alike for as far as they are shown.
+        const QString many = QStringList(200, u"1"_s).join(u", "_s);
+        auto* const pine
+            = static_cast<KnFieldContainer*>(KnType::fromName("Material").createInstance());
+        pine->setName("Pine");
+        const KnNodePtr& root = CrvServices::getInstance()->getRoots().front();
+        static_cast<KnGroup*>(root.get())->addChild(pine);
+        pine->getField("shininess")->set(toKbString(u"[ %1, 2 ]"_s.arg(many)));
+        m_inspector->field(u"Oak.shininess"_s)->set(toKbString(u"[ %1, 3 ]"_s.arg(many)));
+        QCoreApplication::processEvents();
+        select({ u"Oak"_s, u"Pine"_s });
+        QTRY_VERIFY(button->isVisible());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QTRY_VERIFY(row(u"shininess"_s).endsWith(u"differs"_s));
     }
 
     // By the keys, and a node that goes meanwhile.

@@ -2,7 +2,6 @@
 #include "CrvServices.h"
 #include "InspectorFixture.h"
 #include "KnGroup.h"
-#include "KnMaterial.h"
 #include "KnNameSensor.h"
 #include "KnSensorQueue.h"
 #include "SceneFilterModel.h"
@@ -236,9 +235,9 @@ private Q_SLOTS:
                                                                                 : QString();
         };
         for (const QString& name : { u"Oak"_s, u"Material room"_s, u"Pine"_s, u"Été wall"_s,
-                 u"Oak"_s, u"Material room"_s })
+                 u"Oak"_s, u"Material room"_s, u"Pine"_s })
             QCOMPARE(press(Qt::Key_F3), name);
-        for (const QString& name : { u"Oak"_s, u"Été wall"_s, u"Pine"_s })
+        for (const QString& name : { u"Material room"_s, u"Oak"_s, u"Été wall"_s, u"Pine"_s })
             QCOMPARE(press(QKeySequence(Qt::SHIFT | Qt::Key_F3)), name);
         // What was selected goes back, without the one that is gone.
         const QKeySequence back(Qt::ALT | Qt::Key_Left);

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "CrvCommand.h"
 #include "CrvServices.h"
 #include "CrvUndoSteps.h"
 #include "EditGestures.h"

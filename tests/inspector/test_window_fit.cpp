@@ -10,8 +10,6 @@
 
 #include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QScreen>
 #include <QSplitter>
 

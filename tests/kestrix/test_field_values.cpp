@@ -75,8 +75,6 @@ private Q_SLOTS:
             doubles.push_back(
                 bits % 2 == 0 ? std::bit_cast<double>(random()) : std::pow(10.0, exponent(random)));
         }
-        for (int power = -126; power <= 127; ++power) // below which the next number is nearer
-            floats.push_back(std::ldexp(1.0F, power));
         sweep<KnMFFloat>(floats);
         sweep<KnMFDouble>(doubles);
     }
