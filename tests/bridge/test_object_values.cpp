@@ -10,7 +10,6 @@
 #include "KnSensorQueue.h"
 
 #include <QBitArray>
-#include <QBitmap>
 #include <QCursor>
 #include <QDataStream>
 #include <QEasingCurve>

@@ -283,15 +283,18 @@ private Q_SLOTS:
     // Several rows are one step, and what stands below another one isn't touched twice.
     void severalAreOneStep()
     {
+        m_room->addChild(makeLeaf(u"D"_s));
+        QCoreApplication::processEvents();
         m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
         QItemSelectionModel* const selection = m_tree->selectionModel();
         const auto rows = QItemSelectionModel::Select | QItemSelectionModel::Rows;
         selection->setCurrentIndex(index(u"A"_s), QItemSelectionModel::ClearAndSelect | rows);
         selection->select(index(u"C"_s), rows);
-        press(u"Alt+Down"_s); // C is stopped
-        QTRY_COMPARE(shown(*m_tree->model()), u"Scene(Room(B A C) Hall())"_s);
+        selection->select(index(u"D"_s), rows);
+        press(u"Alt+Down"_s); // D is stopped, and stops C
+        QTRY_COMPARE(shown(*m_tree->model()), u"Scene(Room(B A C D) Hall())"_s);
         press(u"Ctrl+D"_s);
-        QCOMPARE(outline(), u"Scene(Room(B A A C C) Hall())"_s);
+        QCOMPARE(outline(), u"Scene(Room(B A A C C D D) Hall())"_s);
         CrvServices::getInstance()->getUndoStack()->undo();
         QCoreApplication::processEvents();
         selection->setCurrentIndex(index(u"Room"_s), QItemSelectionModel::ClearAndSelect | rows);
@@ -302,7 +305,7 @@ private Q_SLOTS:
         QCOMPARE(selectedName(), u"Scene"_s);
         QCOMPARE(CrvServices::getInstance()->getUndoStack()->undoText(), u"Delete 2 nodes"_s);
         press(u"Ctrl+Z"_s);
-        QTRY_COMPARE(shown(*m_tree->model()), u"Scene(Room(B A C) Hall())"_s);
+        QTRY_COMPARE(shown(*m_tree->model()), u"Scene(Room(B A C D) Hall())"_s);
     }
 
     void severalRootsAreKeptInTheFile()

@@ -246,6 +246,9 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(press(back), u"Material room"_s);
         QCOMPARE(press(QKeySequence(Qt::ALT | Qt::Key_Right)), u"Été wall"_s);
+        QCOMPARE(press(back), u"Material room"_s);
+        QCOMPARE(press(Qt::Key_F3), u"Pine"_s); // what lay ahead is no more
+        QCOMPARE(press(back), u"Material room"_s);
     }
 
     void thePathLeadsUp()

@@ -94,6 +94,9 @@ private Q_SLOTS:
             { "SFPlane", "1 0 0 2", "x=1 y=0 z=0 distance=2" },
             { "SFRotation", "1 0 0 2", "x=1 y=0 z=0 radians=2" },
             { "SFBox2f", "1 2 3 4", "min.x=1 min.y=2 max.x=3 max.y=4" },
+            { "SFMatrix", "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16",
+                "[0][0]=1 [0][1]=2 [0][2]=3 [0][3]=4 [1][0]=5 [1][1]=6 [1][2]=7 [1][3]=8 "
+                "[2][0]=9 [2][1]=10 [2][2]=11 [2][3]=12 [3][0]=13 [3][1]=14 [3][2]=15 [3][3]=16" },
             { "MFVec2f", "[ 1 2, 3 4, 5 6 ]", "count=3" }, { "SFString", "1", "" },
             { "SFFilePathString", "1", "" }, { "SFName", "1", "" }, { "SFImage", "", "" } });
     }
@@ -164,6 +167,7 @@ private Q_SLOTS:
         QDropEvent drop(end, Qt::CopyAction, drag->mimeData(), Qt::LeftButton, {});
         QApplication::sendEvent(m_panel, &drop);
         QCOMPARE(m_panel->list().rowCount(), 3);
+        QVERIFY(m_panel->list().value(0).color() != m_panel->list().value(1).color());
         QCOMPARE(fieldName(*CrvServices::getInstance()->getSelectedField()), u"location"_s);
     }
 

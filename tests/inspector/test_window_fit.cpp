@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "CrvProfile.h"
 #include "CrvServices.h"
 #include "ElidedLabel.h"
 #include "FieldListModel.h"

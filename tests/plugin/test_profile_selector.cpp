@@ -4,7 +4,6 @@
 #include "CrvStrings.h"
 #include "EditorFixture.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QSignalSpy>
 #include <QTemporaryFile>

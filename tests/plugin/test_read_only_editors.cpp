@@ -2,9 +2,7 @@
 #include "EditorCase.h"
 #include "TextRows.h"
 
-#include <QComboBox>
 #include <QLineEdit>
-#include <QSlider>
 #include <QSpinBox>
 #include <QWheelEvent>
 

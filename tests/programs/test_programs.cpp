@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include <QProcess>
-#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
