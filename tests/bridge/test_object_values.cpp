@@ -15,6 +15,7 @@
 #include <QEasingCurve>
 #include <QFont>
 #include <QIcon>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QKeySequence>
 #include <QLine>
@@ -37,6 +38,7 @@
 #include <QVector2D>
 #include <QVector3D>
 #include <QVector4D>
+#include <QVersionNumber>
 
 #include <cmath>
 #include <limits>
@@ -152,6 +154,11 @@ private Q_SLOTS:
         row("transform", QTransform(1, 2, 3, 4, 5, 6, 7, 8, 9.5), "SFTransform",
             u"1 2 3 4 5 6 7 8 9.5"_s);
         row("font", QFont(u"Serif"_s, 11, QFont::Bold, true), "SFFont", {});
+        QFont spaced(u"Serif"_s);
+        spaced.setPixelSize(9);
+        spaced.setStyleHint(QFont::Monospace);
+        spaced.setLetterSpacing(QFont::AbsoluteSpacing, 2.5);
+        row("spaced font", spaced, "SFFont", {});
         row("keys", QKeySequence(u"Ctrl+K, Alt+F4"_s), "SFKeys", u"Ctrl+K, Alt+F4"_s);
         row("locale", QLocale(QLocale::German, QLocale::Austria), "SFLocale", u"de-AT"_s);
         row("date", QDate(2030, 12, 31), "SFDate", u"2030-12-31"_s);
@@ -194,6 +201,13 @@ private Q_SLOTS:
         row("topmost bit", QVariant::fromValue(Wide(1U << 31)), "SFChoice", u"2147483648"_s);
         row("size policy", QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed), "SFSizePolicy",
             u"Expanding Fixed"_s);
+        QSizePolicy sizes(QSizePolicy::Fixed, QSizePolicy::Preferred, QSizePolicy::Slider);
+        sizes.setHorizontalStretch(1);
+        sizes.setVerticalStretch(255);
+        sizes.setHeightForWidth(true);
+        sizes.setRetainSizeWhenHidden(true);
+        row("rich size policy", sizes, "SFSizePolicy",
+            u"Fixed Preferred stretch 1 255 Slider heightForWidth retainSizeWhenHidden"_s);
         row("cursor", QCursor(Qt::WaitCursor), "SFCursor", u"WaitCursor"_s);
         row("brush", QBrush(Qt::red, Qt::Dense4Pattern), "SFBrush", u"Dense4Pattern:#ff0000"_s);
         row("brush of a grey", QBrush(QColor::fromHsv(-1, 0, 128)), "SFBrush", {});
@@ -204,11 +218,18 @@ private Q_SLOTS:
         QBitArray bits(3);
         bits.setBit(1);
         row("bits", bits, "SFBits", u"010"_s);
+        QEasingCurve curve(QEasingCurve::InElastic);
+        curve.setAmplitude(2);
+        curve.setPeriod(0.25);
         row("curve", QEasingCurve(QEasingCurve::InOutBack), "SFEasingCurve", u"InOutBack"_s);
         row("region", QRegion(1, 2, 3, 4), "SFRegion", u"1 2 3 4"_s);
         row("polygon", QPolygon({ { 1, 2 }, { 3, 4 } }), "SFPolygon", u"1 2, 3 4"_s);
         row("polygon of doubles", QPolygonF({ { 1.5, 2 }, { 3, 4 } }), "SFPolygonF",
             u"1.5 2, 3 4"_s);
+        row("curve with numbers", curve, "SFEasingCurve", u"InElastic 2 1.7015800000000001 0.25"_s);
+        row("version", QVariant::fromValue(QVersionNumber(1, 2, 3)), "SFVersion", u"1.2.3"_s);
+        row("json value", QJsonValue(true), "SFJson", u"true"_s);
+        row("json array", QJsonArray { 1, u"a"_s }, "SFJsonArray", u"[1,\"a\"]"_s);
         row("json", QJsonObject { { u"a"_s, 1 } }, "SFJsonObject", u"{\"a\":1}"_s);
         row("date beyond ISO", QDate(12000, 1, 2), "SFDate", u"JD 6103971"_s);
         row("grey image", picture(QImage::Format_Grayscale8), "SFImage",
@@ -231,9 +252,10 @@ private Q_SLOTS:
         text = shown.text();
         QVERIFY(shown.field->set("\"\""));
         QVERIFY(shown.value() != value);
-        QVERIFY(shown.field->set(toKbString(text)));
-        QCOMPARE(shown.text(), text);
-        const QVariant back = shown.value();
+        Holder other(shown.value()); // which has never seen the value
+        QVERIFY(other.field->set(toKbString(text)));
+        QCOMPARE(other.text(), text);
+        const QVariant back = other.value();
         if (value.metaType() == QMetaType::fromType<QImage>())
             QCOMPARE(back.value<QImage>().convertToFormat(value.value<QImage>().format()),
                 value.value<QImage>());
@@ -272,6 +294,34 @@ private Q_SLOTS:
     {
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<QByteArray>("bad");
+        const auto row = [](const QVariant& value, const char* bad) {
+            QTest::newRow(bad) << value << QByteArray(bad);
+        };
+        row(QSizePolicy(), "Fixed Sometimes");
+        row(QSizePolicy(), "Fixed Fixed stretch 256 0");
+        row(QSizePolicy(), "Fixed Fixed stretch 1");
+        row(QSizePolicy(), "Fixed Fixed often");
+        row(QRegularExpression(), "/a");
+        row(QRegularExpression(), "/a/q");
+        row(QBitArray(1), "012");
+        row(QPolygon(), "1 2, 3");
+        row(QRegion(), "1 2 3 4, 5");
+        row(QEasingCurve(), "InElastic 1 2");
+        row(QEasingCurve(), "BezierSpline");
+        row(QVariant::fromValue(QVersionNumber(1)), "1.b");
+        row(QJsonValue(true), "1, 2");
+        row(QJsonObject(), "[1]");
+        row(QPen(), "red 1 SolidLine FlatCap");
+        row(QBrush(), "LinearGradientPattern:red");
+        row(QFont(), "Sans,1,2");
+        row(QPalette(), "Window");
+        row(QPalette(), "Window red green blue white");
+        row(QPalette(), "Window reddish");
+        row(QVariantMap(), "{ \"a\": }");
+        row(QVariantMap(), "QVariantHash { }");
+        row(QColor(), "hsv:0.5:2:1:1");
+        row(QColor(), "cmyk:0:0:x:0:1");
+        row(QDate(2030, 1, 1), "JD x");
         QTest::addRow("too large") << QVariant::fromValue(uchar(1)) << QByteArray("256");
         QTest::addRow("beyond 64 bits") << QVariant(qint64(1)) << QByteArray("9223372036854775808");
         QTest::addRow("three of four") << QVariant(QRect(1, 2, 3, 4)) << QByteArray("1 2 3");
@@ -373,6 +423,7 @@ private Q_SLOTS:
         row("list of variants", QVariantList { QString(), 0.1F, QVariant(), QRect(1, 2, 3, 4) },
             "[ \"1\", \"QUrl \\\"http://b\\\"\" ]");
         row("fonts", QVariant::fromValue(QList<QFont> { font }), "[ ]");
+        row("bools", QVariant::fromValue(QList<bool> { true, false }), "[ \"false\", \"1\" ]");
     }
     void anEditAndItsUndoGiveBackTheVeryValue()
     {

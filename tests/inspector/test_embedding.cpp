@@ -243,7 +243,6 @@ private Q_SLOTS:
         const Room room;
         QLineEdit hostLine;
         hostLine.show();
-        const QByteArray locale = std::setlocale(LC_ALL, nullptr);
         const auto state = [&] {
             return std::make_tuple(QApplication::style(), QApplication::palette(),
                 QGuiApplication::quitOnLastWindowClosed(), QLocale(), qApp->styleSheet(),

@@ -19,26 +19,31 @@ struct Class {
     QByteArray lines;
 };
 
-const Class classes[] = {
-    { &KnDebugError::setHandlerCallback, [] { KnDebugError::post(KnDebugError::Info, "a"); },
-        "DebugError: a\n" },
-    { &KnError::setHandlerCallback, [] { KnError::post("b"); }, "Error: b\n" },
-    { &KnErrorStack::setHandlerCallback,
-        [] {
-            KnErrorStack::post({ "c", "d" });
-        },
-        "ErrorStack: c | d\n" },
-    { &KnGLError::setHandlerCallback,
-        [] { KnGLError::post(0x0502, "drawing"), KnGLError::post(0x1f, KbString()); },
-        "GLError: drawing: GL_INVALID_OPERATION (0x0502)\n"
-        "GLError: unknown OpenGL error (0x001f)\n" },
-    { &KnMemoryError::setHandlerCallback, [] { KnMemoryError::post("e"); }, "MemoryError: e\n" },
-    { &KnReadError::setHandlerCallback, [] { KnReadError::post("f"); }, "ReadError: f\n" },
-};
+const auto& classes()
+{
+    static const Class all[] = {
+        { &KnDebugError::setHandlerCallback, [] { KnDebugError::post(KnDebugError::Info, "a"); },
+            "DebugError: a\n" },
+        { &KnError::setHandlerCallback, [] { KnError::post("b"); }, "Error: b\n" },
+        { &KnErrorStack::setHandlerCallback,
+            [] {
+                KnErrorStack::post({ "c", "d" });
+            },
+            "ErrorStack: c | d\n" },
+        { &KnGLError::setHandlerCallback,
+            [] { KnGLError::post(0x0502, "drawing"), KnGLError::post(0x1f, KbString()); },
+            "GLError: drawing: GL_INVALID_OPERATION (0x0502)\n"
+            "GLError: unknown OpenGL error (0x001f)\n" },
+        { &KnMemoryError::setHandlerCallback, [] { KnMemoryError::post("e"); },
+            "MemoryError: e\n" },
+        { &KnReadError::setHandlerCallback, [] { KnReadError::post("f"); }, "ReadError: f\n" },
+    };
+    return all;
+}
 
 void postAll()
 {
-    for (const Class& each : classes)
+    for (const Class& each : classes())
         each.post();
 }
 
@@ -50,21 +55,21 @@ class TestErrors : public QObject {
 private Q_SLOTS:
     void cleanup()
     {
-        for (const Class& each : classes)
+        for (const Class& each : classes())
             each.set(&KnErrorHandler::writeToStandardError, nullptr);
     }
 
     void eachClassHasItsOwnHandler_data()
     {
         QTest::addColumn<const Class*>("tested");
-        for (const Class& each : classes)
+        for (const Class& each : classes())
             QTest::newRow(each.lines.left(each.lines.indexOf(':'))) << &each;
     }
     void eachClassHasItsOwnHandler()
     {
         QFETCH(const Class*, tested);
         QByteArray expected;
-        for (const Class& each : classes)
+        for (const Class& each : classes())
             expected += each.lines;
         QCOMPARE(standardErrorOf(&postAll), expected);
         expected.replace(tested->lines, "");

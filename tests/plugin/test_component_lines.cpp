@@ -70,7 +70,7 @@ private Q_SLOTS:
         const QWidget* const frame = openGrid();
         const bool isPopup = frame->isWindow();
 
-        QLineEdit* const line = frame->findChildren<QLineEdit*>().last();
+        QLineEdit* const line = frame->findChildren<QLineEdit*>().constLast();
         const QString shown = line->text();
         line->setFocus();
         if (!isPopup)

@@ -6,7 +6,10 @@
 
 #include <QDockWidget>
 
+#include <string_view>
+
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -97,7 +100,7 @@ private Q_SLOTS:
         QStringList expected;
         QLatin1String capture(" out err");
         // The digits set the preference.
-        for (const char name : QByteArray("luladulashsdahdasdu1lulahsdadu0lahsdadadu")) {
+        for (const char name : "luladulashsdahdasdu1lulahsdadu0lahsdadadu"sv) {
             if (!steps.contains(name)) {
                 qputenv("CORVANE_STDOUT_CAPTURE", QByteArray(1, name));
                 capture = QLatin1String(name == '0' ? "" : " out err");

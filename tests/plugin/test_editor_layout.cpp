@@ -121,40 +121,44 @@ struct Single {
     bool spread = false; // free space on both sides of the edition frame
 };
 
-const Single singles[] = {
-    { "SFBitMask", checks("A B C"), {}, true },
-    { "SFBool", plain(u"CheckBox m_box w16 h18"_s), {}, true },
-    { "SFBox2f", plain(lineAlone + u" enabled=false *1"_s), grid(2, 2, popupLine + floats) },
-    { "SFBox3s", plain(lineAlone + u" enabled=false *1"_s), grid(2, 3, popupLine + int16) },
-    { "SFColor", channels(u"SFColor"_s, 2, "RGB") },
-    { "SFColorRGBA", channels(u"SFColorRGBA"_s, 0, "RGBA") },
-    { "SFDouble", numeric("maximum=100", doubles), sliderTabs },
-    { "SFEnum", plain(u"ComboBox comboBox *1"_s) },
-    { "SFFilePathString",
-        plain(lineAlone + u" *1, PushButton openFileButton \"...\" Maximum/Fixed *2"_s) },
-    { "SFFloat", numeric("maximum=100", floats), sliderTabs },
-    { "SFImage", plain(u"Label m_imageBox w16 h16 tracked scaledContents=true"_s),
-        u" popup Label pixmapLabel w0 h0 scaledContents=true "_s + raised },
-    { "SFInt32", numeric("maximum=100", int32), sliderTabs },
-    { "SFMatrix", plain(lineAlone + u" enabled=false *1"_s), grid(4, 4, popupLine + floats) },
-    { "SFName", plain(lineAlone + u" *1"_s) },
-    { "SFPlane", fourLines("x y z distance") },
-    { "SFRotation", fourLines("x y z radians") },
-    { "SFShort", numeric("maximum=100", int16), sliderTabs },
-    { "SFString", plain(lineAlone + u" *1"_s) },
-    { "SFUInt32", numeric("minimum=-2147483648 maximum=-2147483548", {}), sliderTabs },
-    { "SFUShort", numeric("minimum=-2147483648 maximum=-2147483548", {}), sliderTabs },
-    { "SFVec2f",
-        columns(
-            25, "SFVec2fLayout", "SFVec2fLabel", u"LineEdit SFVec2fBox h16 "_s + floats, "x y") },
-    { "SFVec2i32", spins("minimum=-2147483648 maximum=2147483647") },
-    { "SFVec2s", spins("minimum=-32768 maximum=32767") },
-    { "SFVec3f",
-        columns(20, "SFVec3fLayout", "SFVec3fLabel", u"LineEdit SFVec3fLine h16 "_s + floats + left,
-            "x y z") },
-    { "SFVec4f", fourLines("x y z w") },
-    { "SField", plain(lineAlone + u" *1"_s) },
-};
+const auto& singles()
+{
+    static const Single all[] = {
+        { "SFBitMask", checks("A B C"), {}, true },
+        { "SFBool", plain(u"CheckBox m_box w16 h18"_s), {}, true },
+        { "SFBox2f", plain(lineAlone + u" enabled=false *1"_s), grid(2, 2, popupLine + floats) },
+        { "SFBox3s", plain(lineAlone + u" enabled=false *1"_s), grid(2, 3, popupLine + int16) },
+        { "SFColor", channels(u"SFColor"_s, 2, "RGB") },
+        { "SFColorRGBA", channels(u"SFColorRGBA"_s, 0, "RGBA") },
+        { "SFDouble", numeric("maximum=100", doubles), sliderTabs },
+        { "SFEnum", plain(u"ComboBox comboBox *1"_s) },
+        { "SFFilePathString",
+            plain(lineAlone + u" *1, PushButton openFileButton \"...\" Maximum/Fixed *2"_s) },
+        { "SFFloat", numeric("maximum=100", floats), sliderTabs },
+        { "SFImage", plain(u"Label m_imageBox w16 h16 tracked scaledContents=true"_s),
+            u" popup Label pixmapLabel w0 h0 scaledContents=true "_s + raised },
+        { "SFInt32", numeric("maximum=100", int32), sliderTabs },
+        { "SFMatrix", plain(lineAlone + u" enabled=false *1"_s), grid(4, 4, popupLine + floats) },
+        { "SFName", plain(lineAlone + u" *1"_s) },
+        { "SFPlane", fourLines("x y z distance") },
+        { "SFRotation", fourLines("x y z radians") },
+        { "SFShort", numeric("maximum=100", int16), sliderTabs },
+        { "SFString", plain(lineAlone + u" *1"_s) },
+        { "SFUInt32", numeric("minimum=-2147483648 maximum=-2147483548", {}), sliderTabs },
+        { "SFUShort", numeric("minimum=-2147483648 maximum=-2147483548", {}), sliderTabs },
+        { "SFVec2f",
+            columns(25, "SFVec2fLayout", "SFVec2fLabel", u"LineEdit SFVec2fBox h16 "_s + floats,
+                "x y") },
+        { "SFVec2i32", spins("minimum=-2147483648 maximum=2147483647") },
+        { "SFVec2s", spins("minimum=-32768 maximum=32767") },
+        { "SFVec3f",
+            columns(20, "SFVec3fLayout", "SFVec3fLabel",
+                u"LineEdit SFVec3fLine h16 "_s + floats + left, "x y z") },
+        { "SFVec4f", fourLines("x y z w") },
+        { "SField", plain(lineAlone + u" *1"_s) },
+    };
+    return all;
+}
 
 QString panelOf(const Single& row)
 {
@@ -175,9 +179,9 @@ QString numberCell(const QString& validator)
     return u"LineEdit qt_lineeditor%1 maxLength=2147483647 frame=false"_s.arg(validator);
 }
 
-const QString textCell = numberCell({});
+QString textCell() { return numberCell({}); }
 
-const QString floatCell = numberCell(u' ' + floats);
+QString floatCell() { return numberCell(u' ' + floats); }
 
 QString sliderCell(const char* scale, const QString& validator)
 {
@@ -190,26 +194,30 @@ struct Array {
     QString cell;
 };
 
-const Array arrays[] = {
-    { "MFColor", "Color R G B", floatCell },
-    { "MFColorRGBA", "Color R G B A", floatCell },
-    { "MFDouble", "-", numberCell(u" DoubleValidator(-inf inf -1 ScientificNotation)"_s) },
-    { "MFFloat", "-", sliderCell("maximum=100", floats) },
-    { "MFInt32", "-", sliderCell("maximum=10", int32) },
-    { "MFMatrix", "-", textCell + u" enabled=false"_s },
-    { "MFPlane", "x y z distance", floatCell },
-    { "MFRotation", "x y z radians", floatCell },
-    { "MFShort", "-", sliderCell("maximum=10", int16) },
-    { "MFString", "-", textCell },
-    { "MFUInt32", "-", sliderCell("minimum=-2147483648 maximum=-2147483638", {}) },
-    { "MFUShort", "-", sliderCell("minimum=-2147483648 maximum=-2147483638", {}) },
-    { "MFVec2f", "x y", floatCell },
-    { "MFVec2i32", "x y", numberCell(u" IntValidator(-2147483647 2147483647)"_s) },
-    { "MFVec2s", "x y", textCell },
-    { "MFVec3f", "x y z", floatCell },
-    { "MFVec4f", "x y z w", floatCell },
-    { "MField", "-", textCell },
-};
+const auto& arrays()
+{
+    static const Array all[] = {
+        { "MFColor", "Color R G B", floatCell() },
+        { "MFColorRGBA", "Color R G B A", floatCell() },
+        { "MFDouble", "-", numberCell(u" DoubleValidator(-inf inf -1 ScientificNotation)"_s) },
+        { "MFFloat", "-", sliderCell("maximum=100", floats) },
+        { "MFInt32", "-", sliderCell("maximum=10", int32) },
+        { "MFMatrix", "-", textCell() + u" enabled=false"_s },
+        { "MFPlane", "x y z distance", floatCell() },
+        { "MFRotation", "x y z radians", floatCell() },
+        { "MFShort", "-", sliderCell("maximum=10", int16) },
+        { "MFString", "-", textCell() },
+        { "MFUInt32", "-", sliderCell("minimum=-2147483648 maximum=-2147483638", {}) },
+        { "MFUShort", "-", sliderCell("minimum=-2147483648 maximum=-2147483638", {}) },
+        { "MFVec2f", "x y", floatCell() },
+        { "MFVec2i32", "x y", numberCell(u" IntValidator(-2147483647 2147483647)"_s) },
+        { "MFVec2s", "x y", textCell() },
+        { "MFVec3f", "x y z", floatCell() },
+        { "MFVec4f", "x y z w", floatCell() },
+        { "MField", "-", textCell() },
+    };
+    return all;
+}
 
 QString panelOf(const Array& row)
 {
@@ -261,9 +269,9 @@ private Q_SLOTS:
     void panel_data()
     {
         QTest::addColumn<QString>("expected");
-        for (const Single& row : singles)
+        for (const Single& row : singles())
             QTest::newRow(row.name) << panelOf(row);
-        for (const Array& row : arrays)
+        for (const Array& row : arrays())
             QTest::newRow(row.name) << panelOf(row);
     }
     void panel()

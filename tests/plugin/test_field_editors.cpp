@@ -118,7 +118,8 @@ private Q_SLOTS:
         select(field);
         auto* const ignore = child<QAbstractButton>("m_ignoreButton");
         bool wasIgnored = false;
-        connect(ignore, &QAbstractButton::released, this,
+        const QObject listener;
+        connect(ignore, &QAbstractButton::released, &listener,
             [&wasIgnored, field] { wasIgnored = field->isIgnored(); });
         QTest::mousePress(ignore, Qt::LeftButton);
         QTest::mouseRelease(ignore, Qt::LeftButton);

@@ -14,6 +14,10 @@
 #include <QSlider>
 #include <QSpinBox>
 
+#include <string_view>
+
+using namespace std::string_view_literals;
+
 namespace {
 
 const char Five[] = "[ 10, 11, 12, 13, 14 ]";
@@ -77,12 +81,13 @@ private Q_SLOTS:
     {
         // At once, and with a refresh behind each step.
         const auto [start, steps, end] = textRow<3>();
+        const QByteArray letters = steps.toLatin1();
         QStringList ends;
         for (const bool isRefreshed : { false, true }) {
             cleanup();
             init();
             show(QStringLiteral("MFInt32"), start);
-            for (const char step : steps.toLatin1()) {
+            for (const char step : letters) {
                 take(step);
                 if (isRefreshed && step != '!')
                     settle();
@@ -123,7 +128,7 @@ private Q_SLOTS:
     {
         // From the first row up, from the last one down, and what does move.
         const QByteArray told = standardErrorOf([this] {
-            for (const char step : QByteArray("AuEvBuAv"))
+            for (const char step : "AuEvBuAv"sv)
                 take(step);
         });
         QCOMPARE(told,

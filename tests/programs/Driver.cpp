@@ -25,7 +25,12 @@ enum Status { Passed = 0, Failed = 1, NoWindow = 2, UnknownTask = 3 };
 
 constexpr char drawing[] = "draw ";
 
-QByteArray task;
+const QByteArray& task()
+{
+    static const QByteArray name = qgetenv("CORVANE_DRIVE");
+    return name;
+}
+
 QStringList* warnings = nullptr; // those that nobody expects
 QtMessageHandler formerHandler = nullptr;
 
@@ -91,18 +96,18 @@ int draw(const QString& file)
 void run()
 {
     int status = UnknownTask;
-    if (task != "alone" && !InspectorInput::isReady())
+    if (task() != "alone" && !InspectorInput::isReady())
         status = NoWindow;
-    else if (task == "alone")
+    else if (task() == "alone")
         status = Passed;
-    else if (task == "walk")
+    else if (task() == "walk")
         status = walk();
-    else if (task == "edit")
+    else if (task() == "edit")
         status = edit();
-    else if (task == "picture")
+    else if (task() == "picture")
         status = picture();
-    else if (task.startsWith(drawing))
-        status = draw(QFile::decodeName(task.mid(qstrlen(drawing))));
+    else if (task().startsWith(drawing))
+        status = draw(QFile::decodeName(task().mid(qstrlen(drawing))));
     for (const QString& warning : std::as_const(*warnings))
         print(QStringLiteral("warning: ") + warning);
     std::fflush(nullptr);
@@ -117,10 +122,10 @@ void waitForWindow()
     clock.start();
     QObject::connect(timer, &QTimer::timeout, timer, [timer, clock] {
         constexpr int patience = 60000; // milliseconds
-        const bool isReady = task == "alone" || InspectorInput::isReady();
+        const bool isReady = task() == "alone" || InspectorInput::isReady();
         if (!isReady && clock.elapsed() < patience)
             return;
-        if (isReady && !task.startsWith(drawing) && !programIsReady())
+        if (isReady && !task().startsWith(drawing) && !programIsReady())
             return;
         timer->deleteLater();
         QMetaObject::invokeMethod(QCoreApplication::instance(), &run, Qt::QueuedConnection);
@@ -130,10 +135,9 @@ void waitForWindow()
 
 void applicationMade()
 {
-    task = qgetenv("CORVANE_DRIVE");
-    qunsetenv("CORVANE_DRIVE"); // for what the program starts
-    if (task.isEmpty())
+    if (task().isEmpty())
         return;
+    qunsetenv("CORVANE_DRIVE"); // for what the program starts
     warnings = new QStringList;
     formerHandler = qInstallMessageHandler(&noteMessage);
     QMetaObject::invokeMethod(QCoreApplication::instance(), &waitForWindow, Qt::QueuedConnection);

@@ -10,8 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString guest = QStringLiteral(CORVANE_GUEST);
-const QString sanitizer = QStringLiteral(CORVANE_SANITIZER); // a library; empty without one
+QString guest() { return QStringLiteral(CORVANE_GUEST); }
+/// A library; empty without one.
+QString sanitizer() { return QStringLiteral(CORVANE_SANITIZER); }
 
 /// What a run has printed, and how it has ended.
 struct Result {
@@ -31,7 +32,7 @@ Result corvane(const QStringList& arguments, const QString& preload = QString())
     QFile other(settings.filePath(u"chage"_s));
     static_cast<void>(other.open(QIODevice::WriteOnly));
     environment.insert(u"PATH"_s, settings.path() + u':' + environment.value(u"PATH"_s));
-    QStringList preloaded { sanitizer, preload };
+    QStringList preloaded { sanitizer(), preload };
     preloaded.removeAll(QString());
     if (!preloaded.isEmpty())
         environment.insert(u"LD_PRELOAD"_s, preloaded.join(u':'));
@@ -59,12 +60,12 @@ private Q_SLOTS:
     void theObjectsOfAProgramAreShown()
     {
         const Result result
-            = corvane({ u"--select"_s, u"window"_s, u"--run"_s, guest, u"widgets"_s });
+            = corvane({ u"--select"_s, u"window"_s, u"--run"_s, guest(), u"widgets"_s });
         QCOMPARE(result.out,
             u"roots guest window Objects without a parent, on window\n0 gestures\n"
             "selected 1, 0 clicks\n1 clicks\nsecond 1\n"
             "guest second window menu Objects without a parent\ngone 1\nloose 1\ntaken 1\n"
-            "back 1, selected 1, loose 1, 1 clicks\npreload %1\nasked 0\n"_s.arg(sanitizer));
+            "back 1, selected 1, loose 1, 1 clicks\npreload %1\nasked 0\n"_s.arg(sanitizer()));
         QCOMPARE(result.status, 7);
     }
 
@@ -81,7 +82,7 @@ private Q_SLOTS:
     void guests()
     {
         const auto [arguments, output, status] = textRow<3>();
-        const Result result = run(QStringList { guest } + arguments.split(u' '));
+        const Result result = run(QStringList { guest() } + arguments.split(u' '));
         QCOMPARE(result.out.trimmed().split(u'\n'), output.split(u'|'));
         QCOMPARE(result.status, status.toInt());
     }
@@ -114,7 +115,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         QStringList words = options.split(u'|');
         words.replaceInStrings(u"%1"_s, folder.path());
-        const Result result = corvane(words + QStringList { u"--run"_s, guest, u"quiet"_s });
+        const Result result = corvane(words + QStringList { u"--run"_s, guest(), u"quiet"_s });
         QVERIFY2(result.status == status, qPrintable(result.error));
         QCOMPARE(QFileInfo::exists(folder.filePath(u"a.png"_s)), message.startsWith(u"Wrote"_s));
         if (status == 0)
@@ -126,7 +127,7 @@ private Q_SLOTS:
 
     void aListHoldsTheProgramAlone()
     {
-        const Result result = corvane({ u"--list"_s, u"--run"_s, guest, u"quiet"_s });
+        const Result result = corvane({ u"--list"_s, u"--run"_s, guest(), u"quiet"_s });
         QVERIFY(result.out.startsWith(u"guest\tQApplication\n"_s));
         QVERIFY(result.out.contains(u"\nwindow/button.text\tSFString\t\"Go\"\n"_s));
         QVERIFY(!result.out.contains(u"sceneTree"_s) && !result.out.contains(u"noise"_s));
@@ -144,7 +145,7 @@ private Q_SLOTS:
     }
     void scriptsLeadToTheProgram()
     {
-        if (!sanitizer.isEmpty())
+        if (!sanitizer().isEmpty())
             QSKIP("shells hang with the sanitizer in them");
         QFETCH(QByteArray, script);
         QFETCH(QString, error);
@@ -154,7 +155,7 @@ private Q_SLOTS:
         QVERIFY(file.setPermissions(QFile::ReadUser | QFile::ExeUser));
         file.close();
         const Result result = corvane(
-            { u"--get"_s, u"button.text"_s, u"--run"_s, file.fileName(), guest, u"quiet"_s });
+            { u"--get"_s, u"button.text"_s, u"--run"_s, file.fileName(), guest(), u"quiet"_s });
         QCOMPARE(result.out, error.isEmpty() ? u"\"Go\"\n"_s : QString());
         QVERIFY2(result.error.endsWith(error) && !result.error.contains(u"has ended"_s),
             qPrintable(result.error));
@@ -162,7 +163,7 @@ private Q_SLOTS:
 
     void whatTheCallerPreloadsStays()
     {
-        const Result result = run({ guest, u"widgets"_s }, u"libm.so.6 libc.so.6"_s);
+        const Result result = run({ guest(), u"widgets"_s }, u"libm.so.6 libc.so.6"_s);
         QVERIFY2(result.out.contains(u"libm.so.6:libc.so.6\n"_s), qPrintable(result.out));
     }
 
@@ -188,7 +189,7 @@ private Q_SLOTS:
         QCOMPARE(result.status, status.toInt());
     }
 
-    void aSignalEndsTheProgramItself() { QVERIFY(run({ guest, u"abort"_s }).crashed); }
+    void aSignalEndsTheProgramItself() { QVERIFY(run({ guest(), u"abort"_s }).crashed); }
 };
 
 QTEST_GUILESS_MAIN(TestRun)

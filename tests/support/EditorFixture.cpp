@@ -134,8 +134,8 @@ void EditorFixture::typeInto(QWidget* lineEdit, const QString& text)
 void EditorFixture::typeIntoLast(const char* objectName, const char* text)
 {
     QWidget* const frame = editor()->getFrame();
-    typeInto(
-        frame->findChildren<QLineEdit*>(QLatin1String(objectName)).last(), QString::fromUtf8(text));
+    typeInto(frame->findChildren<QLineEdit*>(QLatin1String(objectName)).constLast(),
+        QString::fromUtf8(text));
 }
 
 QUndoStack& EditorFixture::undoStack() const { return *CrvServices::getInstance()->getUndoStack(); }
