@@ -88,10 +88,11 @@ void compare(int groups, const QString& word, int turns)
     auto* const layout = new QVBoxLayout(&rival);
     layout->addWidget(theirLine);
     layout->addWidget(tree);
-    QObject::connect(theirLine, &QLineEdit::textChanged, &proxy, [&](const QString& text) {
-        proxy.setFilterFixedString(text);
-        tree->expandAll();
-    });
+    QObject::connect(
+        theirLine, &QLineEdit::textChanged, tree, [tree, filtered = &proxy](const QString& text) {
+            filtered->setFilterFixedString(text);
+            tree->expandAll();
+        });
     rival.resize(400, 600);
     rival.show();
 

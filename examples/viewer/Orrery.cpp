@@ -9,6 +9,7 @@
 #include "KnViewpoint.h"
 #include "NodeMaking.h"
 
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <string>
@@ -19,17 +20,17 @@ constexpr float turn = 2.0F * std::numbers::pi_v<float>;
 constexpr int ballFaces = 12; // from pole to pole
 constexpr int moonFaces = 6;
 
-using Colors = std::vector<std::uint32_t>; // of the bands from pole to pole: RGBA
+using Colors = std::array<std::uint32_t, ballFaces>; // of the bands from pole to pole: RGBA
 
-const Colors jupiterBands { 0xa8907aff, 0xd8c0a0ff, 0xb88a62ff, 0xe6d6b8ff, 0xc89a70ff, 0xf0e4ccff,
-    0xb07a54ff, 0xe0ccaaff, 0xc0946cff, 0xdcc8a8ff, 0xb89a80ff, 0xa08874ff };
-const Colors earthBands { 0xf0f4f8ff, 0xb8c8c0ff, 0x3f7a4aff, 0x2f6aa8ff, 0x5a8a44ff, 0x2a62a4ff,
-    0x2860a0ff, 0x4a8040ff, 0x2a62a4ff, 0x2f6aa8ff, 0xc8d8e0ff, 0xf4f8fcff };
+constexpr Colors jupiterBands { 0xa8907aff, 0xd8c0a0ff, 0xb88a62ff, 0xe6d6b8ff, 0xc89a70ff,
+    0xf0e4ccff, 0xb07a54ff, 0xe0ccaaff, 0xc0946cff, 0xdcc8a8ff, 0xb89a80ff, 0xa08874ff };
+constexpr Colors earthBands { 0xf0f4f8ff, 0xb8c8c0ff, 0x3f7a4aff, 0x2f6aa8ff, 0x5a8a44ff,
+    0x2a62a4ff, 0x2860a0ff, 0x4a8040ff, 0x2a62a4ff, 0x2f6aa8ff, 0xc8d8e0ff, 0xf4f8fcff };
 
 void paintBands(KnIndexedFaceSet& ball, const Colors& bands)
 {
     const int around = 2 * static_cast<int>(bands.size());
-    Colors colors;
+    std::vector<std::uint32_t> colors;
     for (std::size_t band = 0; band < bands.size(); ++band) {
         for (int i = 0; i < around; ++i) {
             // Every few faces the next band reaches in, so that the turning is seen.

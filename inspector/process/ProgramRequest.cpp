@@ -29,7 +29,8 @@ ProgramRequest ProgramRequest::read()
 {
     const QJsonObject object = QJsonDocument::fromJson(qgetenv(variable)).object();
     ProgramRequest request;
-    for (const auto& option : object.value(optionsKey).toArray())
+    const QJsonArray options = object.value(optionsKey).toArray();
+    for (const auto& option : options)
         request.options += option.toString();
     request.process = object.value(processKey).toInteger(-1);
     request.output = object.value(outputKey).toInt(-1);
