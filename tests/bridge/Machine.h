@@ -16,7 +16,7 @@ class Machine : public QObject {
     Q_PROPERTY(int speed READ speed WRITE setSpeed RESET resetSpeed NOTIFY speedChanged)
     Q_PROPERTY(QString label MEMBER m_label RESET resetLabel NOTIFY labelChanged)
     Q_PROPERTY(Mode mode MEMBER m_mode)
-    Q_PROPERTY(Parts parts READ parts WRITE setParts)
+    Q_PROPERTY(Parts parts READ parts WRITE setParts) // clazy:exclude=qproperty-without-notify
     Q_PROPERTY(QColor paint MEMBER m_paint)
     Q_PROPERTY(QQuaternion turn MEMBER m_turn)
     Q_PROPERTY(QList<int> steps READ steps WRITE setSteps NOTIFY stepsChanged)
@@ -25,8 +25,8 @@ class Machine : public QObject {
     Q_PROPERTY(QVariant load MEMBER m_load)
     Q_PROPERTY(QObject* next MEMBER m_next)
     Q_PROPERTY(double heat READ heat NOTIFY speedChanged) // twice the speed
-    Q_PROPERTY(int polled READ polled WRITE setPolled)
-    Q_PROPERTY(bool fuse READ fuse WRITE setFuse)
+    Q_PROPERTY(int polled READ polled WRITE setPolled) // clazy:exclude=qproperty-without-notify
+    Q_PROPERTY(bool fuse READ fuse WRITE setFuse) // clazy:exclude=qproperty-without-notify
 public:
     enum Mode { Idle, Running, Broken = 7 };
     Q_ENUM(Mode)

@@ -133,7 +133,7 @@ private Q_SLOTS:
     void somethingElseIsSelectedInASetter()
     {
         const KnNodePtr other(crvObjectNode(this));
-        connect(m_machine.get(), &Machine::labelChanged, this, [&] {
+        connect(m_machine.get(), &Machine::labelChanged, this, [this, other] {
             CrvServices::getInstance()->selectNode(other.get());
             m_node = KnNodePtr(); // the tree's rows let go of it, too
         });

@@ -223,8 +223,8 @@ private Q_SLOTS:
         curve.setPeriod(0.25);
         row("curve", QEasingCurve(QEasingCurve::InOutBack), "SFEasingCurve", u"InOutBack"_s);
         row("region", QRegion(1, 2, 3, 4), "SFRegion", u"1 2 3 4"_s);
-        row("polygon", QPolygon({ { 1, 2 }, { 3, 4 } }), "SFPolygon", u"1 2, 3 4"_s);
-        row("polygon of doubles", QPolygonF({ { 1.5, 2 }, { 3, 4 } }), "SFPolygonF",
+        row("polygon", QPolygon(QList<QPoint> { { 1, 2 }, { 3, 4 } }), "SFPolygon", u"1 2, 3 4"_s);
+        row("polygon of doubles", QPolygonF(QList<QPointF> { { 1.5, 2 }, { 3, 4 } }), "SFPolygonF",
             u"1.5 2, 3 4"_s);
         row("curve with numbers", curve, "SFEasingCurve", u"InElastic 2 1.7015800000000001 0.25"_s);
         row("version", QVariant::fromValue(QVersionNumber(1, 2, 3)), "SFVersion", u"1.2.3"_s);

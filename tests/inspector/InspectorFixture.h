@@ -11,6 +11,7 @@
 #include "SceneText.h"
 #include "Startup.h"
 
+#include <QAbstractButton>
 #include <QDockWidget>
 #include <QMenu>
 #include <QMessageBox>

@@ -105,7 +105,7 @@ private Q_SLOTS:
     {
         const auto* const hint = m_inspector->window.findChild<ElidedLabel*>(u"statusHint"_s);
         QVERIFY(hint->isVisible());
-        const auto hintAt = [this, hint](QWidget* widget) {
+        const auto hintAt = [hint](QWidget* widget) {
             widget->setFocus();
             return hint->wholeText();
         };

@@ -176,6 +176,8 @@ private Q_SLOTS:
         addTextRows({ { "missing", "No such file or directory" }, { "empty", "the file is empty" },
             { "closed", "Permission denied" }, { "folder", "this is a directory, not a file" },
             { "link to pipe", "this is a pipe, not a file" },
+            { "socket", "this is a socket, not a file" },
+            { "/proc/self/mem", "Input/output error" }, // once it is open
             { "/dev/zero", "this is a device, not a file" },
             { "huge", "the file is too large, at most 1073741824 bytes are read" } });
     }
@@ -190,6 +192,7 @@ private Q_SLOTS:
         QVERIFY(folder.mkdir(u"folder"_s));
         QCOMPARE(mkfifo(QFile::encodeName(folder.filePath(u"pipe"_s)), 0600), 0);
         QFile::link(u"pipe"_s, folder.filePath(u"link to pipe"_s));
+        QCOMPARE(mknod(QFile::encodeName(folder.filePath(u"socket"_s)), S_IFSOCK | 0600, 0), 0);
 
         if (name == u"closed"_s && geteuid() == 0)
             QSKIP("root may read everything");

@@ -51,7 +51,9 @@ private Q_SLOTS:
         QCOMPARE(
             inspector.view(u"fieldList"_s)->currentIndex().data().toString(), u"transparency"_s);
         // Filtered away, the node stays selected.
-        QTest::keyClicks(filter, u"light"_s);
+        inspector.press(QKeySequence::Find);
+        QTest::keyClicks(QApplication::focusWidget(), u"light"_s);
+        QCOMPARE(filter->text(), u"light"_s);
         QVERIFY(!tree->currentIndex().isValid() && services->getSelectedField());
         filter->clear();
         QCOMPARE(tree->currentIndex().data().toString(), u"Oak"_s);

@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QDragEnterEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QUndoStack>
 
 #include <memory>

@@ -217,11 +217,12 @@ private Q_SLOTS:
         addTextRows({ { "abxycdef", "i2-3" }, { "aef", "r1-3" }, { "xbcdefy", "r0-0 i0-0 i6-6" },
             { "bcdefa", "m0>6" }, { "afbcde", "m5>1" }, { "ebcdaf", "m4>0 m1>5" },
             { "xfbcd", "r4-4 r0-0 m3>0 i0-0" }, { "abcdef", "" }, { "abcdefa", "i6-6" },
-            { "", "r0-5" } });
+            { "", "r0-5" }, { "tsrqponmlkjihgfedcba", "anew", "abcdefghijklmnopqrst" } });
     }
     void whatHappensToRows()
     {
-        const auto [children, told] = textRow<2>();
+        const auto [children, told, other] = textRow<3>();
+        const QString start = other.isEmpty() ? u"abcdef"_s : other;
         std::map<QChar, KnNodePtr> nodes;
         auto* const group = new KnGroup;
         const auto fill = [&](const QString& names) {
@@ -232,7 +233,7 @@ private Q_SLOTS:
                 group->addChild(node.get());
             }
         };
-        fill(u"abcdef"_s);
+        fill(start);
         SceneModel model;
         model.setRoots({ KnNodePtr(group) });
         const QModelIndex parent = model.index(0, 0);
@@ -250,11 +251,14 @@ private Q_SLOTS:
             [&](const QModelIndex&, int first, int, const QModelIndex&, int to) {
                 range(u"m"_s, first, to);
             });
+        connect(&model, &QAbstractItemModel::layoutChanged, this, [&] { heard += u"anew"_s; });
+        const QPersistentModelIndex held = model.index(0, 0, parent);
         while (group->removeChild(0)) { }
         fill(children);
-        QCOMPARE(model.rowCount(parent), 6);
+        QCOMPARE(model.rowCount(parent), start.size());
         KnSensorQueue::getInstance().process();
         QCOMPARE(heard.join(u' '), told);
+        QVERIFY(!held.isValid() || model.node(held) == nodes[start.front()].get());
     }
 
     void aDroppedNodeIsGone()

@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QPixmapCache>
 #include <QScopeGuard>
+#include <QUndoStack>
 #include <QWheelEvent>
 
 /// Numbers of fields over time.
@@ -241,6 +242,16 @@ private Q_SLOTS:
         QTest::keyClick(plot, Qt::Key_End);
         QVERIFY(plot->view().isLive());
         QCOMPARE(plot->view().from(), 1.0);
+        QTest::keyClick(plot, Qt::Key_Left, Qt::ControlModifier);
+        QVERIFY(!plot->view().isLive());
+        QTest::mouseDClick(plot, Qt::LeftButton, {}, middle);
+        QVERIFY(plot->view().isLive());
+        QTest::keyClick(plot, Qt::Key_Plus);
+        QCOMPARE(plot->view().span(), 48.0);
+        QTest::keyClick(plot, Qt::Key_Minus);
+        QCOMPARE(plot->view().span(), 60.0);
+        QTest::mouseMove(m_inspector->window.windowHandle(), QPoint(1, 1));
+        QTRY_VERIFY(!plot->ruler());
     }
 
     void onlyWhatAPersonEditedIsMarked()
@@ -264,6 +275,11 @@ private Q_SLOTS:
         edit([] { CrvServices::getInstance()->getUndoStack()->undo(); });
         QCOMPARE(kinds(0), u"WEWE"_s);
         QCOMPARE(kinds(1), u"WWWW"_s);
+
+        auto* const plot = m_panel->findChild<WatchPlot*>();
+        const QImage apart = plot->grab().toImage();
+        m_panel->findChild<QAction*>(u"watchCommonScale"_s)->trigger();
+        QVERIFY(plot->grab().toImage() != apart);
     }
 
     void aDeadNodeLeavesItsCurve_data() { addTextRows({ { "while shown" }, { "while hidden" } }); }

@@ -7,6 +7,7 @@
 #include "TextRows.h"
 #include "WatchPanel.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QScreen>

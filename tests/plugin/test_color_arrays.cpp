@@ -93,7 +93,7 @@ private Q_SLOTS:
         KnMFColor& other = otherNode().MFColor;
         other.setNum(2);
         KnField& field = show(QStringLiteral("MFColor"), start);
-        QVERIFY(chooseInRow1([&](QColorDialog* dialog) {
+        QVERIFY(chooseInRow1([&, outside = outside](QColorDialog* dialog) {
             dialog->setCurrentColor(Qt::green);
             change(field, outside);
             settle();

@@ -119,9 +119,9 @@ private Q_SLOTS:
         const auto& all = plugin().getExtensions();
         CrvExtension& extension = **std::find_if(all.begin(), all.end(),
             [&](CrvExtension* each) { return each->getName() == KbString(qPrintable(dockName)); });
-        const QObject listener;
-        connect(dock, &QDockWidget::visibilityChanged, &listener,
-            [&log](bool visible) { log << (visible ? u"dock shown"_s : u"dock hidden"_s); });
+        connect(dock, &QDockWidget::visibilityChanged, this, [heard = &log](bool visible) {
+            *heard << (visible ? u"dock shown"_s : u"dock hidden"_s);
+        });
         const auto select = [&](KnTestNode* node) {
             log.clear();
             if (type == u"TestNode"_s)

@@ -118,9 +118,8 @@ private Q_SLOTS:
         select(field);
         auto* const ignore = child<QAbstractButton>("m_ignoreButton");
         bool wasIgnored = false;
-        const QObject listener;
-        connect(ignore, &QAbstractButton::released, &listener,
-            [&wasIgnored, field] { wasIgnored = field->isIgnored(); });
+        connect(ignore, &QAbstractButton::released, this,
+            [ignored = &wasIgnored, field] { *ignored = field->isIgnored(); });
         QTest::mousePress(ignore, Qt::LeftButton);
         QTest::mouseRelease(ignore, Qt::LeftButton);
         QVERIFY(wasIgnored); // before the button was clicked
