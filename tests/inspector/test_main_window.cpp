@@ -280,7 +280,8 @@ private Q_SLOTS:
         MainWindow window(&settings);
         auto* const dock = window.findChild<QDockWidget*>(u"historyDock"_s);
         bool markedInTime = false;
-        connect(dock, &QDockWidget::dockLocationChanged, this, [&] { markedInTime = marked(); });
+        connect(dock, &QDockWidget::dockLocationChanged, this,
+            [inTime = &markedInTime, marked] { *inTime = marked(); });
         QVERIFY(!marked());
         window.restoreLayout();
         QVERIFY(markedInTime);

@@ -242,10 +242,10 @@ private Q_SLOTS:
         type(u"0.25\r"_s);
         m_inspector->clickNode(u"Room"_s);
         QStringList selected;
-        const auto note = connect(
-            m_services, &CrvServices::selectedFieldChanged, this, [&](const KnField* field) {
+        const auto note = connect(m_services, &CrvServices::selectedFieldChanged, this,
+            [names = &selected](const KnField* field) {
                 if (field)
-                    selected += fieldName(*field);
+                    *names += fieldName(*field);
             });
         m_inspector->press(QKeySequence::Undo);
         QCOMPARE(m_services->getSelectedField(), m_inspector->field(u"Oak.transparency"_s));

@@ -5,10 +5,10 @@
 #include <QModelIndex>
 #include <QPointer>
 #include <QString>
+#include <QTreeView>
 #include <QWidget>
 
 class KnField;
-class QTreeView;
 
 /// The inspector's window in a program, found by the names of its widgets, and a person's mouse and
 /// keys in it.
