@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cerrno>
+
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -173,11 +175,12 @@ private Q_SLOTS:
 
     void notReadable_data()
     {
+        const QByteArray broken = qt_error_string(EIO).toUtf8(); // in the person's language
         addTextRows({ { "missing", "No such file or directory" }, { "empty", "the file is empty" },
             { "closed", "Permission denied" }, { "folder", "this is a directory, not a file" },
             { "link to pipe", "this is a pipe, not a file" },
             { "socket", "this is a socket, not a file" },
-            { "/proc/self/mem", "Input/output error" }, // once it is open
+            { "/proc/self/mem", broken.constData() }, // once it is open
             { "/dev/zero", "this is a device, not a file" },
             { "huge", "the file is too large, at most 1073741824 bytes are read" } });
     }
