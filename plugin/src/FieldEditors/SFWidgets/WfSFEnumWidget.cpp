@@ -53,8 +53,11 @@ void WfSFEnumWidget::updateFromField()
 
 void WfSFEnumWidget::applyChanges()
 {
-    // An entry may show a text that the field has no name for. The field refuses it then.
+    // An entry may show a text that the field has no name for. The field refuses it then, and the
+    // box shows what it holds.
     const KbName name = enumName(m_comboBox->currentText());
     executeFieldEdit(
         *this, m_field, [this, &name] { static_cast<KnSFEnum*>(m_field)->setValue(name); });
+    if (m_field)
+        updateFromField();
 }
