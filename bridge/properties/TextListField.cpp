@@ -63,9 +63,16 @@ KnType TextListPropertyField::getObjectType() const
     return KnType::create(name.constData(), KnMFString::getClassTypeId());
 }
 
+bool TextListPropertyField::set(const KbString& text)
+{
+    m_isRefused = false;
+    return PropertyFieldOf::set(text) && !m_isRefused;
+}
+
 bool TextListPropertyField::set1(int row, const KbString& text)
 {
-    return takesText() && KnMFString::set1(row, text);
+    m_isRefused = false;
+    return takesText() && KnMFString::set1(row, text) && !m_isRefused;
 }
 
 QVariant TextListPropertyField::freshItem() const
@@ -137,6 +144,7 @@ QVariant TextListPropertyField::valueFor(const QVariant& before)
         const std::optional<QVariant> item = hadItem && isSame(row, row)
             ? std::optional(old[row])
             : itemOf(row, hadItem && getNum() == oldNum ? old[row] : freshItem());
+        m_isRefused = !item;
         if (!item)
             return QVariant();
         items.append(*item);

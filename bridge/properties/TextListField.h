@@ -14,6 +14,8 @@ public:
 
     /// Of the name that the items' form gives it, below MFString, so that its editor serves.
     KnType getObjectType() const override;
+    using PropertyFieldOf::set;
+    bool set(const KbString& text) override;
     using KnMField::set1;
     bool set1(int row, const KbString& text) override;
 
@@ -34,6 +36,7 @@ private:
     const QMetaType m_itemType;
     const TextForm& m_form; // of the items
     FormerValues<QVariant> m_former; // items
+    bool m_isRefused = false; // a row of the last edit has a bad text
 };
 
 /// Whether the type is a list whose items have texts.

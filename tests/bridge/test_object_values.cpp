@@ -304,6 +304,7 @@ private Q_SLOTS:
         row(QRegularExpression(), "/a");
         row(QRegularExpression(), "/a/q");
         row(QBitArray(1), "012");
+        row(QVariant::fromValue(QList<bool> { true }), "[ \"maybe\" ]");
         row(QPolygon(), "1 2, 3");
         row(QRegion(), "1 2 3 4, 5");
         row(QEasingCurve(), "InElastic 1 2");
