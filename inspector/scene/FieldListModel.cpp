@@ -39,19 +39,47 @@ void FieldListModel::setNodes(const std::vector<KnFieldContainer*>& nodes, bool 
     for (KnFieldContainer* node : nodes)
         m_nodes.emplace_back(node);
     m_compared = compared && nodes.size() == 2;
-    std::vector<SharedField> fields
-        = m_compared ? fieldPairs(*nodes[0], *nodes[1]) : sharedFields(nodes);
-    ListedField::Listener& listener = *this;
-    for (SharedField& shared : fields) {
-        KnField* const other = m_compared ? shared.fields[1] : nullptr;
-        if (m_compared)
-            shared.fields.resize(1);
-        m_rows.push_back(std::make_unique<ListedField>(listener, m_defaults,
-            static_cast<int>(m_rows.size()), shared.name, std::move(shared.fields), other));
-    }
-    if (m_held)
-        std::for_each(m_rows.begin(), m_rows.end(), [](const auto& row) { row->shown(); });
+    for (SharedField& shared : currentFields())
+        addRow(rowCount(), std::move(shared));
     endResetModel();
+}
+
+std::vector<SharedField> FieldListModel::currentFields() const
+{
+    return m_compared ? fieldPairs(*m_nodes[0].get(), *m_nodes[1].get()) : sharedFields(nodes());
+}
+
+void FieldListModel::addRow(int place, SharedField shared)
+{
+    ListedField::Listener& listener = *this;
+    m_rows.insert(m_rows.begin() + place,
+        std::make_unique<ListedField>(listener, m_defaults, std::move(shared), m_compared));
+    for (int i = place; i < rowCount(); ++i)
+        m_rows[static_cast<std::size_t>(i)]->number = i;
+    if (m_held)
+        m_rows[static_cast<std::size_t>(place)]->shown();
+}
+
+bool FieldListModel::addRows()
+{
+    std::vector<SharedField> fields = currentFields();
+    const auto isRow = [this](std::size_t row, const SharedField& shared) {
+        return row < m_rows.size() && m_rows[row]->isOf(shared);
+    };
+    std::size_t kept = 0;
+    for (const SharedField& shared : fields)
+        kept += isRow(kept, shared) ? 1 : 0;
+    if (kept < m_rows.size())
+        return false;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (isRow(i, fields[i]))
+            continue;
+        const int place = static_cast<int>(i);
+        beginInsertRows({}, place, place);
+        addRow(place, std::move(fields[i]));
+        endInsertRows();
+    }
+    return true;
 }
 
 std::vector<KnFieldContainer*> FieldListModel::nodes() const
@@ -86,7 +114,7 @@ int FieldListModel::rowOf(const KnField* field) const
 {
     for (const auto& row : m_rows) {
         if (&row->field() == field)
-            return row->number();
+            return row->number;
     }
     return -1;
 }
@@ -331,5 +359,5 @@ void FieldListModel::timerEvent(QTimerEvent* event)
 
 void FieldListModel::announce(const ListedField& row, Column first)
 {
-    Q_EMIT dataChanged(index(row.number(), first), index(row.number(), OtherColumn));
+    Q_EMIT dataChanged(index(row.number, first), index(row.number, OtherColumn));
 }

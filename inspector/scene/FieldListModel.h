@@ -11,6 +11,8 @@
 #include <memory>
 #include <vector>
 
+struct SharedField;
+
 /// The fields of one node, or those that several nodes share, one row each, kept up to date by
 /// sensors. What a row shows is read when a view asks for it, cut short, and kept until the field
 /// changes. A value that has just changed is lit for a moment.
@@ -35,6 +37,9 @@ public:
     /// The fields that all of these nodes have, by name and type, or, compared, all fields of the
     /// first one of two, beside those of the second. The model holds references on the nodes.
     void setNodes(const std::vector<KnFieldContainer*>& nodes, bool compared = false);
+    /// Adds the rows of fields that the nodes have had since; the others stay as they are. False,
+    /// and nothing is done, where rows would have to go.
+    bool addRows();
     /// The first of the nodes.
     KnFieldContainer* node() const { return m_nodes.empty() ? nullptr : m_nodes.front().get(); }
     std::vector<KnFieldContainer*> nodes() const;
@@ -76,6 +81,8 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    std::vector<SharedField> currentFields() const;
+    void addRow(int place, SharedField shared);
     ListedField& row(const QModelIndex& index) const;
     QVariant cell(ListedField& row, int column, int role) const;
     QString text(ListedField& row, int column) const;

@@ -7,6 +7,7 @@
 #include "KnSFImage.h"
 #include "KnSFields.h"
 #include "SceneText.h"
+#include "SharedFields.h"
 
 #include <algorithm>
 #include <utility>
@@ -32,16 +33,26 @@ QColor colorOf(const KnField& field)
 
 } // namespace
 
-ListedField::ListedField(Listener& listener, FieldDefaults& defaults, int number, QString name,
-    std::vector<KnField*> fields, KnField* other)
+ListedField::ListedField(
+    Listener& listener, FieldDefaults& defaults, SharedField shared, bool compared)
     : m_listener(listener)
     , m_defaults(defaults)
-    , m_number(number)
-    , m_name(std::move(name))
-    , m_fields(std::move(fields))
-    , m_other(other)
+    , m_name(std::move(shared.name))
+    , m_fields(std::move(shared.fields))
     , m_sensor(sensorRan, this)
 {
+    if (!compared)
+        return;
+    m_other = m_fields.back();
+    m_fields.pop_back();
+}
+
+bool ListedField::isOf(const SharedField& shared) const
+{
+    std::vector<KnField*> fields = m_fields;
+    if (fields.size() < shared.fields.size())
+        fields.push_back(m_other);
+    return fields == shared.fields;
 }
 
 void ListedField::sensorRan(void* data, KnSensor*)

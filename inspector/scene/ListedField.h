@@ -12,6 +12,7 @@
 
 class FieldDefaults;
 class KnField;
+struct SharedField;
 
 /// A row of the list of fields: one field, or the same one of several nodes, and perhaps that of
 /// another node to compare it with. What the row shows is read when somebody asks, and kept until a
@@ -43,14 +44,15 @@ public:
         friend bool operator==(const Shown&, const Shown&) = default;
     };
 
-    /// `fields` are those of the nodes, the one of the selected node first; `other` may be null.
-    /// They and what else is named here outlive this object.
-    ListedField(Listener& listener, FieldDefaults& defaults, int number, QString name,
-        std::vector<KnField*> fields, KnField* other);
+    /// The fields are those of the nodes, that of the selected node first; `compared`, the last of
+    /// them, which may be null, is the other one to compare with. They and what else is named here
+    /// outlive this object.
+    ListedField(Listener& listener, FieldDefaults& defaults, SharedField shared, bool compared);
     ListedField(const ListedField&) = delete;
     ListedField& operator=(const ListedField&) = delete;
 
-    int number() const { return m_number; }
+    /// Whether the row was made of just these fields.
+    bool isOf(const SharedField& shared) const;
     const QString& name() const { return m_name; }
     /// That of the selected node.
     KnField& field() const { return *m_fields.front(); }
@@ -69,6 +71,7 @@ public:
     /// Whether what is shown leaves something out, which may then have changed.
     bool leavesOut();
 
+    int number = 0; // its place in the list
     // When the row has last changed, for its light.
     qint64 changedAt = 0; // by the model's clock, in milliseconds
     bool isLit = false;
@@ -81,10 +84,9 @@ private:
 
     Listener& m_listener;
     FieldDefaults& m_defaults;
-    int m_number;
     QString m_name;
     std::vector<KnField*> m_fields; // never empty
-    KnField* m_other;
+    KnField* m_other = nullptr;
     std::optional<Shown> m_shown;
     // Of the selected node's field, and of all others. They are watched when what they hold is
     // shown for the first time.

@@ -17,6 +17,7 @@ FieldFilter::FieldFilter(QTreeView* list, FieldListModel* model)
     m_action->setCheckable(true);
     connect(m_action, &QAction::toggled, this, &FieldFilter::apply);
     connect(model, &QAbstractItemModel::modelReset, this, &FieldFilter::apply);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &FieldFilter::apply);
     connect(model, &QAbstractItemModel::dataChanged, this, &FieldFilter::followChange);
 }
 

@@ -202,9 +202,12 @@ void FieldPanel::tablesChanged(void* data, KnSensor*)
         panel->showOtherFields();
 }
 
-/// The list stays where it is, and what has taken the place of the selected field is selected.
+/// The list stays where it is, and so does what is being typed while fields only come. What has
+/// taken the place of the selected field is selected.
 void FieldPanel::showOtherFields()
 {
+    if (m_model.addRows())
+        return;
     const int place = m_list->verticalScrollBar()->value();
     fill(m_model.nodes());
     m_list->verticalScrollBar()->setValue(place);

@@ -9,6 +9,7 @@
 #include <QContextMenuEvent>
 #include <QEventLoop>
 #include <QLineEdit>
+#include <QPointer>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -73,8 +74,18 @@ private Q_SLOTS:
     void aNewPropertyGetsARow()
     {
         clickField(u"label"_s);
+        QTest::keyClick(find<QTreeView>(u"fieldList"_s), Qt::Key_F2);
+        const QPointer<QLineEdit> line = find<QLineEdit>(u"fieldLine"_s);
+        QVERIFY(line);
+        QTest::keyClicks(line, u"half"_s);
         m_machine->setProperty("weight", 1.5);
         QTRY_COMPARE(typeOf(u"weight"_s), u"SFDouble"_s);
+        // What was being typed goes on as if nothing had happened.
+        QCOMPARE(m_machine->m_label, u"old"_s);
+        QVERIFY(line && line->hasFocus());
+        QTest::keyClicks(line, u" done"_s);
+        QTest::keyClick(line, Qt::Key_Return);
+        QCOMPARE(m_machine->m_label, u"half done"_s);
         QCOMPARE(currentField(), u"label"_s);
         clickField(u"weight"_s);
         QTRY_VERIFY(input<QLineEdit>());
