@@ -3,16 +3,21 @@
 
 #include "CellText.h"
 
+#include <QCache>
+#include <QFont>
 #include <QPainter>
+#include <QStaticText>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-// Several screens full. What no longer shows would stay for good otherwise.
-constexpr qsizetype mostTexts = 1024;
-// Nothing longer is kept, in code units, but for one: arrays of strings may hold whole files.
-constexpr qsizetype longestText = 1024;
+// All that is kept, in code units: two screens full of numbers. What no longer shows would stay
+// for good otherwise.
+constexpr qsizetype mostUnits = 64 * 1024;
+// What a text takes beside its own code units, as a count of them.
+constexpr qsizetype unitsOfAny = 32;
 
 /// Whether all of the text stands in one line, read from left to right.
 bool isPlainLine(const QString& text)
@@ -22,9 +27,15 @@ bool isPlainLine(const QString& text)
     });
 }
 
-} // namespace
+using Place = std::pair<QString, int>; // the whole text and the width it may have, in pixels
 
-CellDrawing::Drawn CellDrawing::prepare(const QPainter& painter, const Place& place)
+struct Drawn {
+    QString text; // cut
+    QStaticText laidOut; // of the same text
+    bool isLine = false; // whether `laidOut` looks as QPainter::drawText does
+};
+
+Drawn prepare(const QPainter& painter, const Place& place)
 {
     const QFontMetrics metrics = painter.fontMetrics();
     Drawn drawn;
@@ -39,34 +50,61 @@ CellDrawing::Drawn CellDrawing::prepare(const QPainter& painter, const Place& pl
     return drawn;
 }
 
+} // namespace
+
+/// Those that were drawn last, all in one font.
+class CellDrawing::Texts {
+public:
+    /// Holds until the next call.
+    const Drawn& find(const QPainter& painter, const Place& place)
+    {
+        if (painter.font() != m_font) {
+            m_font = painter.font();
+            m_drawn.clear();
+            m_longestPlace = {};
+        }
+        if (const Drawn* const known = m_drawn.object(place))
+            return *known;
+        // Arrays of strings may hold whole files.
+        const qsizetype units = place.first.size() + unitsOfAny;
+        if (units > mostUnits / 64) {
+            if (m_longestPlace != place) {
+                m_longest = prepare(painter, place);
+                m_longestPlace = place;
+            }
+            return m_longest;
+        }
+        auto* const made = new Drawn(prepare(painter, place));
+        m_drawn.insert(place, made, units);
+        return *made;
+    }
+
+private:
+    QFont m_font;
+    QCache<Place, Drawn> m_drawn { mostUnits };
+    Drawn m_longest; // the last one that is too long to be kept with the others
+    Place m_longestPlace;
+};
+
+CellDrawing::CellDrawing()
+{
+    static std::weak_ptr<Texts> ofAll;
+    m_texts = ofAll.lock();
+    if (!m_texts)
+        ofAll = m_texts = std::make_shared<Texts>();
+}
+
+CellDrawing::~CellDrawing() = default;
+
 void CellDrawing::draw(QPainter& painter, const QRect& cell, int padding, const QString& text)
 {
-    if (painter.font() != m_font || m_drawn.size() >= mostTexts) {
-        m_font = painter.font();
-        m_drawn.clear();
-        m_longest = {};
-        m_longestPlace = {};
-    }
-    const Place place(text, cell.width() - padding);
-    const Drawn* drawn = nullptr;
-    if (text.size() > longestText) {
-        if (m_longestPlace != place) {
-            m_longest = prepare(painter, place);
-            m_longestPlace = place;
-        }
-        drawn = &m_longest;
-    } else {
-        auto found = m_drawn.constFind(place);
-        if (found == m_drawn.constEnd())
-            found = m_drawn.insert(place, prepare(painter, place));
-        drawn = &*found;
-    }
-    const QSizeF size = drawn->laidOut.size();
+    const Drawn& drawn = m_texts->find(painter, Place(text, cell.width() - padding));
+    const QSizeF size = drawn.laidOut.size();
     // What sticks out has to be clipped.
-    if (!drawn->isLine || size.width() > cell.width() || size.height() > cell.height()) {
-        painter.drawText(cell, Qt::AlignCenter, drawn->text);
+    if (!drawn.isLine || size.width() > cell.width() || size.height() > cell.height()) {
+        painter.drawText(cell, Qt::AlignCenter, drawn.text);
         return;
     }
     const QPointF shift((cell.width() - size.width()) / 2, (cell.height() - size.height()) / 2);
-    painter.drawStaticText(cell.topLeft() + shift, drawn->laidOut);
+    painter.drawStaticText(cell.topLeft() + shift, drawn.laidOut);
 }
