@@ -22,7 +22,32 @@ int levelOf(const QModelIndex& index)
     return level;
 }
 
+bool isWithin(QModelIndex index, const QModelIndex& parent, int first, int last)
+{
+    while (index.isValid() && index.parent() != parent)
+        index = index.parent();
+    return index.isValid() && index.row() >= first && index.row() <= last;
+}
+
 } // namespace
+
+bool PaneTree::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool begins = QTreeView::edit(index, trigger, event);
+    if (begins)
+        m_edited = index;
+    return begins;
+}
+
+/// The base class ends the editing of such a row itself, but not of one below it.
+void PaneTree::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last)
+{
+    if (state() == EditingState && isWithin(m_edited, parent, first, last)) {
+        closePersistentEditor(m_edited);
+        setState(NoState);
+    }
+    QTreeView::rowsAboutToBeRemoved(parent, first, last);
+}
 
 void PaneTree::focusInEvent(QFocusEvent* event)
 {

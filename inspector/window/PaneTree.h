@@ -10,6 +10,7 @@
 class PaneTree : public QTreeView {
     Q_OBJECT
 public:
+    using QTreeView::edit;
     using QTreeView::QTreeView;
 
     /// What the view shows while it has no rows: what would fill it.
@@ -22,6 +23,8 @@ public:
     void doItemsLayout() override;
 
 protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -31,6 +34,7 @@ private:
     void fitSteps();
 
     QString m_emptyText;
+    QPersistentModelIndex m_edited; // what a person has begun to edit last
     QList<QPersistentModelIndex> m_held; // from the top of the view on; empty if nothing is held
     bool m_fitting = false;
 };

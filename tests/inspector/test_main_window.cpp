@@ -4,11 +4,14 @@
 #include "FileMenu.h"
 #include "InspectorFixture.h"
 #include "KnMFields.h"
+#include "PaneTree.h"
 #include "TextRows.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
+#include <QStandardItemModel>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -148,6 +151,25 @@ private Q_SLOTS:
         inspector.answerNextQuestion(QMessageBox::Save);
         inspector.window.close();
         QCOMPARE(inspector.savedText(place), u"\"From the door on!?\""_s);
+    }
+
+    void anEntryGoesWithTheRowsAboveIt()
+    {
+        QStandardItemModel model;
+        auto* const room = new QStandardItem(u"room"_s);
+        room->appendRow(new QStandardItem(u"lamp"_s));
+        model.appendRow(room);
+        PaneTree tree;
+        tree.setModel(&model);
+        tree.expandAll();
+        tree.show();
+        QVERIFY(QTest::qWaitForWindowActive(&tree));
+        tree.setCurrentIndex(room->child(0)->index());
+        QTest::keyClick(&tree, Qt::Key_F2);
+        const QPointer<QLineEdit> line = tree.viewport()->findChild<QLineEdit*>();
+        QVERIFY(line);
+        model.removeRow(0);
+        QVERIFY(!line || !line->isVisible());
     }
 
     void writesWithoutCommandsModify()
