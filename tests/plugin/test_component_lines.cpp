@@ -15,6 +15,7 @@ private Q_SLOTS:
         addTextRows({
             // Leaving an untouched line writes nothing.
             { "SFBox2f", "0.12345678 0 1 1", "0", "", "Tab", "0.12345678 0 1 1", "0" },
+            { "SFVec3f", "0.0733559 0 1", "0", "", "Tab", "0.0733559 0 1", "0" },
             // Leaving an edited one writes what all lines show.
             { "SFBox2f", "0.12345678 0 1 1234567", "2", "2", "Tab", "0.123457 0 2 1234570", "1" },
             { "SFColor", "0.12345678 1 2", "1", "0.25", "Tab", "0.123457 0.25 2", "1" },
@@ -40,12 +41,13 @@ private Q_SLOTS:
         line->selectAll();
         QTest::keyClicks(line, typed);
         QCOMPARE(text(&field), start);
+        const QString shown = line->text();
         QTest::keyClick(line, QKeySequence(key)[0].key());
         settle();
         QCOMPARE(text(&field), after);
         QCOMPARE(commands(), count.toInt());
-        if (!typed.isEmpty() && start == after)
-            QCOMPARE(line->text(), typed);
+        if (start == after)
+            QCOMPARE(line->text(), shown);
 
         // What wasn't applied doesn't outlive a refresh.
         write(&field, start.toLatin1());

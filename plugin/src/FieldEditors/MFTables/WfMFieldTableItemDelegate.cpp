@@ -7,12 +7,12 @@
 #include "NumberLocale.h"
 #include "QUIntValidator.h"
 #include "QULongValidator.h"
+#include "RealValidator.h"
 #include "WfIntSlider.h"
 #include "WfMFieldWidget.h"
 #include "WfRealSlider.h"
 #include "WfUIntSlider.h"
 
-#include <QDoubleValidator>
 #include <QEvent>
 #include <QIntValidator>
 #include <QLineEdit>
@@ -43,9 +43,9 @@ QValidator* makeValidator(int kind, QObject* parent)
     case UInt32Kind:
         return new QULongValidator(0, unsignedTop, parent);
     case FloatKind:
-        return new QDoubleValidator(-floatLimit, floatLimit, floatDecimals, parent);
+        return new RealValidator(-floatLimit, floatLimit, floatDecimals, parent);
     case DoubleKind:
-        return new QDoubleValidator(parent);
+        return new RealValidator(parent);
     default:
         return nullptr;
     }

@@ -4,8 +4,8 @@
 #include "CrvStrings.h"
 #include "NumberLimits.h"
 #include "NumberLocale.h"
+#include "RealValidator.h"
 
-#include <QDoubleValidator>
 #include <QLineEdit>
 
 namespace {
@@ -17,7 +17,7 @@ constexpr int doubleDecimals = 15;
 WfRealSlider::WfRealSlider(
     int inTable, CrvFieldEditors* owner, QWidget* parent, bool isFloat, int row, int column)
     : WfSliderOf(inTable, owner, parent, row, column)
-    , m_validator(new QDoubleValidator(m_lineEdit))
+    , m_validator(new RealValidator(m_lineEdit))
     , m_isFloat(isFloat)
 {
     const double limit = SliderMath::realLimit(isFloat);

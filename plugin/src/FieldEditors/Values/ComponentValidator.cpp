@@ -3,8 +3,8 @@
 
 #include "NumberLimits.h"
 #include "NumberLocale.h"
+#include "RealValidator.h"
 
-#include <QDoubleValidator>
 #include <QIntValidator>
 #include <QLineEdit>
 
@@ -21,9 +21,9 @@ QValidator* makeValidator(int kind, QLineEdit* line)
     case Int32Validator:
         return new QIntValidator(line);
     case FloatValidator:
-        return new QDoubleValidator(-floatLimit, floatLimit, floatDecimals, line);
+        return new RealValidator(-floatLimit, floatLimit, floatDecimals, line);
     case DoubleValidator:
-        return new QDoubleValidator(line);
+        return new RealValidator(line);
     default:
         return nullptr;
     }
