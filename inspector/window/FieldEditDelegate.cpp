@@ -126,18 +126,16 @@ FieldLineEdit* FieldEditDelegate::refusedLine() const
     return line && line->isRefused() ? line : nullptr;
 }
 
-bool FieldEditDelegate::write(FieldLineEdit* line)
+bool FieldEditDelegate::write(QWidget* editor)
 {
-    Q_EMIT commitData(line);
-    return !line->isRefused();
+    Q_EMIT commitData(editor);
+    return !refusedLine();
 }
 
 bool FieldEditDelegate::eventFilter(QObject* watched, QEvent* event)
 {
     auto* const line = qobject_cast<FieldLineEdit*>(watched);
-    if (!line)
-        return ValueDelegate::eventFilter(watched, event);
-    if (event->type() == QEvent::FocusOut) {
+    if (line && event->type() == QEvent::FocusOut) {
         // The line's own menu is no leaving.
         const bool isMenu = static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason;
         return !isMenu && write(line) && ValueDelegate::eventFilter(watched, event);
@@ -146,10 +144,12 @@ bool FieldEditDelegate::eventFilter(QObject* watched, QEvent* event)
         return ValueDelegate::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
     const bool isReturn = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (!isReturn && key != Qt::Key_Tab && key != Qt::Key_Backtab)
+    if (!isReturn && (!line || (key != Qt::Key_Tab && key != Qt::Key_Backtab)))
         return ValueDelegate::eventFilter(watched, event);
-    if (write(line)) {
-        Q_EMIT closeEditor(line,
+    // The base class lets the key go on to the list, where Return leads to the editor.
+    auto* const editor = qobject_cast<QWidget*>(watched);
+    if (write(editor)) {
+        Q_EMIT closeEditor(editor,
             isReturn                 ? NoHint
                 : key == Qt::Key_Tab ? EditNextItem
                                      : EditPreviousItem);

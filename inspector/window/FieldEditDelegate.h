@@ -35,7 +35,7 @@ protected:
 
 private:
     /// False for a text that is refused.
-    bool write(FieldLineEdit* line);
+    bool write(QWidget* editor);
 
     mutable QPointer<QWidget> m_editor; // the open one, a line or a combo box
 };

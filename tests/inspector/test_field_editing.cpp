@@ -144,6 +144,13 @@ private Q_SLOTS:
         QTest::keyClick(box->view(), Qt::Key_Return);
         QTRY_VERIFY(m_inspector->text(u"Opening hours.justification"_s) != u"CENTER"_s);
         QTRY_VERIFY(!open<QComboBox>());
+        // Return on the box ends the edit, and isn't taken for the list's way to the editor.
+        QTest::keyClick(list(), Qt::Key_F2);
+        QTRY_VERIFY(open<QComboBox>()->view()->isVisible());
+        open<QComboBox>()->hidePopup();
+        QTest::keyClick(open<QComboBox>(), Qt::Key_Return);
+        QTRY_VERIFY(!open<QComboBox>());
+        QVERIFY(list()->hasFocus());
         QCOMPARE(stack().count(), 1);
     }
 
