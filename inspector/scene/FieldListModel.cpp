@@ -39,8 +39,8 @@ void FieldListModel::setNodes(const std::vector<KnFieldContainer*>& nodes, bool 
     for (KnFieldContainer* node : nodes)
         m_nodes.emplace_back(node);
     m_compared = compared && nodes.size() == 2;
-    for (SharedField& shared : currentFields())
-        addRow(rowCount(), std::move(shared));
+    for (const SharedField& shared : currentFields())
+        addRow(rowCount(), shared);
     endResetModel();
 }
 
@@ -49,11 +49,11 @@ std::vector<SharedField> FieldListModel::currentFields() const
     return m_compared ? fieldPairs(*m_nodes[0].get(), *m_nodes[1].get()) : sharedFields(nodes());
 }
 
-void FieldListModel::addRow(int place, SharedField shared)
+void FieldListModel::addRow(int place, const SharedField& shared)
 {
     ListedField::Listener& listener = *this;
     m_rows.insert(m_rows.begin() + place,
-        std::make_unique<ListedField>(listener, m_defaults, std::move(shared), m_compared));
+        std::make_unique<ListedField>(listener, m_defaults, shared, m_compared));
     for (int i = place; i < rowCount(); ++i)
         m_rows[static_cast<std::size_t>(i)]->number = i;
     if (m_held)
@@ -62,7 +62,7 @@ void FieldListModel::addRow(int place, SharedField shared)
 
 bool FieldListModel::addRows()
 {
-    std::vector<SharedField> fields = currentFields();
+    const std::vector<SharedField> fields = currentFields();
     const auto isRow = [this](std::size_t row, const SharedField& shared) {
         return row < m_rows.size() && m_rows[row]->isOf(shared);
     };
@@ -76,7 +76,7 @@ bool FieldListModel::addRows()
             continue;
         const int place = static_cast<int>(i);
         beginInsertRows({}, place, place);
-        addRow(place, std::move(fields[i]));
+        addRow(place, fields[i]);
         endInsertRows();
     }
     return true;

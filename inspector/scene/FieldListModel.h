@@ -82,7 +82,7 @@ protected:
 
 private:
     std::vector<SharedField> currentFields() const;
-    void addRow(int place, SharedField shared);
+    void addRow(int place, const SharedField& shared);
     ListedField& row(const QModelIndex& index) const;
     QVariant cell(ListedField& row, int column, int role) const;
     QString text(ListedField& row, int column) const;

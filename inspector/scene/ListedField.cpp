@@ -34,11 +34,11 @@ QColor colorOf(const KnField& field)
 } // namespace
 
 ListedField::ListedField(
-    Listener& listener, FieldDefaults& defaults, SharedField shared, bool compared)
+    Listener& listener, FieldDefaults& defaults, const SharedField& shared, bool compared)
     : m_listener(listener)
     , m_defaults(defaults)
-    , m_name(std::move(shared.name))
-    , m_fields(std::move(shared.fields))
+    , m_name(shared.name)
+    , m_fields(shared.fields)
     , m_sensor(sensorRan, this)
 {
     if (!compared)

@@ -47,7 +47,8 @@ public:
     /// The fields are those of the nodes, that of the selected node first; `compared`, the last of
     /// them, which may be null, is the other one to compare with. They and what else is named here
     /// outlive this object.
-    ListedField(Listener& listener, FieldDefaults& defaults, SharedField shared, bool compared);
+    ListedField(
+        Listener& listener, FieldDefaults& defaults, const SharedField& shared, bool compared);
     ListedField(const ListedField&) = delete;
     ListedField& operator=(const ListedField&) = delete;
 

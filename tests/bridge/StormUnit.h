@@ -25,11 +25,11 @@ class StormUnit : public QObject {
     Q_PROPERTY(QStringList words MEMBER m_words)
     Q_PROPERTY(QVariant load MEMBER m_load NOTIFY loadChanged)
     Q_PROPERTY(QVariantMap parts MEMBER m_parts)
-    Q_PROPERTY(QObject* next READ next)
-    Q_PROPERTY(bool fuse READ fuse WRITE setFuse)
-    Q_PROPERTY(int mine READ mine WRITE setMine)
-    Q_PROPERTY(int trap READ trap)
-    Q_PROPERTY(int loop READ loop WRITE setLoop)
+    Q_PROPERTY(QObject* next READ next) // clazy:exclude=qproperty-without-notify
+    Q_PROPERTY(bool fuse READ fuse WRITE setFuse) // clazy:exclude=qproperty-without-notify
+    Q_PROPERTY(int mine READ mine WRITE setMine) // clazy:exclude=qproperty-without-notify
+    Q_PROPERTY(int trap READ trap) // clazy:exclude=qproperty-without-notify
+    Q_PROPERTY(int loop READ loop WRITE setLoop) // clazy:exclude=qproperty-without-notify
     Q_PROPERTY(Mode mode MEMBER m_mode)
 public:
     enum Mode { Idle, Running, Broken };

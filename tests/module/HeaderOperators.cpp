@@ -2,6 +2,7 @@
 #include "HeaderOperators.h"
 
 #include <atomic>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
