@@ -74,9 +74,8 @@ public:
             }
             return m_longest;
         }
-        auto* const made = new Drawn(prepare(painter, place));
-        m_drawn.insert(place, made, units);
-        return *made;
+        m_drawn.insert(place, new Drawn(prepare(painter, place)), units);
+        return *m_drawn.object(place);
     }
 
 private:
