@@ -44,9 +44,9 @@ public:
         friend bool operator==(const Shown&, const Shown&) = default;
     };
 
-    /// The fields are those of the nodes, that of the selected node first; `compared`, the last of
-    /// them, which may be null, is the other one to compare with. They and what else is named here
-    /// outlive this object.
+    /// `shared` has the fields of the nodes, that of the selected node first. If two nodes are
+    /// `compared`, the last one is what to compare with, and may be null. The fields, the listener
+    /// and the defaults outlive this object.
     ListedField(
         Listener& listener, FieldDefaults& defaults, const SharedField& shared, bool compared);
     ListedField(const ListedField&) = delete;

@@ -16,6 +16,8 @@ namespace {
 // All that is kept, in code units: two screens full of numbers. What no longer shows would stay
 // for good otherwise.
 constexpr qsizetype mostUnits = 64 * 1024;
+// A longer one isn't kept with the others: arrays of strings may hold whole files.
+constexpr qsizetype longestUnits = 1024;
 // What a text takes beside its own code units, as a count of them.
 constexpr qsizetype unitsOfAny = 32;
 
@@ -65,9 +67,8 @@ public:
         }
         if (const Drawn* const known = m_drawn.object(place))
             return *known;
-        // Arrays of strings may hold whole files.
         const qsizetype units = place.first.size() + unitsOfAny;
-        if (units > mostUnits / 64) {
+        if (units > longestUnits) {
             if (m_longestPlace != place) {
                 m_longest = prepare(painter, place);
                 m_longestPlace = place;
